@@ -1,0 +1,34 @@
+# Options of every target of the project: staadkit_compile_options(target).
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+function(staadkit_compile_options target)
+    target_compile_features(${target} PRIVATE cxx_std_20)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /permissive- /utf-8 /fp:precise)
+        if(STAADKIT_WARNINGS_AS_ERRORS)
+            target_compile_options(${target} PRIVATE /WX)
+        endif()
+    else()
+        # No contraction: results are the same to the last bit whatever the processor offers.
+        target_compile_options(${target} PRIVATE -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow
+            -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
+            -Wcast-align -Wunused -Wnull-dereference -Wdouble-promotion -Wimplicit-fallthrough)
+        if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+            # GCC 12 sees overlapping copies in std::string::operator=(const char*) where there are none.
+            target_compile_options(${target} PRIVATE -Wno-restrict)
+        endif()
+        if(STAADKIT_WARNINGS_AS_ERRORS)
+            target_compile_options(${target} PRIVATE -Werror)
+        endif()
+        if(STAADKIT_SANITIZE)
+            target_compile_options(${target} PRIVATE -fsanitize=${STAADKIT_SANITIZE}
+                -fno-sanitize-recover=all -fno-omit-frame-pointer)
+            target_link_options(${target} PUBLIC -fsanitize=${STAADKIT_SANITIZE})
+        endif()
+    endif()
+endfunction()

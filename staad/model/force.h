@@ -1,0 +1,49 @@
+/// Beam internal forces as the analysis printed them.
+///
+/// Columns stay in the order of the listing: no axis turn is applied to them.
+#ifndef STAAD_MODEL_FORCE_H
+#define STAAD_MODEL_FORCE_H
+
+#include "staad/model/export.h"
+
+#include <map>
+#include <vector>
+
+namespace STAAD {
+
+/// Forces and moments at one station of a member.
+struct STAAD_API ForcePoint {
+    double position = 0.0; ///< mm from the member's start
+    double f1 = 0.0;       ///< kN, first force column
+    double f2 = 0.0;       ///< kN, second force column
+    double f3 = 0.0;       ///< kN, third force column
+    double m1 = 0.0;       ///< kN*mm, first moment column
+    double m2 = 0.0;       ///< kN*mm, second moment column
+    double m3 = 0.0;       ///< kN*mm, third moment column
+};
+
+/// Forces of one member under one load case.
+struct STAAD_API BeamLoadCaseRecord {
+    int load_case = 0;                   ///< load case number as printed
+    std::vector<ForcePoint> points;      ///< stations as printed
+    std::vector<ForcePoint> pkpm_points; ///< resampled at nine stations; empty until then
+};
+
+/// Forces of one member under every load case of the listing.
+struct STAAD_API BeamForceAndMOM {
+    int beam = 0;                              ///< 1-based position in SdReader::beams
+    std::map<int, BeamLoadCaseRecord> records; ///< by load case number
+};
+
+/// One station of the list that the downstream design program takes: a point for each kind of
+/// load, all zeros where there is none.
+struct STAAD_API BeamLoadList {
+    ForcePoint dead;
+    ForcePoint live;
+    ForcePoint wind;
+    ForcePoint seismic;
+};
+
+} // namespace STAAD
+
+#endif

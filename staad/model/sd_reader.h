@@ -1,0 +1,165 @@
+/// The model container: everything that one ".std" file says, in one unit system and one frame.
+///
+/// Units: mm, kN, kN*mm. Frame: z is up; see geometry.h for the turn from the file's axes.
+#ifndef STAAD_MODEL_SD_READER_H
+#define STAAD_MODEL_SD_READER_H
+
+#include "staad/model/export.h"
+#include "staad/model/force.h"
+#include "staad/model/geometry.h"
+#include "staad/model/group.h"
+#include "staad/model/load.h"
+#include "staad/model/old_proj_maps.h"
+#include "staad/model/parameters.h"
+#include "staad/model/section.h"
+
+#include <map>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace STAAD {
+
+struct ReadReport;
+
+namespace detail {
+class line_list;
+class reading;
+struct sd_reader_access;
+} // namespace detail
+
+/// What a member is, by its declaration and its geometry.
+enum BeamType : int {
+    Beam = 0,           ///< none of the others
+    Column = 1,         ///< vertical
+    Brace = 2,          ///< declared as truss, compression-only or tension-only member
+    HorizontalBrace = 3 ///< declared so, and level
+};
+
+/// One structural model, and the operations on it.
+///
+/// A plain value: copies share nothing, a moved-from model has empty containers. It has no lock;
+/// different objects may be used in different threads at the same time.
+class STAAD_API SdReader {
+public:
+    /// Density of the isotropic concrete, kN/m3 as written in the file.
+    double concrete_density = 23.5615;
+    WindLoadParam wl_param;                                ///< for the generated wind loads
+    SeismicParam eq_param;                                 ///< for the generated seismic loads
+    std::vector<SdNode> nodes;                             ///< joints in the order read
+    std::vector<SdBeam> beams;                             ///< members in the order read
+    std::vector<SdShell> shells;                           ///< elements in the order read, then a copy of each surface
+    std::vector<SdSurface> surfaces;                       ///< surfaces in the order read
+    std::vector<SdGroup> groups;                           ///< groups in the order read
+    std::map<std::string, std::vector<unsigned>> supports; ///< description to joint numbers
+    std::map<std::string, std::vector<unsigned>> releases; ///< description to member numbers
+    std::map<int, LoadCase> load_cases;                    ///< by load case number
+    std::map<int, LoadDefination> load_defs;               ///< by definition number, as in raw_load_defs
+    std::map<int, SdUserSectionTable> usr_tables;          ///< by table number
+    std::map<int, BeamForceAndMOM> beam_forces;            ///< by 1-based position in `beams`
+    std::map<int, LoadDef_raw> raw_load_defs;              ///< definition texts, numbered from 1
+    /// Joint number to 1-based position in `nodes`: the last joint of that number. Numbers that
+    /// members or elements name and the file does not define stand here with 0.
+    std::map<int, int> node_index;
+    std::map<int, int> beam_index; ///< member number to 1-based position in `beams`, the last of that number
+    /// Element number to 1-based position in `shells`, the last of that number; 0 for numbers that
+    /// thickness or material lines name and the file does not define. Surfaces are not in it.
+    std::map<int, int> shell_index;
+    std::map<int, int> surface_index; ///< surface number to 1-based position in `surfaces`
+    std::string unit_text;            ///< the UNIT line that governs the file
+    double length_factor = 1.0;       ///< mm per length unit of the file
+    double force_factor = 1.0;        ///< kN per force unit of the file
+    double force_length_factor = 1.0; ///< kN*mm per moment unit of the file
+    OldProjMaps old_proj_maps;        ///< filled by the comparison with an earlier project
+    std::set<int> brace_ids;          ///< numbers of truss, compression-only and tension-only members
+
+    /// Empties joints, members, shells, load cases and definitions, user tables, beam forces and the
+    /// joint, member and element indexes. Everything else stays: surfaces, groups, supports,
+    /// releases, `surface_index`, `unit_text`, factors, `old_proj_maps`, `brace_ids`, density and
+    /// the parameter blocks.
+    void init();
+
+    /// Reads one ".std" file and makes it the content of this model.
+    ///
+    /// Replaces: what init() empties; what init() leaves is added to or replaced by what the file has.
+    /// Units:    afterwards lengths are mm, forces kN, moments kN*mm. A unit word that the tables do
+    ///           not know leaves its factor at 1. Only the first UNIT line counts.
+    /// Numbers:  joint references in members and shells become 1-based positions in `nodes`;
+    ///           0 stands for a joint that the file does not define.
+    /// Tolerant: unknown commands are skipped and unreadable numbers count as 0.
+    /// Returns:  true if a model was read. False if the file cannot be opened for reading and writing,
+    ///           has no UNIT line with a line after it, no JOINT COORDINATES line after that, or no
+    ///           MEMBER INCIDENCES line after the joints; what was read by then stays in the model.
+    /// Throws:   ReadLimitError, a std::bad_alloc, if lists grow past the limits of a reading (see
+    ///           reader/read_limit.h); other std::bad_alloc pass through. The model may then be
+    ///           incomplete and can be read into again.
+    /// Cost:     the text is held in memory once; time grows linearly with its length.
+    bool ReadSDDataFromStdFile(const char* path);
+    /// The same, and tells what is worth knowing about the text. The model is the same either way.
+    bool ReadSDDataFromStdFile(const char* path, ReadReport& report);
+    /// Reads the text of a ".std" file from memory; everything else as ReadSDDataFromStdFile.
+    bool ReadSDDataFromText(std::string_view text);
+    bool ReadSDDataFromText(std::string_view text, ReadReport& report);
+
+    /// Adds the members that "MEMBER TRUSS", "MEMBER COMPRESSION" and "MEMBER TENSION" lines declare
+    /// to `brace_ids`. `lines` are logical lines; the one line after each keyword is its list.
+    /// Throws ReadLimitError as ReadSDDataFromStdFile does.
+    void ReadBrace(const std::vector<std::string>& lines);
+
+    /// Number in `load_defs` of a definition equal to `def`; added under the next number if there
+    /// is none. Cost: linear in `load_defs`.
+    int add_a_load(const LoadDefination& def);
+
+    /// Family and dimensions of an "UPTABLE table row" text: whole mm joined by "X". An unknown
+    /// table gives (UnknownSection, ""), an unknown row an empty dimension text.
+    /// Throws std::out_of_range if the row is blank.
+    std::pair<UsrDefineSectionType, std::string> GetSectionFromUsrTable(const std::string& text) const;
+
+    /// What `member` is. Its joints are looked up by position; a position outside `nodes` makes it
+    /// neither column nor horizontal brace. Cost: one look-up in `brace_ids`.
+    BeamType GetBeamType(const SdBeam& member) const;
+    /// Unit normal of the shell at the 1-based position `index`, model frame, turned upward.
+    /// (0, 0, 1) if there is no such shell, if a corner is no joint, or if the shell has no area to
+    /// speak of.
+    void NormalOfShell(int index, double& nx, double& ny, double& nz) const;
+    /// 1-based position of the first member, joint or shell of that number; -1 if there is none.
+    /// Cost: a scan; for many numbers use `beam_index`, `node_index` and `shell_index`.
+    int locateBeamIndex(int id) const;
+    int locateNodeIndex(int id) const;
+    int locateShellIndex(int id) const;
+
+private:
+    friend struct detail::sd_reader_access; // lets the suite call the steps below one by one
+
+    detail::line_list get_all_lines_from_file(const char* path, const std::string& skip_prefix, detail::reading& run);
+    std::vector<unsigned> extract_id_from_items(const std::vector<std::string>& tokens, unsigned start);
+    std::vector<unsigned> extract_id_from_line(const std::string& line);
+
+    bool read_file(const char* path, detail::reading run);
+    bool read_text(std::string_view text, detail::reading run);
+    bool read_lines(detail::line_list lines, detail::reading& run);
+    void unify_staadpro_unit();
+    void read_user_table(const detail::line_list& lines, detail::reading& run);
+    void ReadGroudData(const detail::line_list& lines, std::size_t start, detail::reading& run);
+    void read_material(const detail::line_list& lines, detail::reading& run);
+    void ReadBrace(const detail::line_list& lines, detail::reading& run);
+    void read_surface(const detail::line_list& lines, detail::reading& run);
+    void read_beta(const detail::line_list& lines, detail::reading& run);
+    void read_support(const detail::line_list& lines, detail::reading& run);
+    void read_release(const detail::line_list& lines, detail::reading& run);
+    void read_offset(const detail::line_list& lines, detail::reading& run);
+    void read_load(const detail::line_list& lines, detail::reading& run);
+    LoadDefination get_load_defnination_from_string(const LoadDef_raw& raw);
+    std::string ConvertSectionParamByUnit(const std::string& text) const;
+
+    bool IsColumn(const SdBeam& member) const;
+    bool IsBrace(const SdBeam& member) const;
+    bool IsHBrace(const SdBeam& member) const;
+    void reset_member_id();
+};
+
+} // namespace STAAD
+
+#endif
