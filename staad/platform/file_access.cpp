@@ -1,0 +1,74 @@
+#include "staad/platform/file_access.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace STAAD::detail {
+namespace {
+
+struct close_file {
+    void operator()(std::FILE* file) const noexcept
+    {
+        static_cast<void>(std::fclose(file)); // nothing was written, so nothing can be lost
+    }
+};
+using open_file = std::unique_ptr<std::FILE, close_file>;
+
+constexpr std::size_t first_guess = 1 << 16;
+
+/// Size of a file that can be measured, 0 of one that cannot (a pipe, a device).
+std::size_t measured_size(std::FILE* file) noexcept
+{
+    if (std::fseek(file, 0, SEEK_END) != 0)
+        return 0;
+    const long size = std::ftell(file);
+    std::rewind(file);
+    return size > 0 ? static_cast<std::size_t>(size) : 0;
+}
+
+std::unique_ptr<char[]> uninitialised(std::size_t size)
+{
+    return std::unique_ptr<char[]>(new char[size]);
+}
+
+/// Reads to the end, whatever the file said of its size: it may grow meanwhile.
+void read_to_end(std::FILE* file, file_bytes& result)
+{
+    std::size_t capacity = measured_size(file) + 1; // one more, so that the end is met in one read
+    if (capacity == 1)
+        capacity = first_guess;
+    result.bytes = uninitialised(capacity);
+    for (;;) {
+        const std::size_t room = capacity - result.size;
+        const std::size_t taken = std::fread(result.bytes.get() + result.size, 1, room, file);
+        result.size += taken;
+        if (taken < room)
+            return;
+        std::unique_ptr<char[]> larger = uninitialised(capacity * 2);
+        std::memcpy(larger.get(), result.bytes.get(), result.size);
+        result.bytes = std::move(larger);
+        capacity *= 2;
+    }
+}
+
+} // namespace
+
+file_bytes read_updatable_file(const char* path)
+{
+    file_bytes result;
+    if (path == nullptr)
+        return result;
+    errno = 0;
+    const open_file file(std::fopen(path, "r+b"));
+    if (!file) {
+        result.outcome = errno == ENOENT ? file_bytes::state::missing : file_bytes::state::not_accessible;
+        return result;
+    }
+    static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0)); // read in one piece, past the stream's own buffer
+    read_to_end(file.get(), result);
+    result.outcome = std::ferror(file.get()) != 0 ? file_bytes::state::unreadable : file_bytes::state::read;
+    return result;
+}
+
+} // namespace STAAD::detail

@@ -1,0 +1,43 @@
+// Numbers to positions, and the renumbering before a model is written.
+
+#include "staad/model/sd_reader.h"
+
+#include <algorithm>
+
+namespace STAAD {
+namespace {
+
+template<class Records>
+int locate(const Records& records, int id)
+{
+    const auto found = std::find_if(records.begin(), records.end(), [id](const auto& r) { return r.id == id; });
+    return found == records.end() ? -1 : static_cast<int>(found - records.begin()) + 1;
+}
+
+} // namespace
+
+int SdReader::locateBeamIndex(int id) const
+{
+    return locate(beams, id);
+}
+
+int SdReader::locateNodeIndex(int id) const
+{
+    return locate(nodes, id);
+}
+
+int SdReader::locateShellIndex(int id) const
+{
+    return locate(shells, id);
+}
+
+void SdReader::reset_member_id()
+{
+    int number = 0;
+    for (SdBeam& member : beams)
+        member.id = ++number;
+    for (SdShell& shell : shells)
+        shell.id = ++number;
+}
+
+} // namespace STAAD

@@ -1,0 +1,62 @@
+/// Numbers of the file to 1-based positions, many look-ups at once. Knows no model.
+#ifndef STAAD_UNITS_NUMBER_LOOKUP_H
+#define STAAD_UNITS_NUMBER_LOOKUP_H
+
+#include <cstddef>
+#include <map>
+#include <vector>
+
+namespace STAAD::detail {
+
+/// A number of the file and a 1-based position in a list of the model.
+struct numbered_position {
+    int number;
+    int position;
+};
+
+/// Which of several records with the same number counts.
+enum class same_number { first_counts, last_counts };
+
+/// Built once from a list of records, then asked often: a table where the numbers lie close together,
+/// as they do in nearly every file, else a binary search.
+class number_lookup {
+public:
+    number_lookup() = default;
+    /// `entries` in the order of the list.
+    number_lookup(std::vector<numbered_position> entries, same_number which);
+
+    /// From records with an `id`, in list order.
+    template<class Records>
+    static number_lookup of(const Records& records, same_number which)
+    {
+        std::vector<numbered_position> entries;
+        entries.reserve(records.size());
+        for (const auto& record : records)
+            entries.push_back({record.id, static_cast<int>(entries.size()) + 1});
+        return {std::move(entries), which};
+    }
+
+    /// Position of `number`, 0 if no record has it.
+    int position(int number) const noexcept;
+
+    /// Calls `visit(numbered_position)` for every known number from `first` to `last`, ascending.
+    template<class Visit>
+    void for_each_in(int first, int last, Visit visit) const
+    {
+        for (std::size_t i = lower_bound(first); i < entries_.size() && entries_[i].number <= last; ++i)
+            visit(entries_[i]);
+    }
+
+    /// Fills an empty index with every number.
+    void fill(std::map<int, int>& index) const;
+
+private:
+    std::size_t lower_bound(int number) const noexcept;
+
+    std::vector<numbered_position> entries_; // ascending, each number once
+    std::vector<int> table_;                 // position by number - first number; empty: search
+};
+
+} // namespace STAAD::detail
+
+#endif
