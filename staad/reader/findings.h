@@ -1,0 +1,42 @@
+/// Findings that several block readers share. Each costs nothing unless someone listens.
+#ifndef STAAD_READER_FINDINGS_H
+#define STAAD_READER_FINDINGS_H
+
+#include "staad/reader/id_list.h"
+#include "staad/reader/lines.h"
+#include "staad/reader/reading.h"
+
+#include <string>
+#include <string_view>
+
+namespace STAAD::detail {
+
+/// `text` in quotes, cut short if it is long.
+std::string quote(std::string_view text);
+
+/// A data line that names nobody the model has: `what` was read for no joint, member or surface.
+void tell_nobody(std::string_view what, const text_line& line, reading& run);
+
+/// A list that ended before the words that are no part of it, at a word such as "BY" or "ALL".
+void tell_list_stopped(std::string_view word, const text_line& line, reading& run);
+
+/// A list names a single number that no joint, member or element has.
+void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run);
+
+/// The block under `keyword` ended at line `end` although that line or those behind it hold data: a
+/// comment, a leading blank or a line of another form stopped it.
+void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run);
+
+/// The block that begins at line `begin` has no line that is exactly `closing`.
+void tell_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& run);
+
+/// Lines that are nearly keywords. `missing` names the keyword for want of which no model was read;
+/// empty if one was.
+void tell_near_keywords(const line_list& lines, std::string_view missing, reading& run);
+
+/// What no block has understood, by command words. Comments do not count.
+void tell_skipped(const line_list& lines, reading& run);
+
+} // namespace STAAD::detail
+
+#endif

@@ -1,0 +1,35 @@
+#include "staad/model/load.h"
+#include "staad/reader/number.h"
+#include "staad/reader/text.h"
+
+namespace STAAD {
+namespace {
+
+/// "LOAD 1 LOADTYPE Dead TITLE DL": a header of fewer words names its case in another way.
+constexpr std::size_t words_of_full_header = 6;
+
+void append_word(std::string& text, std::string_view word)
+{
+    if (!text.empty())
+        text += ' ';
+    text += word;
+}
+
+} // namespace
+
+LoadCase::LoadCase(const std::string& line)
+{
+    if (detail::count_words(line) < words_of_full_header)
+        return;
+    detail::word_cursor words(line);
+    words.next_or_empty(); // LOAD
+    id = detail::to_int(words.next_or_empty());
+    if (words.next_or_empty() != "LOADTYPE")
+        return;
+    std::string_view word;
+    while (words.next(word) && word != "TITLE")
+        append_word(type_text, word);
+    title = detail::join_words(words);
+}
+
+} // namespace STAAD

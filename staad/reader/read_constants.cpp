@@ -1,0 +1,133 @@
+// Beta angles, the density of the concrete, and members declared as braces.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/findings.h"
+#include "staad/reader/id_list.h"
+#include "staad/reader/number.h"
+#include "staad/reader/text.h"
+#include "staad/writer/number_text.h"
+
+#include <algorithm>
+
+namespace STAAD {
+namespace {
+
+constexpr double default_concrete_density = 23.5615; // kN/m3
+
+bool declares_braces(std::string_view line) noexcept
+{
+    return detail::starts_with(line, "MEMBER TRUSS") || detail::starts_with(line, "MEMBER COMPRESSION") ||
+           detail::starts_with(line, "MEMBER TENSION");
+}
+
+/// Calls `take_list(i)` for the line after each brace keyword. That line is a list even if it looks
+/// like a keyword; a keyword on the last line has none.
+template<class TextAt, class TakeList>
+void for_each_brace_list(std::size_t line_count, TextAt text_at, TakeList take_list)
+{
+    for (std::size_t i = 0; i + 1 < line_count; ++i)
+        if (declares_braces(text_at(i)))
+            take_list(++i);
+}
+
+void insert_braces(std::set<int>& braces, std::string_view line, detail::id_budget& budget)
+{
+    detail::id_list_walker walker(detail::word_cursor(line), detail::general_id_list);
+    detail::append_ids(braces, walker, budget);
+}
+
+/// The last line that contains `text`; size() if there is none.
+std::size_t find_last_containing(const detail::line_list& lines, std::string_view text) noexcept
+{
+    for (std::size_t i = lines.size(); i > 0; --i)
+        if (detail::contains(lines[i - 1].text, text))
+            return i - 1;
+    return lines.size();
+}
+
+/// The first line from `begin` to `end` that contains `text`; `end` if there is none.
+std::size_t find_containing(const detail::line_list& lines, std::size_t begin, std::size_t end,
+                            std::string_view text) noexcept
+{
+    while (begin < end && !detail::contains(lines[begin].text, text))
+        ++begin;
+    return begin;
+}
+
+} // namespace
+
+void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
+{
+    const std::size_t first = lines.find_start("BETA ");
+    if (first == lines.size())
+        return;
+    const auto members = detail::number_lookup::of(beams, detail::same_number::first_counts);
+    for (std::size_t i = first; i < lines.size(); i = lines.find_start("BETA ", i + 1)) {
+        run.used.mark(i);
+        detail::word_cursor words(lines[i].text);
+        words.next_or_empty(); // BETA
+        const double angle = detail::to_real(words.next_or_empty());
+        words.next_or_empty(); // MEMB
+        bool anyone = false;
+        detail::id_list_walker walker(words, detail::general_id_list);
+        for (detail::id_run ids; walker.next(ids);) {
+            members.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
+                beams[static_cast<std::size_t>(entry.position) - 1].beta = angle;
+                anyone = true;
+            });
+        }
+        if (!anyone)
+            detail::tell_nobody("beta angle", lines[i], run);
+    }
+}
+
+void SdReader::read_material(const detail::line_list& lines, detail::reading& run)
+{
+    concrete_density = default_concrete_density;
+    const std::size_t start = find_last_containing(lines, "DEFINE MATERIAL START");
+    const std::size_t end = find_last_containing(lines, "END DEFINE MATERIAL");
+    if (start == lines.size() || end == lines.size() || end <= start)
+        return;
+    run.used.mark(start, end + 1);
+    const std::size_t concrete = find_containing(lines, start, end, "ISOTROPIC CONCRETE");
+    if (concrete == end)
+        return;
+    // The first line that does *not* begin with DENSITY is taken, in most files the one of E. Earlier
+    // projects were converted so, and the density must come out as it did for them.
+    std::size_t chosen = concrete + 1;
+    while (chosen < end && detail::starts_with(lines[chosen].text, "DENSITY"))
+        ++chosen;
+    if (chosen >= end)
+        return;
+    const std::string_view line = lines[chosen].text;
+    constexpr std::size_t keyword_size = 7; // of DENSITY
+    concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));
+    if (run.findings.listening())
+        run.findings.warn("density", lines[chosen].place,
+                          "the concrete density is taken from " + detail::quote(line) + " and becomes " +
+                              detail::format_real(concrete_density));
+}
+
+void SdReader::ReadBrace(const std::vector<std::string>& lines)
+{
+    detail::id_budget budget;
+    for_each_brace_list(
+        lines.size(), [&](std::size_t i) -> std::string_view { return lines[i]; },
+        [&](std::size_t i) {
+            budget.start_list(0, 0);
+            insert_braces(brace_ids, lines[i], budget);
+        });
+}
+
+void SdReader::ReadBrace(const detail::line_list& lines, detail::reading& run)
+{
+    for_each_brace_list(
+        lines.size(), [&](std::size_t i) { return lines[i].text; },
+        [&](std::size_t i) {
+            run.used.mark(i - 1, i + 1);
+            run.start_list(lines[i].place);
+            insert_braces(brace_ids, lines[i].text, run.budget);
+        });
+}
+
+} // namespace STAAD

@@ -1,0 +1,190 @@
+// The order in which the blocks of a text are read.
+
+#include "staad/model/sd_reader.h"
+#include "staad/platform/file_access.h"
+#include "staad/reader/findings.h"
+#include "staad/reader/read_geometry.h"
+#include "staad/reader/read_materials.h"
+#include "staad/reader/read_properties.h"
+#include "staad/units/unit_factors.h"
+
+#include <algorithm>
+
+namespace STAAD {
+namespace {
+
+using detail::line_list;
+using detail::reading;
+
+/// Comment lines of generated data, which a written model carries and no reading wants.
+constexpr const char* generated_comment = "*{";
+
+constexpr detail::line_place whole_text{0, 0};
+
+void tell_file_trouble(detail::file_bytes::state outcome, reading& run)
+{
+    using state = detail::file_bytes::state;
+    if (outcome == state::missing)
+        run.findings.fail("file-missing", whole_text, "the file does not exist");
+    else if (outcome == state::not_accessible)
+        run.findings.fail("file-access", whole_text, "the file cannot be opened for reading and writing");
+    else if (outcome == state::unreadable)
+        run.findings.fail("file-unreadable", whole_text, "the file cannot be read to its end");
+}
+
+/// Lower-cased words of a UNIT line behind UNIT, without the first hyphen of each.
+std::vector<std::string> unit_words(std::string_view line)
+{
+    std::vector<std::string> words = SplitString(detail::to_lower_ascii(line), " ");
+    if (!words.empty())
+        words.erase(words.begin());
+    return words;
+}
+
+/// One finding per word of the governing UNIT line that the tables do not know.
+void tell_unit_words(const detail::text_line& line, reading& run)
+{
+    const detail::unit_factors factors = detail::factors_of_unit_line(line.text);
+    if (factors.is_short)
+        run.findings.warn("unit-short", line.place,
+                          detail::quote(line.text) + " has no force word: lengths count as mm, forces as kN");
+    const auto tell = [&](const std::string& word, const char* what, const char* counts_as) {
+        if (!word.empty())
+            run.findings.warn("unit-word", line.place,
+                              detail::quote(word) + " is not a known " + what + " unit: " + counts_as);
+    };
+    tell(factors.unknown_length, "length", "lengths count as mm");
+    tell(factors.unknown_force, "force", "forces count as kN");
+    tell(factors.unknown_moment, "moment", "printed moments count as kN*mm");
+}
+
+/// Later UNIT lines change nothing; one with words that the first does not have means trouble.
+void tell_later_units(const line_list& lines, std::size_t governing, reading& run)
+{
+    const std::vector<std::string> known = unit_words(lines[governing].text);
+    for (std::size_t i = lines.find_start("UNIT", governing + 1); i < lines.size();
+         i = lines.find_start("UNIT", i + 1)) {
+        run.used.mark(i);
+        const std::vector<std::string> words = unit_words(lines[i].text);
+        const bool same = std::all_of(words.begin(), words.end(), [&](const std::string& word) {
+            return std::find(known.begin(), known.end(), word) != known.end();
+        });
+        if (!same)
+            run.findings.warn("unit-later", lines[i].place,
+                              detail::quote(lines[i].text) + " changes nothing: the whole file is read in " +
+                                  detail::quote(lines[governing].text));
+    }
+}
+
+void tell_units(const line_list& lines, std::size_t governing, reading& run)
+{
+    run.used.mark(governing);
+    if (!run.findings.listening())
+        return;
+    tell_unit_words(lines[governing], run);
+    tell_later_units(lines, governing, run);
+}
+
+/// No model: why, and the nearest line that looks like the one that is missing.
+bool no_model(std::string_view code, std::string_view missing, std::string why, const line_list& lines, reading& run)
+{
+    if (!lines.empty() || run.findings.empty()) // a file that could not be read has been told of
+        run.findings.fail(code, whole_text, std::move(why));
+    detail::tell_near_keywords(lines, missing, run);
+    return false;
+}
+
+} // namespace
+
+line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& run)
+{
+    detail::file_bytes file = detail::read_updatable_file(path);
+    if (file.outcome == detail::file_bytes::state::read)
+        return {std::move(file.bytes), file.size, skip_prefix};
+    tell_file_trouble(file.outcome, run);
+    return {};
+}
+
+bool SdReader::read_file(const char* path, reading run)
+{
+    init();
+    return read_lines(get_all_lines_from_file(path, generated_comment, run), run);
+}
+
+bool SdReader::read_text(std::string_view text, reading run)
+{
+    init();
+    return read_lines(line_list::from_text(text, generated_comment), run);
+}
+
+bool SdReader::ReadSDDataFromStdFile(const char* path)
+{
+    return read_file(path, reading(nullptr));
+}
+
+bool SdReader::ReadSDDataFromStdFile(const char* path, ReadReport& report)
+{
+    return read_file(path, reading(&report));
+}
+
+bool SdReader::ReadSDDataFromText(std::string_view text)
+{
+    return read_text(text, reading(nullptr));
+}
+
+bool SdReader::ReadSDDataFromText(std::string_view text, ReadReport& report)
+{
+    return read_text(text, reading(&report));
+}
+
+bool SdReader::read_lines(line_list lines, reading& run)
+{
+    lines.prepare();
+    if (run.findings.listening())
+        run.used.start(lines.size());
+    read_user_table(lines, run);
+
+    const std::size_t unit = lines.find_start("UNIT");
+    if (unit >= lines.size() || unit + 1 == lines.size())
+        return no_model("no-unit", "UNIT", "no line begins with 'UNIT' and has a line after it", lines, run);
+    unit_text = lines[unit].text;
+    unify_staadpro_unit();
+    tell_units(lines, unit, run);
+
+    const std::size_t joints = lines.find_start("JOINT COORDINATES", unit + 1);
+    if (joints == lines.size())
+        return no_model("no-joints", "JOINT COORDINATES", "no line after the UNIT line begins with 'JOINT COORDINATES'",
+                        lines, run);
+    const std::size_t members = lines.find_equal("MEMBER INCIDENCES", joints + 1);
+    if (members == lines.size())
+        return no_model("no-members", "MEMBER INCIDENCES", "no line after the joints is exactly 'MEMBER INCIDENCES'",
+                        lines, run);
+    run.used.mark(joints);
+    run.used.mark(members);
+    detail::read_joints(*this, lines, {joints + 1, members}, run);
+    const std::size_t behind_members = detail::read_members(*this, lines, members + 1, run);
+
+    const std::size_t shell_keyword = lines.find_equal("ELEMENT INCIDENCES SHELL", behind_members);
+    ReadGroudData(lines, behind_members, run);
+    read_material(lines, run);
+    ReadBrace(lines, run);
+    if (shell_keyword < lines.size()) {
+        run.used.mark(shell_keyword);
+        const std::size_t behind_shells = detail::read_elements(*this, lines, shell_keyword + 1, run);
+        detail::read_thicknesses(*this, lines, behind_shells, run);
+    }
+    read_surface(lines, run);
+    detail::append_surfaces_to_shells(*this, run);
+    detail::read_member_properties(*this, lines, behind_members, run);
+    read_beta(lines, run);
+    detail::assign_materials(*this, lines, run);
+    read_support(lines, run);
+    read_release(lines, run);
+    read_offset(lines, run);
+    read_load(lines, run);
+    detail::tell_near_keywords(lines, {}, run);
+    detail::tell_skipped(lines, run);
+    return true;
+}
+
+} // namespace STAAD

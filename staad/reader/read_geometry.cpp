@@ -1,0 +1,144 @@
+#include "staad/reader/read_geometry.h"
+
+#include "staad/reader/findings.h"
+#include "staad/reader/id_list.h"
+#include "staad/reader/number.h"
+#include "staad/units/positions.h"
+
+namespace STAAD::detail {
+namespace {
+
+constexpr item_kind joint_item{"joint", 4};
+constexpr item_kind member_item{"member", 3};
+constexpr item_kind element_item{"element", 4};
+
+constexpr const char* default_shell_material = "C1";
+
+bool is_comment(std::string_view line) noexcept
+{
+    return starts_with(line, "*");
+}
+
+bool no_line(std::string_view) noexcept
+{
+    return false;
+}
+
+/// Replaces the joint number of the file by the joint's position. A number that the file does not
+/// define enters `node_index` with 0, the position of no joint.
+void number_to_position(int& joint, SdReader& model, const reading& run, bool& unknown)
+{
+    const int position = run.joints.position(joint);
+    if (position == 0) {
+        model.node_index.emplace(joint, 0);
+        unknown = true;
+    }
+    joint = position;
+}
+
+void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run)
+{
+    if (run.findings.listening())
+        run.findings.warn("joint-unknown", place,
+                          std::string(what) + " " + std::to_string(number) + " refers to joint " +
+                              std::to_string(joint) + ", which JOINT COORDINATES does not define");
+}
+
+/// A leading blank does not end the member block, as it does the blocks of shells and thicknesses.
+std::size_t end_of_members(const line_list& lines, std::size_t begin)
+{
+    while (begin < lines.size() && (lines[begin].text.front() == ' ' || starts_with_digit_1_to_9(lines[begin].text)))
+        ++begin;
+    return begin;
+}
+
+void set_thickness(SdReader& model, const reading& run, std::string_view list, int thickness)
+{
+    id_list_walker walker(word_cursor(list), general_id_list);
+    for (id_run ids; walker.next(ids);) {
+        run.elements.for_each_in(ids.first, ids.last, [&](const numbered_position& element) {
+            model.shells[static_cast<std::size_t>(element.position) - 1].thickness = thickness;
+        });
+        if (!ids.is_range && run.elements.position(ids.first) == 0)
+            model.shell_index.emplace(ids.first, 0);
+    }
+}
+
+} // namespace
+
+void read_joints(SdReader& model, const line_list& lines, line_range block, reading& run)
+{
+    const double factor = model.length_factor;
+    read_items(model.nodes, lines, block, joint_item, run, is_comment, [factor](SdNode& joint, line_place) {
+        joint.x *= factor;
+        joint.y *= factor;
+        joint.z *= factor;
+    });
+    run.joints = number_lookup::of(model.nodes, same_number::last_counts);
+    run.joints.fill(model.node_index);
+}
+
+std::size_t read_members(SdReader& model, const line_list& lines, std::size_t begin, reading& run)
+{
+    const std::size_t end = end_of_members(lines, begin);
+    read_items(model.beams, lines, {begin, end}, member_item, run, no_line, [&](SdBeam& member, line_place place) {
+        for (int* const joint : {&member.node_start, &member.node_end}) {
+            const int number = *joint;
+            bool unknown = false;
+            number_to_position(*joint, model, run, unknown);
+            if (unknown)
+                tell_unknown_joint("member", member.id, number, place, run);
+        }
+    });
+    tell_block_end("MEMBER INCIDENCES", lines, end, run);
+    run.members = number_lookup::of(model.beams, same_number::last_counts);
+    run.members.fill(model.beam_index);
+    return end;
+}
+
+std::size_t read_elements(SdReader& model, const line_list& lines, std::size_t begin, reading& run)
+{
+    const line_range block = lines_of_data(lines, begin);
+    read_items(model.shells, lines, block, element_item, run, no_line, [&](SdShell& element, line_place place) {
+        element.material = default_shell_material;
+        for (int& joint : element.node_ids) {
+            const int number = joint;
+            bool unknown = false;
+            number_to_position(joint, model, run, unknown);
+            if (unknown)
+                tell_unknown_joint("element", element.id, number, place, run);
+        }
+    });
+    tell_block_end("ELEMENT INCIDENCES SHELL", lines, block.end, run);
+    run.elements = number_lookup::of(model.shells, same_number::last_counts);
+    run.elements.fill(model.shell_index);
+    return block.end;
+}
+
+void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from, reading& run)
+{
+    const std::size_t keyword = lines.find_equal("ELEMENT PROPERTY", from);
+    run.used.mark(keyword);
+    const line_range block = lines_of_data(lines, keyword + 1);
+    for (std::size_t i = block.begin; i < block.end; ++i) {
+        run.used.mark(i);
+        const std::string_view line = lines[i].text;
+        // "1 TO 3 THICKNESS 0.2": the last two words are the word and the value
+        const double value = to_real(last_word(line)) * model.length_factor;
+        set_thickness(model, run, without_last_words(line, 2), truncate_to_int(value));
+    }
+    if (keyword < lines.size())
+        tell_block_end("ELEMENT PROPERTY", lines, block.end, run);
+}
+
+void append_surfaces_to_shells(SdReader& model, const reading& run)
+{
+    model.shells.reserve(model.shells.size() + model.surfaces.size());
+    for (const SdSurface& surface : model.surfaces) {
+        SdShell& copy = model.shells.emplace_back(surface);
+        for (int& joint : copy.node_ids)
+            joint = run.joints.position(joint);
+    }
+}
+
+} // namespace STAAD::detail

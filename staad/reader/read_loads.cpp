@@ -1,0 +1,177 @@
+// LOAD: load cases, the texts of their definitions, and who carries them.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/findings.h"
+#include "staad/reader/id_list.h"
+#include "staad/reader/number.h"
+#include "staad/reader/text.h"
+
+namespace STAAD {
+namespace {
+
+/// A header of fewer words, such as "LOAD 1" or "LOAD 1 DEAD LOAD", carries nothing but its number.
+constexpr std::size_t words_of_full_header = 6;
+
+LoadCase case_of_header(std::string_view line)
+{
+    LoadCase header{std::string(line)};
+    if (detail::count_words(line) < words_of_full_header) {
+        const std::string_view number = detail::word_at(line, 1);
+        header.id = chk_isdigit(number) ? detail::to_int(number) : 0;
+    }
+    return header;
+}
+
+/// The first `count` words of `text`, joined by single blanks.
+std::string first_words(std::string_view text, std::size_t count)
+{
+    std::string joined;
+    detail::word_cursor words(text);
+    for (std::string_view word; count > 0 && words.next(word); --count) {
+        if (!joined.empty())
+            joined += ' ';
+        joined += word;
+    }
+    return joined;
+}
+
+/// The load section, line by line.
+class load_section {
+public:
+    load_section(SdReader& model, detail::reading& run) : model_(model), run_(run) {}
+
+    void read_line(const detail::text_line& line, std::size_t index)
+    {
+        if (is_passed_over(line.text))
+            return;
+        if (read_line_of_section(line))
+            run_.used.mark(index);
+    }
+
+private:
+    static bool is_passed_over(std::string_view line) noexcept
+    {
+        return detail::contains(line, ";") || detail::starts_with(line, "*") || detail::last_word(line).empty();
+    }
+
+    /// False if the line means nothing here.
+    bool read_line_of_section(const detail::text_line& line)
+    {
+        if (detail::starts_with(line.text, "LOAD"))
+            start_case(line.text);
+        else if (detail::last_word(line.text) == "LOAD")
+            block_ = line.text;
+        else if (detail::starts_with(line.text, "SELFWEIGHT"))
+            read_selfweight(line);
+        else
+            return read_definition(line);
+        return true;
+    }
+
+    void start_case(std::string_view line)
+    {
+        LoadCase header = case_of_header(line);
+        current_case_ = header.id;
+        model_.load_cases[current_case_] = std::move(header);
+    }
+
+    /// "SELFWEIGHT Y -1 LIST 1 TO 10"; without a list the definition belongs to no member.
+    void read_selfweight(const detail::text_line& line)
+    {
+        add_definition(first_words(line.text, 3));
+        detail::word_cursor words(line.text);
+        for (int i = 0; i < 4; ++i) // SELFWEIGHT, direction, factor, LIST
+            words.next_or_empty();
+        detail::id_list_walker walker(words, detail::general_id_list);
+        collect_runs(walker);
+        attach(run_.members, model_.beams, &SdBeam::int_list, line);
+    }
+
+    /// "1 TO 10 UNI GY -5" under the current block. False if the line is none: no list in front, or a
+    /// single word behind it.
+    bool read_definition(const detail::text_line& line)
+    {
+        detail::id_list_walker walker(detail::word_cursor(line.text), detail::general_id_list);
+        if (!collect_runs(walker))
+            return false;
+        const std::string_view load = walker.after_list().rest();
+        if (detail::count_words(load) == 1)
+            return false;
+        add_definition(text_of_definition(load));
+        if (block_ == "JOINT LOAD")
+            attach(run_.joints, model_.nodes, &SdNode::extra_ids, line);
+        else
+            attach(run_.members, model_.beams, &SdBeam::int_list, line);
+        return true;
+    }
+
+    std::string text_of_definition(std::string_view load) const
+    {
+        std::string text(block_);
+        detail::word_cursor words(load);
+        for (std::string_view word; words.next(word);) {
+            text += ' ';
+            text += word;
+        }
+        return text;
+    }
+
+    void add_definition(std::string text)
+    {
+        ++counter_;
+        model_.raw_load_defs.insert_or_assign(model_.raw_load_defs.end(), counter_,
+                                              LoadDef_raw{std::move(text), current_case_});
+    }
+
+    bool collect_runs(detail::id_list_walker<>& walker)
+    {
+        runs_.clear();
+        for (detail::id_run ids; walker.next(ids);)
+            runs_.push_back(ids);
+        return !runs_.empty();
+    }
+
+    /// Appends the number of the last definition to the list of every record that the runs name.
+    template<class Record>
+    void attach(const detail::number_lookup& numbers, std::vector<Record>& records, std::vector<int> Record::*list,
+                const detail::text_line& line)
+    {
+        run_.start_list(line.place);
+        bool anyone = false;
+        for (const detail::id_run& ids : runs_) {
+            numbers.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
+                run_.budget.take_references(1);
+                (records[static_cast<std::size_t>(entry.position) - 1].*list).push_back(counter_);
+                anyone = true;
+            });
+        }
+        if (!anyone && !runs_.empty())
+            detail::tell_nobody("load", line, run_);
+    }
+
+    SdReader& model_;
+    detail::reading& run_;
+    int current_case_ = 1;
+    std::string_view block_;           // the last line whose last word is LOAD
+    int counter_ = 0;                  // of definitions
+    std::vector<detail::id_run> runs_; // of the line at hand; kept for its memory
+};
+
+} // namespace
+
+void SdReader::read_load(const detail::line_list& lines, detail::reading& run)
+{
+    const std::size_t begin = lines.find_start("LOAD");
+    if (begin == lines.size())
+        return;
+    // Combinations are not read. Without them the last line of the text, in a whole file FINISH, is
+    // not looked at either.
+    const std::size_t end = std::min(lines.find_start("LOAD COMB", begin), lines.size() - 1);
+    load_section section(*this, run);
+    for (std::size_t i = begin; i < end; ++i)
+        section.read_line(lines[i], i);
+    for (const auto& [number, raw] : raw_load_defs)
+        load_defs.insert_or_assign(load_defs.end(), number, get_load_defnination_from_string(raw));
+}
+
+} // namespace STAAD

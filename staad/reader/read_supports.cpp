@@ -1,0 +1,133 @@
+// SUPPORTS, MEMBER RELEASE and MEMBER OFFSET: lists of numbers with a description behind.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/findings.h"
+#include "staad/reader/id_list.h"
+#include "staad/reader/number.h"
+#include "staad/reader/read_items.h"
+#include "staad/units/positions.h"
+
+namespace STAAD {
+namespace {
+
+using detail::line_range;
+using detail::reading;
+using detail::text_line;
+
+/// The words of a line behind its leading numbers and "TO"s. This is a rule of its own: "5 0 FIXED"
+/// lists joint 5 and describes it as "0 FIXED".
+detail::word_cursor description_of(std::string_view line)
+{
+    detail::word_cursor words(line);
+    detail::word_cursor description = words;
+    for (std::string_view word; words.next(word) && (word == "TO" || detail::to_int(word) >= 1);)
+        description = words;
+    return description;
+}
+
+bool is_support_line(std::string_view line) noexcept
+{
+    return chk_isdigit(line);
+}
+
+/// Releases in the middle of a member are not read: a line that names neither end closes the block.
+bool is_member_end_line(std::string_view line) noexcept
+{
+    return chk_isdigit(line) && (detail::contains(line, "START") || detail::contains(line, "END"));
+}
+
+/// The lines under the first line that is exactly `keyword`, as long as they pass the test.
+template<class IsBlockLine>
+line_range find_block(std::string_view keyword, const detail::line_list& lines, IsBlockLine is_block_line, reading& run)
+{
+    const std::size_t start = lines.find_equal(keyword);
+    if (start == lines.size())
+        return {};
+    std::size_t end = start + 1;
+    while (end < lines.size() && is_block_line(lines[end].text))
+        ++end;
+    run.used.mark(start, end);
+    detail::tell_block_end(keyword, lines, end, run);
+    return {start + 1, end};
+}
+
+/// A list that ended before the description began.
+void check_list_end(const detail::id_list_walker<>& walker, detail::word_cursor description, const text_line& line,
+                    reading& run)
+{
+    detail::word_cursor behind = walker.after_list();
+    const std::string_view word = behind.next_or_empty();
+    if (word.data() != description.next_or_empty().data())
+        detail::tell_list_stopped(word, line, run);
+}
+
+/// Appends the numbers of every block line under the line's description.
+void read_described(std::map<std::string, std::vector<unsigned>>& described, const detail::line_list& lines,
+                    line_range block, reading& run)
+{
+    for (std::size_t i = block.begin; i < block.end; ++i) {
+        const detail::word_cursor description = description_of(lines[i].text);
+        std::vector<unsigned>& ids = described[detail::join_words(description)];
+        const std::size_t before = ids.size();
+        detail::id_list_walker walker(detail::word_cursor(lines[i].text), detail::general_id_list);
+        run.start_list(lines[i].place);
+        detail::append_ids(ids, walker, run.budget);
+        check_list_end(walker, description, lines[i], run);
+        if (ids.size() == before)
+            detail::tell_nobody("description", lines[i], run);
+    }
+}
+
+/// Words where a number was due: "7 START LOCAL 0.1 0 0" moves the numbers by one place.
+void check_number(std::string_view word, const text_line& line, reading& run)
+{
+    if (run.findings.listening() && !word.empty() && word.find_first_of("0123456789") == std::string_view::npos)
+        run.findings.warn("number-word", line.place,
+                          detail::quote(line.text) + ": " + detail::quote(word) +
+                              " stands where a number is due and counts as 0");
+}
+
+} // namespace
+
+void SdReader::read_support(const detail::line_list& lines, detail::reading& run)
+{
+    read_described(supports, lines, find_block("SUPPORTS", lines, is_support_line, run), run);
+}
+
+void SdReader::read_release(const detail::line_list& lines, detail::reading& run)
+{
+    read_described(releases, lines, find_block("MEMBER RELEASE", lines, is_member_end_line, run), run);
+}
+
+void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
+{
+    const line_range block = find_block("MEMBER OFFSET", lines, is_member_end_line, run);
+    if (block.begin == block.end)
+        return;
+    const auto members = detail::number_lookup::of(beams, detail::same_number::first_counts);
+    for (std::size_t i = block.begin; i < block.end; ++i) {
+        detail::word_cursor description = description_of(lines[i].text);
+        const bool at_start = description.next_or_empty() == "START";
+        std::string_view numbers[3];
+        for (std::string_view& number : numbers) {
+            number = description.next_or_empty();
+            check_number(number, lines[i], run);
+        }
+        // The file's Y-up X Y Z are the model's y z x.
+        const SdOffset offset{detail::to_real(numbers[2]) * length_factor, detail::to_real(numbers[0]) * length_factor,
+                              detail::to_real(numbers[1]) * length_factor};
+        bool anyone = false;
+        detail::id_list_walker walker(detail::word_cursor(lines[i].text), detail::general_id_list);
+        for (detail::id_run ids; walker.next(ids);) {
+            members.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
+                SdBeam& member = beams[static_cast<std::size_t>(entry.position) - 1];
+                (at_start ? member.offset_start : member.offset_end) = offset;
+                anyone = true;
+            });
+        }
+        if (!anyone)
+            detail::tell_nobody("offset", lines[i], run);
+    }
+}
+
+} // namespace STAAD

@@ -1,0 +1,92 @@
+/// What lives during one reading and not longer: where findings go, how much the lists may still
+/// hold, and the look-ups by number that all blocks share.
+#ifndef STAAD_READER_READING_H
+#define STAAD_READER_READING_H
+
+#include "staad/reader/id_list.h"
+#include "staad/reader/lines.h"
+#include "staad/reader/read_report.h"
+#include "staad/units/number_lookup.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace STAAD::detail {
+
+/// Gathers findings, or nothing when there is no report to fill.
+class finding_sink {
+public:
+    /// Null: nobody listens. Empties the report, which must outlive the sink.
+    explicit finding_sink(ReadReport* report);
+
+    /// Whether it is worth putting a text together.
+    bool listening() const noexcept { return report_ != nullptr; }
+    /// Nothing has been added.
+    bool empty() const noexcept { return tallies_.empty(); }
+    /// Adds one finding, or counts it with its like once there are many; see ReadReport.
+    void add(Finding::Severity severity, std::string_view code, line_place place, std::string text,
+             std::size_t count = 1);
+    void note(std::string_view code, line_place place, std::string text)
+    {
+        add(Finding::Note, code, place, std::move(text));
+    }
+    void warn(std::string_view code, line_place place, std::string text)
+    {
+        add(Finding::Warning, code, place, std::move(text));
+    }
+    void fail(std::string_view code, line_place place, std::string text)
+    {
+        add(Finding::Error, code, place, std::move(text));
+    }
+
+private:
+    struct tally {
+        std::string code;
+        std::size_t listed;
+        std::size_t last; // index of the last finding of the code
+    };
+    ReadReport* report_;
+    std::vector<tally> tallies_;
+};
+
+/// Which logical lines some block has understood; the rest is in the file and not in the model.
+/// Records nothing when nobody listens.
+class used_lines {
+public:
+    void start(std::size_t line_count) { used_.assign(line_count, false); }
+    void mark(std::size_t line)
+    {
+        if (line < used_.size())
+            used_[line] = true;
+    }
+    /// Lines from `begin` on, `end` not included.
+    void mark(std::size_t begin, std::size_t end)
+    {
+        for (; begin < end && begin < used_.size(); ++begin)
+            used_[begin] = true;
+    }
+    bool is_used(std::size_t line) const noexcept { return line < used_.size() && used_[line]; }
+
+private:
+    std::vector<bool> used_;
+};
+
+class reading {
+public:
+    explicit reading(ReadReport* report) : findings(report) {}
+
+    void start_list(line_place place) noexcept { budget.start_list(place.first, place.last); }
+
+    finding_sink findings;
+    used_lines used;
+    id_budget budget;
+    number_lookup joints;   ///< last joint of each number
+    number_lookup members;  ///< last member of each number
+    number_lookup elements; ///< last element of each number
+};
+
+} // namespace STAAD::detail
+
+#endif
