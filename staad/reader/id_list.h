@@ -139,15 +139,16 @@ private:
     std::size_t in_reading_ = 0;
 };
 
-/// Appends the numbers of a list to `ids`, counted out.
+/// Appends the numbers of a list to `ids`, counted out; all of them or, past the budget, none.
 template<class Ids, class Words>
 void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
 {
-    for (id_run run; walker.next(run);) {
+    id_list_walker<Words> counting = walker;
+    for (id_run run; counting.next(run);)
         budget.take(run.size());
+    for (id_run run; walker.next(run);)
         for (std::int64_t number = run.first; number <= run.last; ++number)
             ids.insert(ids.end(), static_cast<typename Ids::value_type>(number));
-    }
 }
 
 } // namespace STAAD::detail

@@ -51,13 +51,13 @@ line_range find_block(std::string_view keyword, const detail::line_list& lines, 
     return {start + 1, end};
 }
 
-/// A list that ended before the description began.
+/// A list that ended before the description began, or at a description that does not begin like one.
 void check_list_end(const detail::id_list_walker<>& walker, detail::word_cursor description, const text_line& line,
                     reading& run)
 {
     detail::word_cursor behind = walker.after_list();
     const std::string_view word = behind.next_or_empty();
-    if (word.data() != description.next_or_empty().data())
+    if (word.data() != description.next_or_empty().data() || (!word.empty() && !detail::is_letter(word.front())))
         detail::tell_list_stopped(word, line, run);
 }
 
@@ -67,14 +67,18 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
 {
     for (std::size_t i = block.begin; i < block.end; ++i) {
         const detail::word_cursor description = description_of(lines[i].text);
-        std::vector<unsigned>& ids = described[detail::join_words(description)];
-        const std::size_t before = ids.size();
         detail::id_list_walker walker(detail::word_cursor(lines[i].text), detail::general_id_list);
+        std::vector<unsigned> listed;
         run.start_list(lines[i].place);
-        detail::append_ids(ids, walker, run.budget);
+        detail::append_ids(listed, walker, run.budget);
         check_list_end(walker, description, lines[i], run);
-        if (ids.size() == before)
+        if (listed.empty())
             detail::tell_nobody("description", lines[i], run);
+        std::vector<unsigned>& ids = described[detail::join_words(description)];
+        if (ids.empty())
+            ids = std::move(listed);
+        else
+            ids.insert(ids.end(), listed.begin(), listed.end());
     }
 }
 
