@@ -17,7 +17,7 @@ function(staadkit_compile_options target)
         # No contraction: results are the same to the last bit whatever the processor offers.
         target_compile_options(${target} PRIVATE -ffp-contract=off -Wall -Wextra -Wpedantic -Wshadow
             -Wconversion -Wsign-conversion -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-            -Wcast-align -Wunused -Wnull-dereference -Wdouble-promotion -Wimplicit-fallthrough)
+            -Wcast-align -Wunused -Wdouble-promotion -Wimplicit-fallthrough)
         if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
             # GCC 12 sees overlapping copies in std::string::operator=(const char*) where there are none.
             target_compile_options(${target} PRIVATE -Wno-restrict)

@@ -1,0 +1,46 @@
+// The verb "dump": every public field of a model as JSON.
+
+#include "json_writer.h"
+#include "messages.h"
+#include "model_fields.h"
+#include "open_model.h"
+#include "std_output.h"
+#include "verbs.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+
+namespace tool {
+namespace {
+
+struct dump_options {
+    std::string file;
+    bool with_notes = false;
+};
+
+exit_code run_dump(const dump_options& options)
+{
+    const opened_model opened = open_model(options.file);
+    print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
+    if (!opened.was_read)
+        return no_model;
+    std_output out;
+    json_writer writer(out);
+    writer.document(opened.model);
+    return out.close(done);
+}
+
+} // namespace
+
+verb_action set_up_dump(CLI::App& command)
+{
+    const auto options = std::make_shared<dump_options>();
+    command.add_option("FILE", options->file, "The .std file to read; - reads standard input")
+        ->required()
+        ->option_text(" ");
+    command.add_flag("--notes", options->with_notes, "Also print notes, not only warnings and errors");
+    return [options] { return run_dump(*options); };
+}
+
+} // namespace tool

@@ -1,0 +1,136 @@
+// staadkit: shows what .std files hold.
+
+#include "messages.h"
+#include "std_output.h"
+#include "suggest.h"
+#include "verbs.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <new>
+#include <string>
+#include <vector>
+
+namespace tool {
+namespace {
+
+constexpr verb verbs[] = {
+    {"info", "Show what files hold: joints, members, storeys, sections, supports, loads", set_up_info},
+    {"dump", "Print every field of a model as JSON, numbers exact to the last bit", set_up_dump},
+};
+
+constexpr const char* exit_code_help = "Exit codes:\n"
+                                       "  0  done, warnings included\n"
+                                       "  1  done, with findings or differences, of a verb that checks\n"
+                                       "  2  wrong usage\n"
+                                       "  3  no model in the input\n"
+                                       "  4  output not written";
+
+exit_code refuse(std::string message, const std::string& nearest)
+{
+    if (!nearest.empty())
+        message += "; did you mean '" + nearest + "'?";
+    print_error(message + "\nTry: staadkit --help");
+    return wrong_usage;
+}
+
+/// The first word that is no option must be a verb.
+const std::string* unknown_verb(const std::vector<std::string>& arguments)
+{
+    const auto first =
+        std::find_if(arguments.begin(), arguments.end(), [](const std::string& word) { return word[0] != '-'; });
+    if (first == arguments.end() ||
+        std::any_of(std::begin(verbs), std::end(verbs), [&first](const verb& each) { return *first == each.name; }))
+        return nullptr;
+    return &*first;
+}
+
+std::vector<std::string> verb_names()
+{
+    std::vector<std::string> names;
+    for (const verb& each : verbs)
+        names.emplace_back(each.name);
+    return names;
+}
+
+std::vector<std::string> option_names(const CLI::App& command)
+{
+    std::vector<std::string> names;
+    for (const CLI::Option* option : command.get_options()) {
+        for (const std::string& name : option->get_lnames())
+            names.push_back("--" + name);
+    }
+    return names;
+}
+
+const CLI::App& chosen_command(const CLI::App& app)
+{
+    const std::vector<CLI::App*> chosen = app.get_subcommands();
+    return chosen.empty() ? app : *chosen.front();
+}
+
+exit_code refuse_extras(const CLI::App& app)
+{
+    const std::vector<std::string> extras = app.remaining(true);
+    const std::string& word = extras.front();
+    if (word[0] != '-')
+        return refuse("one argument too many: '" + word + "'", {});
+    const std::string nearest = nearest_word(word, option_names(chosen_command(app)));
+    if (nearest == word)
+        return refuse("option '" + word + "' belongs after the verb", {});
+    return refuse("unknown option '" + word + "'", nearest);
+}
+
+void set_up_app(CLI::App& app, verb_action& action)
+{
+    app.set_version_flag("--version", "staadkit " STAADKIT_VERSION, "Print the version and exit");
+    app.set_help_flag("-h,--help", "Print this help and exit");
+    app.require_subcommand(1);
+    app.footer(std::string("Results go to standard output, messages to standard error.\n") +
+               "staadkit VERB --help tells more about a verb.\n\n" + exit_code_help);
+    app.get_formatter()->label("SUBCOMMAND", "VERB");
+    app.get_formatter()->label("Positionals", "Arguments");
+    for (const verb& each : verbs) {
+        CLI::App* const command = app.add_subcommand(each.name, each.help)->group("Verbs")->footer(exit_code_help);
+        const verb_action run = each.set_up(*command);
+        command->callback([&action, run] { action = run; });
+    }
+}
+
+exit_code run(int argc, const char* const* argv)
+{
+    CLI::App app("Reads STAAD .std files and shows what they hold.", "staadkit");
+    verb_action action;
+    set_up_app(app, action);
+    const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
+    if (const std::string* word = unknown_verb(arguments))
+        return refuse("unknown verb '" + *word + "'", nearest_word(*word, verb_names()));
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        return print_result(app.help(), done);
+    } catch (const CLI::CallForVersion& version) {
+        return print_result(std::string(version.what()) + '\n', done);
+    } catch (const CLI::ExtrasError&) {
+        return refuse_extras(app);
+    } catch (const CLI::RequiredError& error) {
+        return refuse(app.get_subcommands().empty() ? "no verb given" : error.what(), {});
+    } catch (const CLI::ParseError& error) {
+        return refuse(error.what(), {});
+    }
+    return action();
+}
+
+} // namespace
+} // namespace tool
+
+int main(int argc, char** argv)
+{
+    try {
+        return tool::run(argc, argv);
+    } catch (const std::bad_alloc&) {
+        tool::print_error("not enough memory");
+        return tool::no_model;
+    }
+}

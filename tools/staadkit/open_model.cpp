@@ -1,0 +1,94 @@
+#include "open_model.h"
+
+#include "staad/reader/read_limit.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <new>
+#include <utility>
+
+#ifdef _WIN32
+#    include <fcntl.h> // _O_BINARY
+#    include <io.h>    // _setmode
+#endif
+
+namespace tool {
+namespace {
+
+using STAAD::Finding;
+
+void add_error(STAAD::ReadReport& report, std::string code, std::size_t line, std::string text)
+{
+    Finding finding;
+    finding.severity = Finding::Error;
+    finding.code = std::move(code);
+    finding.first_line = line;
+    finding.last_line = line;
+    finding.text = std::move(text);
+    report.findings.push_back(std::move(finding));
+}
+
+/// All of standard input, byte by byte as it comes; false if it cannot be read.
+bool read_standard_input(std::string& text)
+{
+#ifdef _WIN32
+    _setmode(_fileno(stdin), _O_BINARY);
+#endif
+    std::array<char, 1U << 16U> block;
+    for (std::size_t count = block.size(); count == block.size();) {
+        count = std::fread(block.data(), 1, block.size(), stdin);
+        text.append(block.data(), count);
+    }
+    return std::ferror(stdin) == 0;
+}
+
+bool read_model(const std::string& path, opened_model& opened)
+{
+    if (path != "-")
+        return opened.model.ReadSDDataFromStdFile(path.c_str(), opened.report);
+    std::string text;
+    if (read_standard_input(text))
+        return opened.model.ReadSDDataFromText(text, opened.report);
+    add_error(opened.report, "not-readable", 0, std::strerror(errno));
+    return false;
+}
+
+std::string limit_text(const STAAD::ReadLimitError& error)
+{
+    const bool is_list = error.limit() == STAAD::most_numbers_per_list;
+    return std::string(is_list ? "a list" : "the lists together are") + " of more than " +
+           std::to_string(error.limit()) + " numbers";
+}
+
+} // namespace
+
+opened_model open_model(const std::string& path)
+{
+    opened_model opened;
+    opened.name = path == "-" ? "<stdin>" : path;
+    try {
+        opened.was_read = read_model(path, opened);
+        if (!opened.was_read && opened.report.worst() != Finding::Error)
+            add_error(opened.report, "no-model", 0, "the input holds no model");
+    } catch (const STAAD::ReadLimitError& error) {
+        opened.model = {}; // what was read by then may fill the memory
+        add_error(opened.report, "limit", error.first_line(), limit_text(error));
+    } catch (const std::bad_alloc&) {
+        opened.model = {};
+        add_error(opened.report, "memory", 0, "not enough memory to read it");
+    }
+    return opened;
+}
+
+std::string first_error(const STAAD::ReadReport& report)
+{
+    for (const Finding& finding : report.findings) {
+        if (finding.severity == Finding::Error)
+            return finding.text;
+    }
+    return {};
+}
+
+} // namespace tool

@@ -1,0 +1,29 @@
+/// From a name on the command line to a model.
+#ifndef TOOLS_STAADKIT_OPEN_MODEL_H
+#define TOOLS_STAADKIT_OPEN_MODEL_H
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/read_report.h"
+
+#include <string>
+
+namespace tool {
+
+/// A model, and what its reading had to tell.
+struct opened_model {
+    std::string name; ///< for messages: the path as given, "<stdin>" for "-"
+    bool was_read = false;
+    STAAD::SdReader model;
+    STAAD::ReadReport report; ///< holds an error if no model was read
+};
+
+/// Reads the file at `path`, or standard input for "-". Throws nothing: a file that asks for more
+/// memory than there is, or than a reading takes, holds no model.
+opened_model open_model(const std::string& path);
+
+/// Text of the first error of the report; empty if there is none.
+std::string first_error(const STAAD::ReadReport& report);
+
+} // namespace tool
+
+#endif

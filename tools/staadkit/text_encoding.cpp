@@ -1,0 +1,218 @@
+#include "text_encoding.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+#if defined(__linux__) && __has_include(<iconv.h>)
+#    define STAADKIT_HAS_ICONV 1
+#    include <iconv.h> // part of the C library here: nothing to link
+#else
+#    define STAADKIT_HAS_ICONV 0
+#endif
+
+namespace tool {
+namespace {
+
+/// A character in UTF-8: its code point and its length in bytes; length 0: none stands here.
+struct utf8_character {
+    std::uint32_t code = 0;
+    std::size_t length = 0;
+};
+
+std::uint32_t byte_at(std::string_view text, std::size_t index) noexcept
+{
+    return static_cast<unsigned char>(text[index]);
+}
+
+bool is_ascii(std::string_view text) noexcept
+{
+    return std::none_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
+
+std::size_t length_by_first_byte(std::uint32_t byte) noexcept
+{
+    if (byte < 0x80)
+        return 1;
+    if (byte >= 0xC2 && byte < 0xE0)
+        return 2;
+    if (byte >= 0xE0 && byte < 0xF0)
+        return 3;
+    return byte >= 0xF0 && byte < 0xF5 ? 4 : 0;
+}
+
+utf8_character first_character(std::string_view text) noexcept
+{
+    const std::uint32_t first = byte_at(text, 0);
+    const std::size_t length = length_by_first_byte(first);
+    if (length == 0 || length > text.size())
+        return {};
+    std::uint32_t code = length == 1 ? first : first & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte_at(text, i) & 0xC0U) != 0x80U)
+            return {};
+        code = (code << 6U) | (byte_at(text, i) & 0x3FU);
+    }
+    constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (code < smallest[length] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+        return {};
+    return {code, length};
+}
+
+bool is_control(std::uint32_t code) noexcept
+{
+    return code < 0x20 || (code >= 0x7F && code < 0xA0);
+}
+
+bool is_wide(std::uint32_t code) noexcept
+{
+    return (code >= 0x1100 && code <= 0x115F) || (code >= 0x2E80 && code <= 0xA4CF) ||
+           (code >= 0xAC00 && code <= 0xD7A3) || (code >= 0xF900 && code <= 0xFAFF) ||
+           (code >= 0xFE30 && code <= 0xFE6F) || (code >= 0xFF00 && code <= 0xFF60) ||
+           (code >= 0xFFE0 && code <= 0xFFE6) || (code >= 0x20000 && code <= 0x3FFFD);
+}
+
+void append_hex_escape(std::string& out, std::uint32_t code)
+{
+    constexpr char digits[] = "0123456789ABCDEF";
+    out += "\\x";
+    out += digits[(code >> 4U) & 0xFU];
+    out += digits[code & 0xFU];
+}
+
+std::string escape_controls(std::string_view utf8)
+{
+    std::string out;
+    while (!utf8.empty()) {
+        const utf8_character character = first_character(utf8);
+        if (is_control(character.code))
+            append_hex_escape(out, character.code);
+        else
+            out += utf8.substr(0, character.length);
+        utf8.remove_prefix(character.length);
+    }
+    return out;
+}
+
+std::string escape_all_but_ascii(std::string_view bytes)
+{
+    std::string out;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const std::uint32_t byte = byte_at(bytes, i);
+        if (byte >= 0x80 || is_control(byte))
+            append_hex_escape(out, byte);
+        else
+            out += bytes[i];
+    }
+    return out;
+}
+
+#if STAADKIT_HAS_ICONV
+/// Opened once: opening loads the conversion tables.
+class gbk_decoder {
+public:
+    gbk_decoder() : handle_(iconv_open("UTF-8", "GBK")) {}
+    gbk_decoder(const gbk_decoder&) = delete;
+    gbk_decoder& operator=(const gbk_decoder&) = delete;
+    ~gbk_decoder()
+    {
+        if (is_open())
+            iconv_close(handle_);
+    }
+
+    std::optional<std::string> decode(std::string_view text)
+    {
+        if (!is_open())
+            return std::nullopt;
+        // Two bytes of GBK are at most three of UTF-8, an ASCII byte is one.
+        std::string in(text);
+        std::string out(2 * in.size(), '\0');
+        char* from = in.data();
+        char* to = out.data();
+        std::size_t from_left = in.size();
+        std::size_t to_left = out.size();
+        iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+        if (iconv(handle_, &from, &from_left, &to, &to_left) == static_cast<std::size_t>(-1))
+            return std::nullopt;
+        out.resize(out.size() - to_left);
+        return out;
+    }
+
+private:
+    // The failure value of iconv_open is the address -1.
+    bool is_open() const noexcept { return reinterpret_cast<std::intptr_t>(handle_) != -1; }
+
+    iconv_t handle_;
+};
+#endif
+
+} // namespace
+
+bool is_utf8(std::string_view text) noexcept
+{
+    if (is_ascii(text))
+        return true;
+    while (!text.empty()) {
+        const std::size_t length = first_character(text).length;
+        if (length == 0)
+            return false;
+        text.remove_prefix(length);
+    }
+    return true;
+}
+
+std::optional<std::string> utf8_from_gbk(std::string_view text)
+{
+#if STAADKIT_HAS_ICONV
+    static gbk_decoder decoder; // the tool has one thread
+    return decoder.decode(text);
+#else
+    static_cast<void>(text);
+    return std::nullopt;
+#endif
+}
+
+std::string utf8_from_bytes(std::string_view text)
+{
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const std::uint32_t byte = byte_at(text, i);
+        if (byte >= 0x80) {
+            out += static_cast<char>(0xC0U | (byte >> 6U));
+            out += static_cast<char>(0x80U | (byte & 0x3FU));
+        } else {
+            out += text[i];
+        }
+    }
+    return out;
+}
+
+std::string utf8_text(std::string_view text)
+{
+    if (is_utf8(text))
+        return std::string(text);
+    if (std::optional<std::string> decoded = utf8_from_gbk(text))
+        return *std::move(decoded);
+    return utf8_from_bytes(text);
+}
+
+std::string printable_text(std::string_view text)
+{
+    if (is_utf8(text))
+        return escape_controls(text);
+    const std::optional<std::string> decoded = utf8_from_gbk(text);
+    return decoded ? escape_controls(*decoded) : escape_all_but_ascii(text);
+}
+
+std::size_t display_width(std::string_view text) noexcept
+{
+    std::size_t width = 0;
+    while (!text.empty()) {
+        const utf8_character character = first_character(text);
+        width += is_wide(character.code) ? std::size_t{2} : std::size_t{1};
+        text.remove_prefix(std::max<std::size_t>(character.length, 1));
+    }
+    return width;
+}
+
+} // namespace tool

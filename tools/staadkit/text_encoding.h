@@ -1,0 +1,33 @@
+/// The 8-bit texts of a file, whose encoding nothing declares, as UTF-8.
+#ifndef TOOLS_STAADKIT_TEXT_ENCODING_H
+#define TOOLS_STAADKIT_TEXT_ENCODING_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tool {
+
+/// True for well-formed UTF-8, plain ASCII included; surrogates and overlong forms are not.
+bool is_utf8(std::string_view text) noexcept;
+
+/// `text` decoded from GBK; nothing if it is no GBK, or the platform cannot tell.
+std::optional<std::string> utf8_from_gbk(std::string_view text);
+
+/// Every byte taken for the code point of its number: the last resort for bytes of no known
+/// encoding, which loses none of them.
+std::string utf8_from_bytes(std::string_view text);
+
+/// `text` as it stands if it is UTF-8, else decoded from GBK, else byte by byte.
+std::string utf8_text(std::string_view text);
+
+/// The same for a terminal: control characters, and bytes of no known encoding, as "\x1B". A file
+/// thus cannot drive the terminal on which its texts are shown.
+std::string printable_text(std::string_view text);
+
+/// Terminal cells that UTF-8 `text` takes, Chinese, Japanese and Korean characters two each.
+std::size_t display_width(std::string_view text) noexcept;
+
+} // namespace tool
+
+#endif

@@ -1,0 +1,37 @@
+/// The verbs of the tool, and what its exit code says.
+#ifndef TOOLS_STAADKIT_VERBS_H
+#define TOOLS_STAADKIT_VERBS_H
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace tool {
+
+/// What the process returns; scripts rely on the numbers. The graver outcome has the larger one.
+enum exit_code : int {
+    done = 0,               ///< warnings included
+    done_with_findings = 1, ///< of a verb that checks or compares
+    wrong_usage = 2,
+    no_model = 3,
+    not_written = 4
+};
+
+/// Does the work of a verb once its arguments are read.
+using verb_action = std::function<exit_code()>;
+
+/// One verb: `set_up` adds its options to `command` and returns what to run when they are read.
+struct verb {
+    const char* name;
+    const char* help; ///< one line
+    verb_action (*set_up)(CLI::App& command);
+};
+
+verb_action set_up_info(CLI::App& command);
+verb_action set_up_dump(CLI::App& command);
+
+} // namespace tool
+
+#endif
