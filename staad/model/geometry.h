@@ -49,7 +49,7 @@ struct STAAD_API SdBeam {
     std::vector<int> int_list;
     std::string material;     ///< material name
     std::string sect_text;    ///< section, normalised, dimensions in whole mm
-    std::string sect_country; ///< code word of the section tables, "CHINESE" unless the file names one
+    std::string sect_country; ///< code word of the MEMBER PROPERTY line; empty if it has none
     std::string sect_extra;   ///< free for the host; reading leaves it empty
     std::string sect_name;    ///< section as the file has it, from its keyword to the end of the line
 

@@ -7,12 +7,14 @@ namespace STAAD {
 ReadLimitError::ReadLimitError(std::size_t first_line, std::size_t last_line, std::size_t limit) noexcept
     : first_line_(first_line), last_line_(last_line), limit_(limit)
 {
-    const char* const what = limit == most_numbers_per_list ? "a list" : "the lists of one reading together";
-    if (first_line == 0)
-        static_cast<void>(std::snprintf(text_, sizeof text_, "%s of more than %zu numbers", what, limit));
+    int used = 0;
+    if (first_line != 0)
+        used = std::snprintf(text_, sizeof text_, "line %zu: ", first_line);
+    const std::size_t room = sizeof text_ - static_cast<std::size_t>(used);
+    if (limit == most_numbers_per_list)
+        static_cast<void>(std::snprintf(text_ + used, room, "a list of more than %zu numbers", limit));
     else
-        static_cast<void>(
-            std::snprintf(text_, sizeof text_, "line %zu: %s of more than %zu numbers", first_line, what, limit));
+        static_cast<void>(std::snprintf(text_ + used, room, "more than %zu numbers in all lists together", limit));
 }
 
 const char* ReadLimitError::what() const noexcept

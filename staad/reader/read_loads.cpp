@@ -6,6 +6,9 @@
 #include "staad/reader/number.h"
 #include "staad/reader/text.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace STAAD {
 namespace {
 
@@ -35,10 +38,66 @@ std::string first_words(std::string_view text, std::size_t count)
     return joined;
 }
 
+/// Who carries which definition, gathered first and handed out at the end: every record's list then
+/// takes its memory once, and no more than it needs.
+class load_references {
+public:
+    explicit load_references(const detail::number_lookup& numbers) : numbers_(numbers) {}
+
+    /// Notes that every record that `runs` name carries `definition`. False if they name none.
+    bool add(int definition, const std::vector<detail::id_run>& runs, detail::id_budget& budget)
+    {
+        bool anyone = false;
+        for (const detail::id_run& ids : runs) {
+            numbers_.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
+                budget.take_references(1);
+                count_one(entry.position);
+                anyone = true;
+            });
+            noted_.push_back({definition, ids.first, ids.last});
+        }
+        return anyone;
+    }
+
+    template<class Record>
+    void hand_out(std::vector<Record>& records, std::vector<int> Record::*list) const
+    {
+        for (std::size_t i = 0; i < counts_.size(); ++i)
+            if (counts_[i] > 0)
+                (records[i].*list).reserve((records[i].*list).size() + counts_[i]);
+        for (const noted_run& run : noted_)
+            numbers_.for_each_in(run.first, run.last, [&](const detail::numbered_position& entry) {
+                (records[static_cast<std::size_t>(entry.position) - 1].*list).push_back(run.definition);
+            });
+    }
+
+private:
+    struct noted_run {
+        int definition;
+        int first;
+        int last;
+    };
+
+    void count_one(int position)
+    {
+        const auto index = static_cast<std::size_t>(position) - 1;
+        if (index >= counts_.size())
+            counts_.resize(std::max(index + 1, counts_.size() * 2));
+        ++counts_[index];
+    }
+
+    const detail::number_lookup& numbers_;
+    std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list where its end carries nothing
+    std::vector<noted_run> noted_;
+};
+
 /// The load section, line by line.
 class load_section {
 public:
-    load_section(SdReader& model, detail::reading& run) : model_(model), run_(run) {}
+    load_section(SdReader& model, detail::reading& run)
+        : model_(model), run_(run), joint_references_(run.joints), member_references_(run.members)
+    {
+    }
 
     void read_line(const detail::text_line& line, std::size_t index)
     {
@@ -46,6 +105,13 @@ public:
             return;
         if (read_line_of_section(line))
             run_.used.mark(index);
+    }
+
+    /// Once all lines are read: the definitions to those who carry them.
+    void hand_out_references()
+    {
+        joint_references_.hand_out(model_.nodes, &SdNode::extra_ids);
+        member_references_.hand_out(model_.beams, &SdBeam::int_list);
     }
 
 private:
@@ -84,7 +150,7 @@ private:
             words.next_or_empty();
         detail::id_list_walker walker(words, detail::general_id_list);
         collect_runs(walker);
-        attach(run_.members, model_.beams, &SdBeam::int_list, line);
+        attach(member_references_, line);
     }
 
     /// "1 TO 10 UNI GY -5" under the current block. False if the line is none: no list in front, or a
@@ -98,10 +164,7 @@ private:
         if (detail::count_words(load) == 1)
             return false;
         add_definition(text_of_definition(load));
-        if (block_ == "JOINT LOAD")
-            attach(run_.joints, model_.nodes, &SdNode::extra_ids, line);
-        else
-            attach(run_.members, model_.beams, &SdBeam::int_list, line);
+        attach(block_ == "JOINT LOAD" ? joint_references_ : member_references_, line);
         return true;
     }
 
@@ -131,26 +194,18 @@ private:
         return !runs_.empty();
     }
 
-    /// Appends the number of the last definition to the list of every record that the runs name.
-    template<class Record>
-    void attach(const detail::number_lookup& numbers, std::vector<Record>& records, std::vector<int> Record::*list,
-                const detail::text_line& line)
+    /// The last definition goes to whom the runs at hand name.
+    void attach(load_references& references, const detail::text_line& line)
     {
         run_.start_list(line.place);
-        bool anyone = false;
-        for (const detail::id_run& ids : runs_) {
-            numbers.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
-                run_.budget.take_references(1);
-                (records[static_cast<std::size_t>(entry.position) - 1].*list).push_back(counter_);
-                anyone = true;
-            });
-        }
-        if (!anyone && !runs_.empty())
+        if (!references.add(counter_, runs_, run_.budget) && !runs_.empty())
             detail::tell_nobody("load", line, run_);
     }
 
     SdReader& model_;
     detail::reading& run_;
+    load_references joint_references_;
+    load_references member_references_;
     int current_case_ = 1;
     std::string_view block_;           // the last line whose last word is LOAD
     int counter_ = 0;                  // of definitions
@@ -170,6 +225,7 @@ void SdReader::read_load(const detail::line_list& lines, detail::reading& run)
     load_section section(*this, run);
     for (std::size_t i = begin; i < end; ++i)
         section.read_line(lines[i], i);
+    section.hand_out_references();
     for (const auto& [number, raw] : raw_load_defs)
         load_defs.insert_or_assign(load_defs.end(), number, get_load_defnination_from_string(raw));
 }

@@ -54,17 +54,17 @@ number_lookup::number_lookup(std::vector<numbered_position> entries, same_number
     const std::int64_t places = places_needed(entries_);
     if (places > places_per_number * static_cast<std::int64_t>(entries_.size()) + places_always_taken)
         return;
+    origin_ = entries_.front().number;
     table_.assign(static_cast<std::size_t>(places), 0);
     for (const numbered_position& entry : entries_)
-        table_[static_cast<std::size_t>(std::int64_t{entry.number} - entries_.front().number)] = entry.position;
+        table_[static_cast<std::size_t>(entry.number - origin_)] = entry.position;
 }
 
 int number_lookup::position(int number) const noexcept
 {
     if (!table_.empty()) {
-        const std::int64_t place = std::int64_t{number} - entries_.front().number;
-        return place >= 0 && place < static_cast<std::int64_t>(table_.size()) ? table_[static_cast<std::size_t>(place)]
-                                                                              : 0;
+        const std::int64_t place = number - origin_;
+        return place >= 0 && place < std::ssize(table_) ? table_[static_cast<std::size_t>(place)] : 0;
     }
     const std::size_t i = lower_bound(number);
     return i < entries_.size() && entries_[i].number == number ? entries_[i].position : 0;

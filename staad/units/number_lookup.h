@@ -2,8 +2,12 @@
 #ifndef STAAD_UNITS_NUMBER_LOOKUP_H
 #define STAAD_UNITS_NUMBER_LOOKUP_H
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace STAAD::detail {
@@ -43,6 +47,13 @@ public:
     template<class Visit>
     void for_each_in(int first, int last, Visit visit) const
     {
+        if (!table_.empty()) {
+            const std::int64_t end = std::min<std::int64_t>(std::int64_t{last} - origin_ + 1, std::ssize(table_));
+            for (std::int64_t i = std::max<std::int64_t>(std::int64_t{first} - origin_, 0); i < end; ++i)
+                if (const int position = table_[static_cast<std::size_t>(i)])
+                    visit(numbered_position{static_cast<int>(origin_ + i), position});
+            return;
+        }
         for (std::size_t i = lower_bound(first); i < entries_.size() && entries_[i].number <= last; ++i)
             visit(entries_[i]);
     }
@@ -54,7 +65,8 @@ private:
     std::size_t lower_bound(int number) const noexcept;
 
     std::vector<numbered_position> entries_; // ascending, each number once
-    std::vector<int> table_;                 // position by number - first number; empty: search
+    std::vector<int> table_;                 // position by number - origin_; empty: search
+    std::int64_t origin_ = 0;                // number of the table's first place
 };
 
 } // namespace STAAD::detail
