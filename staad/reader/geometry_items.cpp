@@ -1,7 +1,7 @@
 #include "staad/reader/geometry_items.h"
 
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 namespace STAAD {
 namespace detail {

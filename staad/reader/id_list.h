@@ -5,7 +5,7 @@
 
 #include "staad/reader/number.h"
 #include "staad/reader/read_limit.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <cstddef>
 #include <cstdint>

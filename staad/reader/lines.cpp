@@ -1,6 +1,6 @@
 #include "staad/reader/lines.h"
 
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,6 +1,6 @@
 #include "staad/model/load.h"
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 namespace STAAD {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "staad/model/sd_reader.h"
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 #include <iterator>

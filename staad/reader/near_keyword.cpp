@@ -1,7 +1,7 @@
 #include "staad/reader/near_keyword.h"
 
 #include "staad/reader/edit_distance.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 #include <string>

@@ -15,10 +15,16 @@ bool is_digit(char c) noexcept
     return c >= '0' && c <= '9';
 }
 
+bool is_white_space(char c) noexcept
+{
+    return c == ' ' || (c >= '\t' && c <= '\r'); // \t \n \v \f \r
+}
+
 std::string_view skip_white_space(std::string_view text) noexcept
 {
-    const std::size_t begin = text.find_first_not_of(" \t\n\v\f\r");
-    return begin == std::string_view::npos ? std::string_view() : text.substr(begin);
+    while (!text.empty() && is_white_space(text.front()))
+        text.remove_prefix(1);
+    return text;
 }
 
 /// Takes a sign off the front; true if it was a minus.

@@ -4,7 +4,7 @@
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 #include "staad/writer/number_text.h"
 
 #include <algorithm>
@@ -36,13 +36,28 @@ void insert_braces(std::set<int>& braces, std::string_view line, detail::id_budg
     detail::append_ids(braces, walker, budget);
 }
 
-/// The last line that contains `text`; size() if there is none.
-std::size_t find_last_containing(const detail::line_list& lines, std::string_view text) noexcept
+/// The material block: the last line that contains its first words, and the last that contains its
+/// closing ones. Both are size() where there is none.
+struct material_block {
+    std::size_t start;
+    std::size_t end;
+};
+
+material_block find_material_block(const detail::line_list& lines) noexcept
 {
-    for (std::size_t i = lines.size(); i > 0; --i)
-        if (detail::contains(lines[i - 1].text, text))
-            return i - 1;
-    return lines.size();
+    material_block block{lines.size(), lines.size()};
+    for (std::size_t i = lines.size(); i > 0; --i) {
+        const std::string_view line = lines[i - 1].text;
+        if (!detail::contains(line, "DEFINE MATERIAL"))
+            continue;
+        if (block.start == lines.size() && detail::contains(line, "DEFINE MATERIAL START"))
+            block.start = i - 1;
+        if (block.end == lines.size() && detail::contains(line, "END DEFINE MATERIAL"))
+            block.end = i - 1;
+        if (block.start < lines.size() && block.end < lines.size())
+            break;
+    }
+    return block;
 }
 
 /// The first line from `begin` to `end` that contains `text`; `end` if there is none.
@@ -84,11 +99,11 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
 void SdReader::read_material(const detail::line_list& lines, detail::reading& run)
 {
     concrete_density = default_concrete_density;
-    const std::size_t start = find_last_containing(lines, "DEFINE MATERIAL START");
-    const std::size_t end = find_last_containing(lines, "END DEFINE MATERIAL");
+    const auto [start, end] = find_material_block(lines);
     if (start == lines.size() || end == lines.size() || end <= start)
         return;
-    run.used.mark(start, end + 1);
+    run.used.mark(start);
+    run.used.mark(end);
     const std::size_t concrete = find_containing(lines, start, end, "ISOTROPIC CONCRETE");
     if (concrete == end)
         return;
@@ -99,6 +114,8 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& ru
         ++chosen;
     if (chosen >= end)
         return;
+    run.used.mark(concrete);
+    run.used.mark(chosen);
     const std::string_view line = lines[chosen].text;
     constexpr std::size_t keyword_size = 7; // of DENSITY
     concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));

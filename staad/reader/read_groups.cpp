@@ -3,7 +3,7 @@
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 namespace STAAD {
 namespace {

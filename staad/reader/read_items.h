@@ -5,7 +5,7 @@
 #include "staad/reader/geometry_items.h"
 #include "staad/reader/lines.h"
 #include "staad/reader/reading.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <string>
 #include <string_view>

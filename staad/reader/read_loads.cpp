@@ -4,7 +4,7 @@
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -59,15 +59,23 @@ public:
         return anyone;
     }
 
+    /// Appends the definitions to the lists. A pointer per record is all that is touched beside the
+    /// numbers themselves: the records are large, and a deck names each of them many times.
     template<class Record>
     void hand_out(std::vector<Record>& records, std::vector<int> Record::*list) const
     {
-        for (std::size_t i = 0; i < counts_.size(); ++i)
-            if (counts_[i] > 0)
-                (records[i].*list).reserve((records[i].*list).size() + counts_[i]);
+        std::vector<int*> next(counts_.size(), nullptr);
+        for (std::size_t i = 0; i < counts_.size(); ++i) {
+            if (counts_[i] == 0)
+                continue;
+            std::vector<int>& definitions = records[i].*list;
+            const std::size_t before = definitions.size();
+            definitions.resize(before + counts_[i]);
+            next[i] = definitions.data() + before;
+        }
         for (const noted_run& run : noted_)
             numbers_.for_each_in(run.first, run.last, [&](const detail::numbered_position& entry) {
-                (records[static_cast<std::size_t>(entry.position) - 1].*list).push_back(run.definition);
+                *next[static_cast<std::size_t>(entry.position) - 1]++ = run.definition;
             });
     }
 

@@ -1,7 +1,7 @@
 #include "staad/reader/read_materials.h"
 
 #include "staad/reader/id_list.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <string>
 

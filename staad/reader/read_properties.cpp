@@ -3,7 +3,7 @@
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
 #include "staad/reader/number.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 #include "staad/writer/number_text.h"
 
 #include <algorithm>

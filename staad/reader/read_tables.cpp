@@ -6,7 +6,7 @@
 #include "staad/reader/lines.h"
 #include "staad/reader/number.h"
 #include "staad/reader/reading.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,5 +1,5 @@
 #include "staad/model/section.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 namespace STAAD {
 namespace {

@@ -1,7 +1,7 @@
 // What members, load cases and groups are.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 #include "staad/units/positions.h"
 
 #include <cmath>

@@ -62,7 +62,7 @@ std::string geometry(const model_summary& summary)
 
 std::string member_extras(const SdReader& model, const model_summary& summary)
 {
-    return line("concrete density", short_number(model.concrete_density) + " (as written)") +
+    return line("concrete density", short_number(model.concrete_density) + " (in the units of the file)") +
            line("offsets", count_of(summary.members_with_offsets, "member")) +
            line("beta angles", count_of(summary.members_with_beta, "member"));
 }
@@ -128,12 +128,19 @@ std::string load_type(const load_case_summary& load_case)
     return load_case.type == STAAD::LoadCase::Unknown ? shown_or(load_case.type_text, "-") : words[load_case.type];
 }
 
+/// "UNI" for "MEMBER LOAD UNI": most loads are member loads, and a line has only so much room.
+std::string short_kind(const std::string& kind)
+{
+    const std::string member_load = "MEMBER LOAD ";
+    return shown_or(kind.rfind(member_load, 0) == 0 ? kind.substr(member_load.size()) : kind, "not understood");
+}
+
 std::string definitions(const load_case_summary& load_case)
 {
     std::string text;
     for (const kind_count& each : load_case.definitions) {
         text += text.empty() ? "" : ", ";
-        text += std::to_string(each.count) + ' ' + shown_or(each.kind, "not understood");
+        text += std::to_string(each.count) + ' ' + short_kind(each.kind);
     }
     return text.empty() ? "no definitions" : text;
 }
@@ -150,7 +157,7 @@ std::string load_cases(const model_summary& summary)
     table_rows rows;
     for (const load_case_summary& each : summary.load_cases)
         rows.push_back(
-            {std::to_string(each.number), load_type(each), shown_or(each.title, "-"), definitions(each), loaded(each)});
+            {std::to_string(each.number), load_type(each), shown_or(each.title, "-"), loaded(each), definitions(each)});
     return block("load cases", rows);
 }
 

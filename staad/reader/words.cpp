@@ -1,4 +1,4 @@
-#include "staad/reader/text.h"
+#include "staad/reader/words.h"
 
 #include <algorithm>
 
