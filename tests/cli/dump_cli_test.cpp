@@ -1,0 +1,249 @@
+// The verb "dump": valid JSON, every field, numbers to the last bit, texts of any encoding.
+
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <cstring>
+
+namespace cli_test {
+namespace {
+
+using nlohmann::ordered_json;
+
+ordered_json dump_of(const tool_run& tool, const std::string& deck)
+{
+    const tool_result result = tool({"dump", tool.write("deck.std", deck)});
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    return ordered_json::parse(result.out);
+}
+
+std::vector<std::string> keys_of(const ordered_json& object)
+{
+    std::vector<std::string> keys;
+    for (const auto& entry : object.items())
+        keys.push_back(entry.key());
+    return keys;
+}
+
+using names = std::vector<std::string>;
+
+TEST(Dump, EveryFieldOfTheModelInDeclarationOrder)
+{
+    const tool_run tool;
+    const ordered_json model = dump_of(tool, tower_deck());
+    EXPECT_EQ(keys_of(model), (names{"concrete_density",
+                                     "wl_param",
+                                     "eq_param",
+                                     "nodes",
+                                     "beams",
+                                     "shells",
+                                     "surfaces",
+                                     "groups",
+                                     "supports",
+                                     "releases",
+                                     "load_cases",
+                                     "load_defs",
+                                     "usr_tables",
+                                     "beam_forces",
+                                     "raw_load_defs",
+                                     "node_index",
+                                     "beam_index",
+                                     "shell_index",
+                                     "surface_index",
+                                     "unit_text",
+                                     "length_factor",
+                                     "force_factor",
+                                     "force_length_factor",
+                                     "old_proj_maps",
+                                     "brace_ids"}));
+    EXPECT_EQ(keys_of(model["nodes"][0]), (names{"id", "x", "y", "z", "extra_ids"}));
+    EXPECT_EQ(keys_of(model["beams"][0]),
+              (names{"id", "node_start", "node_end", "offset_start", "offset_end", "kind_code", "beta", "int_list",
+                     "material", "sect_text", "sect_country", "sect_extra", "sect_name"}));
+    for (const char* list : {"shells", "surfaces"})
+        EXPECT_EQ(keys_of(model[list][0]), (names{"id", "node_ids", "thickness", "material"})) << list;
+    EXPECT_EQ(keys_of(model["groups"][0]), (names{"kind", "name", "ids"}));
+    EXPECT_EQ(keys_of(model["load_cases"]["1"]), (names{"id", "type_text", "title"}));
+    EXPECT_EQ(keys_of(model["load_defs"]["1"]), (names{"kind", "direction", "values", "load_case"}));
+    EXPECT_EQ(keys_of(model["raw_load_defs"]["1"]), (names{"text", "load_case"}));
+    EXPECT_EQ(keys_of(model["usr_tables"]["1"]), (names{"type", "unit", "records"}));
+    EXPECT_EQ(keys_of(model["old_proj_maps"]), (names{"joints_new_to_old", "members_new_to_old", "shells_new_to_old",
+                                                      "joints_old_to_new", "members_old_to_new", "shells_old_to_new"}));
+}
+
+TEST(Dump, ParameterBlocksInDeclarationOrder)
+{
+    const tool_run tool;
+    const ordered_json model = dump_of(tool, small_deck());
+    EXPECT_EQ(keys_of(model["wl_param"]),
+              (names{"title", "base_press", "soil_type", "structure_high", "is_betaz", "base_period", "aweather_width",
+                     "mius", "intensity_number", "intensity_isometry", "intensity_floor", "heights", "intensities"}));
+    EXPECT_EQ(model["wl_param"]["mius"].size(), 4U);
+    EXPECT_EQ(model["wl_param"]["mius"][3].size(), 4U);
+    EXPECT_EQ(model["wl_param"]["intensities"].size(), 16U);
+    EXPECT_EQ(model["wl_param"]["is_betaz"], false);
+    EXPECT_EQ(keys_of(model["eq_param"]),
+              (names{"dir_active",         "dir_factor",       "y_freedom",        "eq_type",
+                     "post_method",        "force_type",       "eq_intensity",     "eq_group",
+                     "special_accelerate", "point_number",     "damping_factor",   "proportion_factor",
+                     "loadno_count",       "loadno",           "loadno_factor",    "periods",
+                     "spectrum_title_x",   "spectrum_title_y", "spectrum_title_z", "spectrum_x",
+                     "spectrum_y",         "spectrum_z"}));
+}
+
+TEST(Dump, ValuesOfEveryBlock)
+{
+    const tool_run tool;
+    const ordered_json model = dump_of(tool, tower_deck());
+    EXPECT_EQ(model["unit_text"], "UNIT METER KN");
+    EXPECT_EQ(model["nodes"].size(), 9U);
+    EXPECT_EQ(model["beams"].size(), 12U);
+    EXPECT_EQ(model["beams"][9]["node_end"], 4);
+    EXPECT_EQ(model["beams"][0]["sect_name"], "UPTABLE 1 H300");
+    EXPECT_EQ(model["beams"][0]["beta"], 90);
+    EXPECT_EQ(model["shells"].size(), 2U) << "the element, and the copy of the surface";
+    EXPECT_EQ(model["shells"][0]["thickness"], 200);
+    EXPECT_EQ(model["surfaces"][0]["node_ids"], ordered_json::parse("[5, 6, 8, 7]"));
+    EXPECT_EQ(model["groups"][1]["ids"], ordered_json::parse("[1, 2, 3, 4, 5, 6]"));
+    EXPECT_EQ(model["supports"], ordered_json::parse(R"({"FIXED": [1, 2, 2], "PINNED": [9, 400]})"));
+    EXPECT_EQ(model["releases"], ordered_json::parse(R"({"START MY MZ": [7, 8]})"));
+    EXPECT_EQ(model["usr_tables"]["1"]["records"]["H300"], "0.3 0.15 0.0065 0.009");
+    EXPECT_EQ(model["beam_forces"], ordered_json::object());
+    EXPECT_EQ(model["raw_load_defs"]["1"], ordered_json::parse(R"({"text": "SELFWEIGHT Y -1", "load_case": 1})"));
+    EXPECT_EQ(model["node_index"]["9"], 9);
+    EXPECT_EQ(model["surface_index"], ordered_json::parse(R"({"1": 1})"));
+    EXPECT_EQ(model["brace_ids"], ordered_json::parse("[10, 11]"));
+}
+
+TEST(Dump, OffsetsAreThreeNumbersInTheModelsFrame)
+{
+    const tool_run tool;
+    const ordered_json model = dump_of(tool, small_deck("MEMBER OFFSET\n1 START 0.1 0.2 0.3\n"));
+    // File (X, Y, Z) is model (y, z, x).
+    const std::vector<double> want = {0.3 * 1000.0, 0.1 * 1000.0, 0.2 * 1000.0};
+    EXPECT_EQ(model["beams"][0]["offset_start"].get<std::vector<double>>(), want);
+    EXPECT_EQ(model["beams"][0]["offset_end"].get<std::vector<double>>(), (std::vector<double>{0, 0, 0}));
+}
+
+std::uint64_t bits_of(double number)
+{
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &number, sizeof bits);
+    return bits;
+}
+
+struct number_case {
+    const char* why;
+    const char* text;
+    double value;
+};
+
+const number_case numbers[] = {
+    {"no short binary form", "0.1", 0.1},
+    {"seventeen digits", "0.30000000000000004", 0.30000000000000004},
+    {"one unit in the last place below", "304.79999999999995", 304.79999999999995},
+    {"the smallest there is", "4.9406564584124654e-324", 4.9406564584124654e-324},
+    {"the largest there is", "1.7976931348623157e308", 1.7976931348623157e308},
+    {"above what whole numbers of 64 bits hold", "1e22", 1e22},
+    {"a whole number past 2 to the 53rd", "9007199254740994", 9007199254740994.0},
+    {"a sign that only zero can lose", "-0.0", -0.0},
+};
+
+TEST(Dump, NumbersReadBackToTheLastBit)
+{
+    const tool_run tool;
+    for (const number_case& each : numbers) {
+        const std::string deck =
+            "UNIT MMS KN\nJOINT COORDINATES\n1 0 " + std::string(each.text) + " 0\nMEMBER INCIDENCES\n1 1 1\nFINISH\n";
+        const double z = dump_of(tool, deck)["nodes"][0]["z"].get<double>();
+        EXPECT_EQ(bits_of(z), bits_of(each.value)) << each.why << ": " << z;
+    }
+}
+
+TEST(Dump, NumbersThatJsonDoesNotHaveBecomeTexts)
+{
+    const tool_run tool;
+    // Past the largest double once it is in mm.
+    const ordered_json model =
+        dump_of(tool, "UNIT METER KN\nJOINT COORDINATES\n1 0 1e308 -1e308\nMEMBER INCIDENCES\n1 1 1\nFINISH\n");
+    EXPECT_EQ(model["nodes"][0]["z"], "Infinity");
+    EXPECT_EQ(model["nodes"][0]["x"], "-Infinity");
+}
+
+struct text_case {
+    const char* why;
+    const char* bytes;
+    const char* utf8;
+};
+
+const text_case texts[] = {
+    {"ASCII", "DEAD", "DEAD"},
+    {"UTF-8 passes, though it would be GBK as well", "caf\xC3\xA9", "caf\xC3\xA9"},
+    {"GBK: steel column", "\xB8\xD6\xD6\xF9", "\xE9\x92\xA2\xE6\x9F\xB1"},
+    {"GBK beside ASCII", "B1 \xB8\xD6", "B1 \xE9\x92\xA2"},
+    {"neither: each byte is the code point of its number", "caf\xE9", "caf\xC3\xA9"},
+    {"0xFF is in no GBK character", "\xFF\x41", "\xC3\xBF\x41"},
+    {"an overlong form is no UTF-8, and no GBK", "\xC0\x80x\xFF", "\xC3\x80\xC2\x80x\xC3\xBF"},
+    {"quotes, backslashes", "a\"b\\c", "a\"b\\c"},
+    {"control characters", "a\tb\x01\x1F\x7F", "a\tb\x01\x1F\x7F"},
+};
+
+TEST(Dump, TextsOfAnyEncoding)
+{
+    const tool_run tool;
+    for (const text_case& each : texts) {
+        const std::string deck =
+            small_deck("LOAD 1 LOADTYPE Dead TITLE " + std::string(each.bytes) + "\nSELFWEIGHT Y -1\n");
+        EXPECT_EQ(dump_of(tool, deck)["load_cases"]["1"]["title"], each.utf8) << each.why;
+    }
+}
+
+TEST(Dump, UnknownBytesAreEscapedNotWritten)
+{
+    const tool_run tool;
+    const std::string deck = small_deck("LOAD 1 LOADTYPE Dead TITLE caf\xE9\nSELFWEIGHT Y -1\n");
+    const tool_result result = tool({"dump", tool.write("deck.std", deck)});
+    EXPECT_TRUE(contains(result.out, "\"caf\\u00e9\"")) << result.out;
+}
+
+TEST(Dump, DescriptionsAsKeysAreTextsToo)
+{
+    const tool_run tool;
+    const ordered_json model = dump_of(tool, small_deck("SUPPORTS\n1 FIXED \"\xB8\xD6\"\n"));
+    EXPECT_EQ(keys_of(model["supports"]), (names{"FIXED \"\xE9\x92\xA2\""}));
+}
+
+TEST(Dump, RecordsHaveLinesOfTheirOwn)
+{
+    const tool_run tool;
+    const tool_result result = tool({"dump", tool.write("deck.std", small_deck())});
+    EXPECT_TRUE(has_line(result.out, R"(    {"id": 2, "x": 0, "y": 0, "z": 3000, "extra_ids": []})")) << result.out;
+    EXPECT_TRUE(has_line(result.out, R"(    "1": 1,)")) << result.out;
+    EXPECT_EQ(result.out.substr(result.out.size() - 3), "\n}\n");
+}
+
+TEST(Dump, StandardInputGivesTheSame)
+{
+    const tool_run tool;
+    const tool_result from_input = tool({"dump", "-"}, tower_deck());
+    EXPECT_EQ(from_input.exit_code, 0);
+    EXPECT_EQ(from_input.out, tool({"dump", tool.write("tower.std", tower_deck())}).out);
+}
+
+TEST(Dump, LargerThanTheBuffer)
+{
+    const tool_run tool;
+    std::string deck = "UNIT METER KN\nJOINT COORDINATES\n";
+    for (int joint = 1; joint <= 5000; ++joint)
+        deck += std::to_string(joint) + " 0 " + std::to_string(joint) + ".5 0\n";
+    const ordered_json model = dump_of(tool, deck + "MEMBER INCIDENCES\n1 1 2\nFINISH\n");
+    ASSERT_EQ(model["nodes"].size(), 5000U);
+    EXPECT_EQ(model["nodes"][4999]["z"].get<double>(), 5000500.0);
+    EXPECT_EQ(model["node_index"]["5000"], 5000);
+}
+
+} // namespace
+} // namespace cli_test

@@ -1,0 +1,137 @@
+// Messages: form, place, and what stands on which stream.
+
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+
+namespace cli_test {
+namespace {
+
+TEST(Messages, MissingFile)
+{
+    const tool_run tool;
+    const std::string path = tool.missing("nowhere.std");
+    for (const char* verb : {"info", "dump"}) {
+        const tool_result result = tool({verb, path});
+        EXPECT_EQ(result.exit_code, 3) << verb;
+        EXPECT_EQ(result.out, "") << verb;
+        EXPECT_EQ(result.err.rfind(path + ": error ", 0), 0U) << verb << ": " << result.err;
+    }
+}
+
+struct no_model_case {
+    const char* why;
+    const char* text;
+};
+
+const no_model_case no_model_cases[] = {
+    {"an empty file", ""},
+    {"no UNIT line", "STAAD SPACE\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"},
+    {"nothing after the UNIT line", "STAAD SPACE\nUNIT METER KN\n"},
+    {"no joints", "UNIT METER KN\nMEMBER INCIDENCES\n1 1 1\nFINISH\n"},
+    {"no members", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nFINISH\n"},
+};
+
+TEST(Messages, EveryFileWithoutAModelSaysWhy)
+{
+    const tool_run tool;
+    for (const no_model_case& each : no_model_cases) {
+        const std::string path = tool.write("bad.std", each.text);
+        const tool_result result = tool({"info", path});
+        EXPECT_EQ(result.exit_code, 3) << each.why;
+        EXPECT_EQ(result.out, "") << each.why;
+        EXPECT_TRUE(contains(result.err, ": error ")) << each.why << ": " << result.err;
+    }
+}
+
+TEST(Messages, KeywordThatIsNearlyRight)
+{
+    const tool_run tool;
+    // The keyword stands on line 12.
+    const std::string path = tool.write("tower.std", "STAAD SPACE\n"
+                                                     "START JOB INFORMATION\n"
+                                                     "ENGINEER DATE 03-May-25\n"
+                                                     "END JOB INFORMATION\n"
+                                                     "INPUT WIDTH 79\n"
+                                                     "UNIT METER KN\n"
+                                                     "JOINT COORDINATES\n"
+                                                     "1 0 0 0\n"
+                                                     "2 0 3 0\n"
+                                                     "3 4 0 0\n"
+                                                     "4 4 3 0\n"
+                                                     "MEMB INCI\n"
+                                                     "1 1 2; 2 3 4\n"
+                                                     "FINISH\n");
+    const tool_result result = tool({"info", path});
+    EXPECT_EQ(result.exit_code, 3);
+    EXPECT_TRUE(has_line(result.err, path + ":12: error keyword-near: 'MEMB INCI' is not 'MEMBER INCIDENCES'"))
+        << result.err;
+}
+
+TEST(Messages, ListBeyondTheLimitNamesItsLine)
+{
+    const tool_run tool;
+    // The list stands on line 8.
+    const std::string path = tool.write("huge.std", small_deck("SUPPORTS\n1 TO 2000000000 FIXED\n"));
+    for (const char* verb : {"info", "dump"}) {
+        const tool_result result = tool({verb, path});
+        EXPECT_EQ(result.exit_code, 3) << verb;
+        EXPECT_EQ(result.out, "") << verb;
+        EXPECT_TRUE(has_line(result.err, path + ":8: error limit: a list of more than 16777216 numbers"))
+            << verb << ": " << result.err;
+    }
+}
+
+TEST(Messages, WarningsLeaveTheExitCodeAtDone)
+{
+    const tool_run tool;
+    const std::string path = tool.write("words.std", "STAAD SPACE\n"
+                                                     "UNIT METERS KN\n"
+                                                     "JOINT COORDINATES\n"
+                                                     "1 0 0 0; 2 0 3 0\n"
+                                                     "MEMBER INCIDENCES\n"
+                                                     "1 1 2\n"
+                                                     "FINISH\n");
+    const tool_result result = tool({"info", path});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_TRUE(contains(result.err, path + ":2: warning unit-word: ")) << result.err;
+    EXPECT_TRUE(has_line(result.out, "factors: length x 1 (mm), force x 1 (kN), moment x 1 (kN*mm)")) << result.out;
+}
+
+TEST(Messages, ManyOfAKindAreCounted)
+{
+    const tool_run tool;
+    std::string deck = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n";
+    // Sixty members that end at a joint nobody defined: fifty are told one by one, ten together.
+    for (int member = 1; member <= 60; ++member)
+        deck += std::to_string(member) + " 1 " + std::to_string(1000 + member) + "\n";
+    const std::string path = tool.write("loose.std", deck + "FINISH\n");
+    const tool_result result = tool({"info", path});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_TRUE(contains(result.err, " (10 times)\n")) << result.err;
+}
+
+TEST(Messages, NotesOnRequestOnly)
+{
+    const tool_run tool;
+    const std::string path = tool.write("tower.std", tower_deck());
+    // Line 62 is the header of the combination, the first of its two lines.
+    const std::string note = path + ":62: note skipped: LOAD COMB (2 times)";
+    EXPECT_TRUE(has_line(tool({"dump", "--notes", path}).err, note));
+    EXPECT_FALSE(contains(tool({"dump", path}).err, ": note "));
+    EXPECT_FALSE(contains(tool({"info", "--notes", path}).err, "skipped")) << "the report tells it already";
+}
+
+TEST(Messages, BytesOfTheFileCannotDriveTheTerminal)
+{
+    const tool_run tool;
+    const std::string path =
+        tool.write("esc.std", small_deck("LOAD 1 LOADTYPE Dead TITLE \x1B[31mred\nSELFWEIGHT Y -1\n"));
+    const tool_result result = tool({"info", path});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_TRUE(contains(result.out, "\\x1B[31mred")) << result.out;
+    EXPECT_FALSE(contains(result.out, "\x1B"));
+}
+
+} // namespace
+} // namespace cli_test

@@ -1,0 +1,54 @@
+/// Runs the built tool with files of its own, and catches what it prints.
+#ifndef TESTS_CLI_TOOL_RUN_H
+#define TESTS_CLI_TOOL_RUN_H
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace cli_test {
+
+struct tool_result {
+    int exit_code = -1; ///< -1: ended by a signal
+    std::string out;
+    std::string err;
+};
+
+/// A folder that goes away with the test, and the tool run beside it.
+class tool_run {
+public:
+    tool_run();
+    ~tool_run();
+    tool_run(const tool_run&) = delete;
+    tool_run& operator=(const tool_run&) = delete;
+
+    /// Writes a file into the folder, byte for byte; gives its path.
+    std::string write(const std::string& name, std::string_view bytes) const;
+    /// A path in the folder at which nothing stands.
+    std::string missing(const std::string& name) const;
+
+    /// Runs the tool to its end, `input` on its standard input.
+    tool_result operator()(const std::vector<std::string>& arguments, std::string_view input = {}) const;
+    /// The same with standard output going to `out_path`; `out` of the result stays empty.
+    tool_result into(const std::string& out_path, const std::vector<std::string>& arguments) const;
+
+private:
+    tool_result run(const std::vector<std::string>& arguments, const std::string& in_path,
+                    const std::string& out_path) const;
+
+    std::filesystem::path folder_;
+};
+
+/// A deck whose answers the tests know: a small tower with everything that "info" tells.
+std::string tower_deck();
+/// The least deck that is a model, with `more_lines` before its end.
+std::string small_deck(std::string_view more_lines = {});
+
+bool contains(std::string_view text, std::string_view part);
+/// True if one of the lines of `text` is exactly `line`.
+bool has_line(std::string_view text, std::string_view line);
+
+} // namespace cli_test
+
+#endif

@@ -1,0 +1,93 @@
+// Arguments: help, version, slips, and the exit codes that scripts rely on.
+
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+
+namespace cli_test {
+namespace {
+
+constexpr const char* help_calls[][2] = {{"--help", ""}, {"-h", ""}, {"info", "--help"}, {"dump", "-h"}};
+
+TEST(Usage, HelpNamesEveryExitCode)
+{
+    const tool_run tool;
+    for (const auto& call : help_calls) {
+        const tool_result result =
+            *call[1] == '\0' ? tool({call[0]}) : tool({std::string(call[0]), std::string(call[1])});
+        EXPECT_EQ(result.exit_code, 0) << call[0];
+        EXPECT_EQ(result.err, "") << call[0];
+        for (const char* line :
+             {"  0  done, warnings included", "  1  done, with findings or differences, of a verb that checks",
+              "  2  wrong usage", "  3  no model in the input", "  4  output not written"})
+            EXPECT_TRUE(has_line(result.out, line)) << call[0] << ' ' << call[1] << ": " << line;
+    }
+}
+
+TEST(Usage, HelpNamesTheVerbsAndTheirOptions)
+{
+    const tool_run tool;
+    const std::string help = tool({"--help"}).out;
+    EXPECT_TRUE(contains(help, "\nVerbs:\n  info "));
+    EXPECT_TRUE(contains(help, "\n  dump "));
+    EXPECT_TRUE(contains(tool({"info", "--help"}).out, "--json"));
+    EXPECT_TRUE(contains(tool({"info", "--help"}).out, "Usage: staadkit info [OPTIONS] FILE..."));
+    EXPECT_TRUE(contains(tool({"dump", "--help"}).out, "Usage: staadkit dump [OPTIONS] FILE\n"));
+}
+
+TEST(Usage, Version)
+{
+    const tool_run tool;
+    const tool_result result = tool({"--version"});
+    EXPECT_EQ(result.exit_code, 0);
+    EXPECT_EQ(result.out, "staadkit " STAADKIT_VERSION "\n");
+}
+
+struct slip {
+    const char* why;
+    std::vector<std::string> arguments;
+    const char* message; ///< stands in the message
+};
+
+const slip slips[] = {
+    {"two letters swapped", {"inof", "a.std"}, "unknown verb 'inof'; did you mean 'info'?"},
+    {"a letter too many", {"dumpp", "a.std"}, "unknown verb 'dumpp'; did you mean 'dump'?"},
+    {"verbs are lower case", {"Info", "a.std"}, "unknown verb 'Info'; did you mean 'info'?"},
+    {"a letter missing in an option", {"info", "--jsn", "a.std"}, "unknown option '--jsn'; did you mean '--json'?"},
+    {"an option of another verb", {"dump", "--json", "a.std"}, "unknown option '--json'\n"},
+    {"an option before the verb", {"--json", "info", "a.std"}, "option '--json' belongs after the verb"},
+    {"nothing like it: no guess", {"frobnicate"}, "unknown verb 'frobnicate'\n"},
+    {"one file at a time", {"dump", "a.std", "b.std"}, "one argument too many: 'b.std'"},
+    {"no file", {"info"}, "FILE is required"},
+    {"no verb", {}, "no verb given"},
+};
+
+TEST(Usage, SlipsAreWrongUsageAndNameWhatWasMeant)
+{
+    const tool_run tool;
+    for (const slip& each : slips) {
+        const tool_result result = tool(each.arguments);
+        EXPECT_EQ(result.exit_code, 2) << each.why;
+        EXPECT_EQ(result.out, "") << each.why;
+        EXPECT_TRUE(contains(result.err, each.message)) << each.why << ": " << result.err;
+        EXPECT_TRUE(contains(result.err, "Try: staadkit ")) << each.why;
+    }
+}
+
+TEST(Usage, OutputThatCannotBeWrittenIsAnError)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "no /dev/full here";
+    const tool_run tool;
+    const std::string deck = tool.write("tower.std", tower_deck());
+    const std::vector<std::string> calls[] = {
+        {"--help"}, {"--version"}, {"info", deck}, {"info", "--json", deck}, {"info", deck, deck}, {"dump", deck}};
+    for (const auto& call : calls) {
+        const tool_result result = tool.into("/dev/full", call);
+        EXPECT_EQ(result.exit_code, 4) << call.front();
+        EXPECT_TRUE(contains(result.err, "staadkit: error: standard output: ")) << call.front() << ": " << result.err;
+    }
+}
+
+} // namespace
+} // namespace cli_test

@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# lint.sh format|ascii|tidy BUILD_DIR, from the project's root.
+set -euo pipefail
+
+sources() { # suffixes...
+    local suffix patterns=()
+    for suffix in "$@"; do patterns+=(-o -name "*.$suffix"); done
+    find staad tools tests benchmarks examples -type f \( "${patterns[@]:1}" \) | sort
+}
+
+case $1 in
+format) sources h cpp | xargs clang-format --dry-run -Werror ;;
+ascii)
+    if sources h cpp txt sh | xargs grep -nP '[^\x00-\x7F]'; then
+        echo "sources hold only ASCII" >&2
+        exit 1
+    fi
+    ;;
+tidy)
+    find staad tools -name '*.cpp' | sort | xargs -P 2 -n 4 clang-tidy -p "$2" --quiet \
+        --extra-arg=-Wno-unknown-warning-option 2>/dev/null # the compile commands are those of g++
+    ;;
+esac

@@ -1,0 +1,273 @@
+/// The order in which a reading takes the blocks, shown by what one block does to the work of another. The order of
+/// the blocks in the file does not matter, except where a block is searched from a certain line on.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/read_limit.h"
+#include "tests/support/deck.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+const decks::lines user_table = {"START USER TABLE", "TABLE 1", "UNIT MMS KN", "WIDE FLANGE", "W1", "10 20", "END"};
+
+TEST(DriverOrder, UserTablesComeBeforeTheUnitLine)
+{
+    SdReader model;
+    EXPECT_FALSE(model.ReadSDDataFromText("START USER TABLE\nTABLE 1\nEND\n"));
+    EXPECT_EQ(model.usr_tables.count(1), 1U) << "read, though the text has no unit line";
+
+    EXPECT_FALSE(model.ReadSDDataFromText("START USER TABLE\nTABLE 2\nEND\nUNIT METER KN\n"));
+    EXPECT_EQ(model.usr_tables.count(2), 1U) << "read, though nothing follows the unit line";
+}
+
+TEST(DriverOrder, AUnitLineOfAUserTableGovernsIfItIsTheFirst)
+{
+    const SdReader before = decks::read(decks::joined(user_table) + decks::frame_deck({}));
+    EXPECT_EQ(before.unit_text, "UNIT MMS KN");
+    EXPECT_EQ(before.nodes.at(1).y, 1.0);
+    const SdReader behind = decks::read_frame(user_table);
+    EXPECT_EQ(behind.unit_text, "UNIT METER KN");
+    EXPECT_EQ(behind.nodes.at(1).y, 1000.0);
+}
+
+TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
+{
+    SdReader model;
+    model.concrete_density = 1.0;
+    EXPECT_FALSE(model.ReadSDDataFromText("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\n"
+                                          "START GROUP DEFINITION\nJOINT\n_A 1\nEND GROUP DEFINITION\n"
+                                          "MEMBER TRUSS\n1\nSUPPORTS\n1 FIXED\nLOAD 1\nSELFWEIGHT Y -1\nFINISH\n"));
+    EXPECT_EQ(model.unit_text, "UNIT METER KN");
+    EXPECT_EQ(model.length_factor, 1000.0);
+    EXPECT_TRUE(model.groups.empty());
+    EXPECT_EQ(model.concrete_density, 1.0);
+    EXPECT_TRUE(model.brace_ids.empty());
+    EXPECT_TRUE(model.supports.empty());
+    EXPECT_TRUE(model.load_cases.empty());
+}
+
+/// A text with the given lines right behind the members, and others before them.
+std::string around_members(const decks::lines& before, const decks::lines& behind)
+{
+    return decks::joined({"UNIT METER KN"}) + decks::joined(before) +
+           decks::joined({"JOINT COORDINATES", "1 0 0 0; 2 1 0 0", "MEMBER INCIDENCES", "1 1 2"}) +
+           decks::joined(behind) + "FINISH\n";
+}
+
+TEST(DriverOrder, GroupsAreSearchedFromTheLineBehindTheMembers)
+{
+    const decks::lines groups = {"START GROUP DEFINITION", "MEMBER", "_A 1", "END GROUP DEFINITION"};
+    EXPECT_TRUE(decks::read(around_members(groups, {})).groups.empty());
+    EXPECT_EQ(decks::read(around_members({}, groups)).groups.size(), 1U) << "at once";
+    EXPECT_TRUE(
+        decks::read(around_members({"START GROUP DEFINITION"}, {"_A 1", "END GROUP DEFINITION"})).groups.empty());
+}
+
+TEST(DriverOrder, MemberPropertiesAreSearchedFromTheLineBehindTheMembers)
+{
+    const decks::lines properties = {"MEMBER PROPERTY", "1 TABLE ST A"};
+    EXPECT_EQ(decks::read(around_members(properties, {})).beams.at(0).sect_text, "");
+    EXPECT_EQ(decks::read(around_members({}, properties)).beams.at(0).sect_text, "TABLE ST A") << "at once";
+    EXPECT_EQ(decks::read(around_members({"CONSTANTS"}, {"MEMBER PROPERTY", "CONSTANTS", "1 TABLE ST A"}))
+                  .beams.at(0)
+                  .sect_text,
+              "")
+        << "a CONSTANTS line before the members does not hide the one that ends the block";
+}
+
+TEST(DriverOrder, MaterialLinesOverrideThePropertyBlock)
+{
+    const SdReader model =
+        decks::read("MATERIAL CONCRETE MEMB 1 2\n" +
+                    decks::frame_deck({"MATERIAL Q345 MEMB 3", "MEMBER PROPERTY", "1 TO 4 TABLE ST A"}));
+    const char* const want[] = {"CONCRETE", "CONCRETE", "Q345", "STEEL", ""};
+    for (int number = 1; number <= 5; ++number)
+        EXPECT_EQ(decks::member(model, number).material, want[number - 1]) << number;
+}
+
+TEST(DriverOrder, MaterialAllReachesTheCopiesOfSurfaces)
+{
+    const SdReader model = decks::read_frame({"MATERIAL C40 ALL", "ELEMENT INCIDENCES SHELL", "7 1 2 3",
+                                              "SURFACE INCIDENCE", "1 2 3 SUR 9", "MEMBER PROPERTY", "1 TABLE ST A"});
+    for (const SdBeam& member : model.beams)
+        EXPECT_EQ(member.material, "C40") << member.id;
+    ASSERT_EQ(model.shells.size(), 2U);
+    EXPECT_EQ(model.shells[0].material, "C40");
+    EXPECT_EQ(model.shells[1].material, "C40");
+    EXPECT_EQ(model.surfaces.at(0).material, "CONCRETE") << "the surface itself keeps its own";
+}
+
+TEST(DriverOrder, ElementThicknessesComeBeforeTheCopiesOfSurfaces)
+{
+    const SdReader model =
+        decks::read_frame({"ELEMENT INCIDENCES SHELL", "9 1 2 3", "ELEMENT PROPERTY", "9 THICKNESS 0.2",
+                           "SURFACE INCIDENCE", "1 2 3 SUR 9", "SURFACE PROPERTY", "9 THICKNESS 0.3"});
+    ASSERT_EQ(model.shells.size(), 2U);
+    EXPECT_EQ(model.shells[0].thickness, 200);
+    EXPECT_EQ(model.shells[1].thickness, 300);
+}
+
+struct material_line {
+    const char* why;
+    const char* line;
+    std::vector<std::string> want; ///< of members 1, 2, 3 and elements 3, 7
+};
+
+TEST(DriverOrder, MaterialLinesNameMembersFirst)
+{
+    const material_line rows[] = {
+        {"members and elements", "MATERIAL M MEMB 1 7", {"M", "", "", "C1", "M"}},
+        {"a number of both is the member", "MATERIAL M MEMB 3", {"", "", "M", "C1", "C1"}},
+        {"a range", "MATERIAL M MEMB 2 TO 9", {"", "M", "M", "C1", "M"}},
+        {"unknown numbers are passed over", "MATERIAL M MEMB 99 1", {"M", "", "", "C1", "C1"}},
+        {"all", "MATERIAL M ALL", {"M", "M", "M", "M", "M"}},
+        {"a hyphen separates numbers, it makes no range", "MATERIAL M MEMB 1-3", {"M", "", "M", "C1", "C1"}},
+        {"without MEMB the first number is lost", "MATERIAL M 1 2 3", {"", "M", "M", "C1", "C1"}},
+        {"a hyphen in the name pushes MEMB into the list, which ends there",
+         "MATERIAL A-B MEMB 1 2",
+         {"", "", "", "C1", "C1"}},
+        {"without MEMB it makes up for the lost number", "MATERIAL A-B 1 2", {"A-B", "A-B", "", "C1", "C1"}},
+        {"a hyphen in the name and ALL", "MATERIAL A-B ALL", {"A-B", "A-B", "A-B", "A-B", "A-B"}},
+        {"the keyword is the beginning of a line, as a word or not", "MATERIALS M MEMB 1", {"M", "", "", "C1", "C1"}},
+        {"the very beginning", " MATERIAL M MEMB 1", {"", "", "", "C1", "C1"}},
+    };
+    for (const material_line& row : rows) {
+        const SdReader model =
+            decks::read_frame({"ELEMENT INCIDENCES SHELL", "3 1 2 3; 7 2 3 4", row.line}, {"UNIT METER KN", 3});
+        std::vector<std::string> found;
+        for (const SdBeam& member : model.beams)
+            found.push_back(member.material);
+        for (const SdShell& shell : model.shells)
+            found.push_back(shell.material);
+        EXPECT_EQ(found, row.want) << row.line << ": " << row.why;
+    }
+}
+
+TEST(DriverOrder, UnknownNumbersOfMaterialLinesEnterTheIndexUnlessInARange)
+{
+    const SdReader model = decks::read_frame({"MATERIAL M MEMB 99 1 TO 12 88", "MATERIAL M 77 2", "MATERIAL M ALL"});
+    EXPECT_EQ(model.shell_index, (std::map<int, int>{{88, 0}, {99, 0}}));
+    EXPECT_EQ(model.beam_index.size(), 5U);
+}
+
+TEST(DriverOrder, LaterMaterialLinesWin)
+{
+    const SdReader model = decks::read_frame({"MATERIAL A MEMB 1 TO 3", "MATERIAL B ALL", "MATERIAL C MEMB 2"});
+    EXPECT_EQ(decks::member(model, 1).material, "B");
+    EXPECT_EQ(decks::member(model, 2).material, "C");
+}
+
+/// Names of the steps that left all of their work in the model.
+std::set<std::string> steps_done(const SdReader& model)
+{
+    std::set<std::string> done;
+    const auto note = [&done](bool finished, const char* step) {
+        if (finished)
+            done.insert(step);
+    };
+    note(!model.usr_tables.empty(), "tables");
+    note(!model.beams.empty(), "members");
+    note(!model.groups.empty() && model.groups[0].ids.size() == 2, "groups");
+    note(model.concrete_density == 20.0, "density");
+    note(model.brace_ids.size() == 2, "braces");
+    note(!model.shells.empty(), "elements");
+    note(!model.shells.empty() && model.shells[0].thickness == 200, "thicknesses");
+    note(!model.surfaces.empty(), "surfaces");
+    note(model.shells.size() == 2, "copies");
+    note(!model.beams.empty() && model.beams[0].sect_text == "TABLE ST A", "properties");
+    note(!model.beams.empty() && model.beams[0].beta == 90.0, "beta");
+    note(!model.beams.empty() && model.beams[0].material == "M", "materials");
+    note(!model.supports.empty() && model.supports.begin()->second.size() == 2, "supports");
+    note(!model.releases.empty() && model.releases.begin()->second.size() == 2, "releases");
+    note(!model.beams.empty() && model.beams[0].offset_start.y == 100.0, "offsets");
+    note(!model.load_cases.empty(), "loads");
+    return done;
+}
+
+/// A text with every block, in the opposite of the order in which they are taken. `endless` names the block whose
+/// list asks for too much, which ends the reading there.
+std::string every_block(const std::string& endless)
+{
+    const auto list = [&endless](const char* block) {
+        return std::string(endless == block ? "1 TO 2000000000" : "1 2");
+    };
+    return decks::frame_deck({
+        "LOAD 1",
+        "SELFWEIGHT Y -1",
+        "LOAD COMB 9",
+        "MEMBER OFFSET",
+        "1 START 0.1 0 0",
+        "MEMBER RELEASE",
+        list("releases") + " START MZ",
+        "SUPPORTS",
+        list("supports") + " FIXED",
+        "MATERIAL M MEMB 1",
+        "BETA 90 MEMB 1",
+        "MEMBER PROPERTY",
+        "1 TABLE ST A",
+        "SURFACE PROPERTY",
+        "1 THICKNESS 0.3",
+        "SURFACE INCIDENCE",
+        "1 2 3 SUR 1",
+        "ELEMENT INCIDENCES SHELL",
+        "1 1 2 3",
+        "ELEMENT PROPERTY",
+        "1 THICKNESS 0.2",
+        "MEMBER TRUSS",
+        list("braces"),
+        "DEFINE MATERIAL START",
+        "ISOTROPIC CONCRETE",
+        "LAMBDA 20",
+        "END DEFINE MATERIAL",
+        "START GROUP DEFINITION",
+        "MEMBER",
+        "_A " + list("groups"),
+        "END GROUP DEFINITION",
+        "START USER TABLE",
+        "TABLE 1",
+        "END",
+    });
+}
+
+TEST(DriverOrder, TakesEveryBlockWhateverTheOrderOfTheFile)
+{
+    EXPECT_EQ(steps_done(decks::read(every_block("none"))),
+              (std::set<std::string>{"tables", "members", "groups", "density", "braces", "elements", "thicknesses",
+                                     "surfaces", "copies", "properties", "beta", "materials", "supports", "releases",
+                                     "offsets", "loads"}));
+}
+
+/// A list past its limit ends a reading where it stands: what was done by then shows the order.
+TEST(DriverOrder, IsThatOfTheStepsNotThatOfTheFile)
+{
+    struct stop {
+        const char* endless;
+        std::set<std::string> done;
+    };
+    const stop stops[] = {
+        {"groups", {"tables", "members"}},
+        {"braces", {"tables", "members", "groups", "density"}},
+        {"supports",
+         {"tables", "members", "groups", "density", "braces", "elements", "thicknesses", "surfaces", "copies",
+          "properties", "beta", "materials"}},
+        {"releases",
+         {"tables", "members", "groups", "density", "braces", "elements", "thicknesses", "surfaces", "copies",
+          "properties", "beta", "materials", "supports"}},
+    };
+    for (const stop& one : stops) {
+        SdReader model;
+        EXPECT_THROW(model.ReadSDDataFromText(every_block(one.endless)), ReadLimitError) << one.endless;
+        EXPECT_EQ(steps_done(model), one.done) << "with an endless list in " << one.endless;
+        EXPECT_TRUE(model.ReadSDDataFromText(every_block("none"))) << one.endless;
+    }
+}
+
+} // namespace
+} // namespace STAAD

@@ -1,0 +1,142 @@
+/// How much the lists of one reading may hold, and the error that says where it was too much.
+
+#include "staad/reader/id_list.h"
+#include "staad/reader/read_limit.h"
+#include "tests/support/sd_reader_access.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <new>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+using access = detail::sd_reader_access;
+
+static_assert(most_numbers_per_list == 16777216);
+static_assert(most_numbers_per_reading == 134217728);
+static_assert(std::is_base_of_v<std::bad_alloc, ReadLimitError>);
+
+TEST(ReadLimitError, SaysWhereAndHowMuch)
+{
+    const ReadLimitError error(118, 118, most_numbers_per_list);
+    EXPECT_STREQ(error.what(), "line 118: a list of more than 16777216 numbers");
+    EXPECT_EQ(error.first_line(), 118u);
+    EXPECT_EQ(error.last_line(), 118u);
+    EXPECT_EQ(error.limit(), 16777216u);
+
+    const ReadLimitError joined(118, 121, most_numbers_per_reading);
+    const std::string text = joined.what();
+    EXPECT_NE(text.find("118"), std::string::npos) << text;
+    EXPECT_EQ(joined.first_line(), 118u);
+    EXPECT_EQ(joined.last_line(), 121u);
+    EXPECT_NE(text.find("134217728"), std::string::npos) << text;
+
+    const ReadLimitError farthest(18446744073709551615u, 18446744073709551615u, most_numbers_per_reading);
+    EXPECT_NE(std::string(farthest.what()).find("18446744073709551615"), std::string::npos) << farthest.what();
+}
+
+TEST(ReadLimitError, IsCaughtAsExhaustedMemory)
+{
+    SdReader model;
+    EXPECT_THROW(access::extract_id_from_line(model, "1 TO 16777217"), std::bad_alloc);
+}
+
+struct limit_row {
+    const char* why;
+    const char* line;
+    bool fits;
+};
+
+const limit_row limits[] = {
+    {"as many as a list holds", "1 TO 16777216", true},
+    {"one more", "1 TO 16777217", false},
+    {"single numbers count: the range starts at 3", "5 2 TO 16777216", true},
+    {"one more before the range", "5 1 TO 16777216", false},
+    {"one more behind the range", "1 TO 16777216 7", false},
+    {"a word behind the range", "1 TO 16777216 FIXED", true},
+    {"two ranges that fit alone", "1 TO 10000000 TO 10000000", false},
+    {"billions", "1 TO 2000000000", false},
+    {"all positive integers", "TO 2147483647", false},
+    {"a short range of large numbers", "2147483000 TO 2147483647", true},
+};
+
+TEST(IdBudget, BoundsEveryList)
+{
+    SdReader model;
+    for (const limit_row& c : limits) {
+        SCOPED_TRACE(c.why);
+        if (c.fits)
+            EXPECT_NO_THROW(access::extract_id_from_line(model, c.line));
+        else
+            EXPECT_THROW(access::extract_id_from_line(model, c.line), ReadLimitError);
+    }
+    EXPECT_EQ(access::extract_id_from_line(model, "1 TO 16777216").size(), most_numbers_per_list);
+}
+
+TEST(IdBudget, BoundsAllListsTogether)
+{
+    detail::id_budget budget;
+    for (std::size_t list = 1; list <= 8; ++list) {
+        budget.start_list(list, list);
+        ASSERT_NO_THROW(budget.take(most_numbers_per_list)) << list;
+    }
+    budget.start_list(9, 10);
+    try {
+        budget.take(1);
+        FAIL() << "the ninth list goes past the limit";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), 9u);
+        EXPECT_EQ(error.last_line(), 10u);
+        EXPECT_EQ(error.limit(), most_numbers_per_reading);
+    }
+    EXPECT_NO_THROW(budget.take(0));
+}
+
+TEST(IdBudget, CountsEachListFromZero)
+{
+    detail::id_budget budget;
+    budget.start_list(1, 1);
+    budget.take(most_numbers_per_list - 1);
+    EXPECT_THROW(budget.take(2), ReadLimitError);
+    EXPECT_NO_THROW(budget.take(1)) << "what was refused does not count";
+    EXPECT_THROW(budget.take(1), ReadLimitError);
+    budget.start_list(2, 2);
+    EXPECT_NO_THROW(budget.take(most_numbers_per_list));
+    EXPECT_THROW(budget.take(static_cast<std::size_t>(-1)), ReadLimitError) << "no wrapping round";
+}
+
+TEST(IdBudget, CountsReferencesInTheTotalOnly)
+{
+    detail::id_budget budget;
+    budget.start_list(3, 3);
+    EXPECT_NO_THROW(budget.take_references(most_numbers_per_reading - 1)) << "more than a list may hold";
+    EXPECT_NO_THROW(budget.take(1));
+    EXPECT_THROW(budget.take_references(1), ReadLimitError);
+    EXPECT_THROW(budget.take(1), ReadLimitError);
+}
+
+TEST(AppendIds, TakesNothingOfAListThatIsTooLong)
+{
+    detail::id_list_walker<> walker(detail::word_cursor("1 2 TO 2000000000"), detail::general_id_list);
+    detail::id_budget budget;
+    budget.start_list(7, 8);
+    std::vector<int> ids = {99};
+    try {
+        detail::append_ids(ids, walker, budget);
+        FAIL() << "no exception";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), 7u);
+        EXPECT_EQ(error.last_line(), 8u);
+        EXPECT_EQ(error.limit(), most_numbers_per_list);
+    }
+    EXPECT_EQ(ids, std::vector<int>{99}) << "the list was refused as a whole";
+    EXPECT_LT(ids.capacity(), 100u) << "before memory was taken for it";
+}
+
+} // namespace
+} // namespace STAAD

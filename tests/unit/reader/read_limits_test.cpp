@@ -1,0 +1,246 @@
+/// Lists that ask for more numbers than a reading holds, and lists that may ask for any number because they only
+/// touch what is there.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/read_limit.h"
+#include "tests/support/deck.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstddef>
+#include <functional>
+#include <new>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+using ints = std::vector<int>;
+
+/// Reads `text`, which must pass a limit at physical lines `first` to `last`.
+void expect_limit(SdReader& model, const std::string& text, std::size_t first, std::size_t last, std::size_t limit)
+{
+    try {
+        model.ReadSDDataFromText(text);
+        ADD_FAILURE() << "no exception";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), first);
+        EXPECT_EQ(error.last_line(), last);
+        EXPECT_EQ(error.limit(), limit);
+        EXPECT_NE(std::string(error.what()).find(std::to_string(first)), std::string::npos) << error.what();
+    }
+}
+
+struct endless_list {
+    const char* why;
+    decks::lines lines;
+    std::size_t first; ///< line of the list among `lines`, from 0
+    std::size_t last;
+};
+
+/// Another reading into the object gives a whole model.
+void expect_readable_again(SdReader& model)
+{
+    ASSERT_TRUE(model.ReadSDDataFromText(
+        decks::frame_deck({"LOAD 1", "MEMBER LOAD", "1 TO 2 UNI GY -1"}, {"UNIT METER KN", 2})));
+    EXPECT_EQ(model.nodes.size(), 3U);
+    ASSERT_EQ(model.beams.size(), 2U);
+    EXPECT_EQ(model.beams[1].int_list, (ints{1}));
+    EXPECT_EQ(model.load_defs.size(), 1U);
+}
+
+TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
+{
+    const endless_list rows[] = {
+        {"supports", {"SUPPORTS", "1 TO 2000000000 FIXED"}, 1, 1},
+        {"one more than the limit", {"SUPPORTS", "1 TO 16777217 FIXED"}, 1, 1},
+        {"one more, in two parts", {"SUPPORTS", "5 1 TO 16777216 FIXED"}, 1, 1},
+        {"two ranges that pass it together", {"SUPPORTS", "1 TO 10000000 TO 10000000 FIXED"}, 1, 1},
+        {"up to the largest number there is", {"SUPPORTS", "1 TO 99999999999 FIXED"}, 1, 1},
+        {"a later line", {"SUPPORTS", "1 FIXED", "2 FIXED", "3 TO 2000000000 FIXED"}, 3, 3},
+        {"a continued line", {"SUPPORTS", "1 TO -", "", "2000000000 -", "FIXED"}, 1, 4},
+        {"releases", {"MEMBER RELEASE", "1 TO 2000000000 START MZ"}, 1, 1},
+        {"groups", {"START GROUP DEFINITION", "MEMBER", "_A 1 TO 2000000000", "END GROUP DEFINITION"}, 2, 2},
+        {"groups, by a chain of ranges",
+         {"START GROUP DEFINITION", "MEMBER", "_A 1 TO 10000000 TO 20000000", "END GROUP DEFINITION"},
+         2,
+         2},
+        {"truss members", {"MEMBER TRUSS", "1 TO 2000000000"}, 1, 1},
+        {"compression-only members", {"MEMBER COMPRESSION", "1 TO 2000000000"}, 1, 1},
+        {"tension-only members", {"MEMBER TENSION", "1 TO 2000000000"}, 1, 1},
+    };
+    for (const endless_list& row : rows) {
+        SCOPED_TRACE(row.why);
+        SdReader model;
+        expect_limit(model, decks::frame_deck(row.lines), decks::first_line_under_test + row.first,
+                     decks::first_line_under_test + row.last, most_numbers_per_list);
+        expect_readable_again(model);
+    }
+}
+
+TEST(ReadLimits, AreExhaustedMemoryToACaller)
+{
+    SdReader model;
+    EXPECT_THROW(model.ReadSDDataFromText(decks::frame_deck({"SUPPORTS", "1 TO 2000000000 FIXED"})), std::bad_alloc);
+}
+
+TEST(ReadLimits, AStoredListMayReachItsLimit)
+{
+    const SdReader model = decks::read_frame({"SUPPORTS", "1 TO 16777216 FIXED"});
+    const std::vector<unsigned>& joints = model.supports.at("FIXED");
+    ASSERT_EQ(joints.size(), most_numbers_per_list);
+    EXPECT_EQ(joints.front(), 1U);
+    EXPECT_EQ(joints.back(), 16777216U);
+}
+
+TEST(ReadLimits, OneDescriptionMayHoldSeveralLists)
+{
+    const SdReader model = decks::read_frame({"SUPPORTS", "1 TO 8388609 FIXED", "1 TO 8388609 FIXED"});
+    EXPECT_EQ(model.supports.at("FIXED").size(), most_numbers_per_list + 2);
+}
+
+TEST(ReadLimits, BracesReadAloneStandInNoFile)
+{
+    SdReader model;
+    model.brace_ids = {7};
+    try {
+        model.ReadBrace({"MEMBER TRUSS", "TO 16777217"});
+        ADD_FAILURE() << "no exception";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), 0U);
+        EXPECT_EQ(error.last_line(), 0U);
+        EXPECT_EQ(error.limit(), most_numbers_per_list);
+    }
+    EXPECT_EQ(model.brace_ids, (std::set<int>{7})) << "the range is refused before any of it is taken";
+}
+
+struct touching_list {
+    const char* why;
+    decks::lines lines;
+    std::function<int(const SdReader&)> marks; ///< how many records got what the list gives
+    int want;
+};
+
+template<class Records, class Test>
+int count_of(const Records& records, Test test)
+{
+    int count = 0;
+    for (const auto& record : records)
+        count += test(record) ? 1 : 0;
+    return count;
+}
+
+/// Ranges of two thousand million numbers over a handful of records: a reader that counted them out would take
+/// minutes or pass a limit.
+TEST(ReadLimits, ListsThatTouchWhatIsThereMayNameAnyNumbers)
+{
+    const auto elements = [](const SdReader& model) {
+        return count_of(model.shells, [](const SdShell& shell) { return shell.thickness == 200; });
+    };
+    const auto surfaces = [](const SdReader& model) {
+        return count_of(model.surfaces, [](const SdSurface& surface) { return surface.thickness == 200; });
+    };
+    const auto materials = [](const SdReader& model) {
+        return count_of(model.beams, [](const SdBeam& member) { return member.material == "C30"; }) +
+               count_of(model.shells, [](const SdShell& shell) { return shell.material == "C30"; });
+    };
+    const auto loads = [](const SdReader& model) {
+        return count_of(model.beams, [](const SdBeam& member) { return member.int_list == ints{1}; });
+    };
+    const touching_list rows[] = {
+        {"member properties",
+         {"MEMBER PROPERTY", "1 TO 2000000000 TABLE ST A"},
+         [](const SdReader& model) {
+             return count_of(model.beams, [](const SdBeam& member) { return member.sect_text == "TABLE ST A"; });
+         },
+         5},
+        {"several ranges",
+         {"MEMBER PROPERTY", "3 TO 2000000000 TO 2000000000 TABLE ST A"},
+         [](const SdReader& model) {
+             return count_of(model.beams, [](const SdBeam& member) { return member.sect_text == "TABLE ST A"; });
+         },
+         3},
+        {"beta",
+         {"BETA 90 MEMB 2 TO 2000000000"},
+         [](const SdReader& model) {
+             return count_of(model.beams, [](const SdBeam& member) { return member.beta == 90.0; });
+         },
+         4},
+        {"offsets",
+         {"MEMBER OFFSET", "2 TO 2000000000 START 0 0.1 0"},
+         [](const SdReader& model) {
+             return count_of(model.beams, [](const SdBeam& member) { return member.offset_start.z == 100.0; });
+         },
+         4},
+        {"materials",
+         {"ELEMENT INCIDENCES SHELL", "7 1 2 3; 8 2 3 4", "MATERIAL C30 MEMB 4 TO 2000000000"},
+         materials,
+         4},
+        {"thicknesses",
+         {"ELEMENT INCIDENCES SHELL", "7 1 2 3; 8 2 3 4", "ELEMENT PROPERTY", "8 TO 2000000000 THICKNESS 0.2"},
+         elements,
+         1},
+        {"surfaces",
+         {"SURFACE INCIDENCE", "1 2 3 SUR 7; 2 3 4 SUR 8", "SURFACE PROPERTY", "7 TO 2000000000 THICKNESS 0.2"},
+         surfaces,
+         2},
+        {"member loads", {"LOAD 1", "MEMBER LOAD", "2 TO 2000000000 UNI GY -1"}, loads, 4},
+        {"selfweight", {"LOAD 1", "SELFWEIGHT Y -1 LIST 2 TO 2000000000"}, loads, 4},
+        {"joint loads",
+         {"LOAD 1", "JOINT LOAD", "2 TO 2000000000 FY -1"},
+         [](const SdReader& model) {
+             return count_of(model.nodes, [](const SdNode& joint) { return joint.extra_ids == ints{1}; });
+         },
+         5},
+    };
+    const auto began = std::chrono::steady_clock::now();
+    for (const touching_list& row : rows) {
+        SCOPED_TRACE(row.why);
+        const SdReader model = decks::read_frame(row.lines);
+        EXPECT_EQ(row.marks(model), row.want);
+        EXPECT_EQ(model.node_index.size(), 6U) << "numbers inside a range enter no index";
+        EXPECT_EQ(model.beam_index.size(), 5U);
+        EXPECT_LE(model.shell_index.size(), 2U);
+        EXPECT_LE(model.surface_index.size(), 2U);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(5)) << "a matter of milliseconds";
+}
+
+/// Half the numbers of a reading are stored lists, the other half references of members and joints: eight parts
+/// of 16,777,216. The last line asks for one number more.
+TEST(ReadLimits, AllListsOfAReadingShareOneTotal)
+{
+    constexpr int members = 4096;
+    constexpr int lines_per_part = 16777216 / members;
+    decks::lines parts = {"START GROUP DEFINITION",
+                          "MEMBER",
+                          "_A 1 TO 16777216",
+                          "END GROUP DEFINITION",
+                          "SUPPORTS",
+                          "1 TO 16777216 FIXED",
+                          "1 TO 16777216 PINNED",
+                          "MEMBER RELEASE",
+                          "1 TO 16777216 START MZ",
+                          "LOAD 1",
+                          "MEMBER LOAD"};
+    for (int line = 0; line < 2 * lines_per_part; ++line)
+        parts.emplace_back("1 TO 4096 UNI GY -1");
+    parts.emplace_back("JOINT LOAD");
+    for (int line = 0; line < lines_per_part; ++line)
+        parts.emplace_back("1 TO 4096 FY -1");
+    for (int line = 0; line < lines_per_part; ++line)
+        parts.emplace_back("SELFWEIGHT Y -1 LIST 1 TO 4096");
+    parts.emplace_back("4097 FY -1");
+    const std::size_t too_much = decks::first_line_under_test + parts.size() - 1;
+
+    SdReader model;
+    expect_limit(model, decks::frame_deck(parts, {"UNIT METER KN", members}), too_much, too_much,
+                 most_numbers_per_reading);
+    expect_readable_again(model); // with a total of its own
+}
+
+} // namespace
+} // namespace STAAD

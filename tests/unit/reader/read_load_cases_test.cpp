@@ -1,0 +1,140 @@
+/// Where the load section begins and ends, and the headers of its cases.
+
+#include "staad/model/sd_reader.h"
+#include "tests/support/deck.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+struct header {
+    const char* why;
+    const char* line;
+    int id;
+    const char* type_text;
+    const char* title;
+};
+
+TEST(ReadLoadCases, ReadsTheHeader)
+{
+    const header rows[] = {
+        {"number, type and title", "LOAD 1 LOADTYPE Dead TITLE DL", 1, "Dead", "DL"},
+        {"several words each", "LOAD 3 LOADTYPE Roof  Live TITLE EQ  X DIR ", 3, "Roof Live", "EQ X DIR"},
+        {"without TITLE all words belong to the type", "LOAD 4 LOADTYPE Wind FROM X", 4, "Wind FROM X", ""},
+        {"TITLE as the last word", "LOAD 4 LOADTYPE Wind X TITLE", 4, "Wind X", ""},
+        {"six words without LOADTYPE: number only", "LOAD 5 DEAD LOAD FROM SLAB", 5, "", ""},
+        {"six words with LOADTYPE in small letters", "LOAD 5 loadtype Dead TITLE DL", 5, "", ""},
+        {"six words, a word for the number", "LOAD R5 LOADTYPE Dead TITLE DL", 0, "Dead", "DL"},
+        {"six words, a signed number", "LOAD +5 LOADTYPE Dead TITLE DL", 5, "Dead", "DL"},
+        {"five words: number only", "LOAD 6 LOADTYPE Dead TITLE", 6, "", ""},
+        {"four words", "LOAD 2 LOADTYPE Live", 2, "", ""},
+        {"two words", "LOAD 7", 7, "", ""},
+        {"letters behind the number", "LOAD 7A", 7, "", ""},
+        {"a word for the number", "LOAD R1", 0, "", ""},
+        {"a signed number of a short header is a word", "LOAD +5", 0, "", ""},
+        {"the list of an analysis opens case 0", "LOAD LIST 1 2", 0, "", ""},
+        {"one word", "LOAD", 0, "", ""},
+        {"any word that begins so", "LOADING 8", 8, "", ""},
+        {"a number past 32 bits", "LOAD 99999999999", 2147483647, "", ""},
+    };
+    for (const header& row : rows) {
+        SCOPED_TRACE(std::string(row.line) + ": " + row.why);
+        const SdReader model = decks::read_frame({row.line, "SELFWEIGHT Y -1"});
+        ASSERT_EQ(model.load_cases.size(), 1U);
+        const auto& [number, load_case] = *model.load_cases.begin();
+        EXPECT_EQ(number, row.id);
+        EXPECT_EQ(load_case.id, row.id);
+        EXPECT_EQ(load_case.type_text, row.type_text);
+        EXPECT_EQ(load_case.title, row.title);
+        EXPECT_EQ(model.raw_load_defs.at(1).load_case, row.id) << "loads after it belong to it";
+        EXPECT_EQ(model.load_defs.at(1).load_case, row.id);
+    }
+}
+
+struct section {
+    const char* why;
+    decks::lines lines; ///< the last lines of the file
+    std::vector<int> cases;
+    std::vector<int> cases_of_loads;
+};
+
+TEST(ReadLoadCases, ReadsFromTheFirstHeaderToTheCombinations)
+{
+    const section rows[] = {
+        {"no header, no loads", {"SELFWEIGHT Y -1", "FINISH"}, {}, {}},
+        {"loads before the first header are not read", {"SELFWEIGHT Y -1", "LOAD 2", "FINISH"}, {2}, {}},
+        {"a header begins its line", {" LOAD 2", "SELFWEIGHT Y -1", "FINISH"}, {}, {}},
+        {"the last line of the file is never read", {"LOAD 2", "SELFWEIGHT Y -1", "SELFWEIGHT X -1"}, {2}, {2}},
+        {"not even a header", {"LOAD 2", "SELFWEIGHT Y -1", "LOAD 3"}, {2}, {2}},
+        {"not even the only one", {"LOAD 2"}, {}, {}},
+        {"the line before the combinations is", {"LOAD 2", "SELFWEIGHT Y -1", "LOAD COMB 9 X"}, {2}, {2}},
+        {"what follows them is not", {"LOAD 2", "LOAD COMBINATION 9", "LOAD 3", "SELFWEIGHT Y -1", "FINISH"}, {2}, {}},
+        {"combinations before all cases hide them", {"LOAD COMB 9", "LOAD 2", "SELFWEIGHT Y -1", "FINISH"}, {}, {}},
+        {"a header with a semicolon opens the section but not its case, and case 1 has no header",
+         {"LOAD 2;", "SELFWEIGHT Y -1", "LOAD 3", "SELFWEIGHT Y -1", "FINISH"},
+         {3},
+         {1, 3}},
+        {"later headers of one number take the place of the earlier",
+         {"LOAD 2", "SELFWEIGHT Y -1", "LOAD 3", "LOAD 2", "SELFWEIGHT Y -1", "FINISH"},
+         {2, 3},
+         {2, 2}},
+        {"cases are kept without loads", {"LOAD 9", "LOAD 2", "LOAD 5", "FINISH"}, {2, 5, 9}, {}},
+        {"commands between do not matter",
+         {"LOAD 2", "PERFORM ANALYSIS", "* LOAD 4", "SELFWEIGHT Y -1", "FINISH"},
+         {2},
+         {2}},
+    };
+    for (const section& row : rows) {
+        SCOPED_TRACE(row.why);
+        const SdReader model = decks::read(decks::open_frame_deck(row.lines));
+        std::vector<int> cases;
+        for (const auto& entry : model.load_cases)
+            cases.push_back(entry.first);
+        std::vector<int> cases_of_loads;
+        for (const auto& entry : model.raw_load_defs)
+            cases_of_loads.push_back(entry.second.load_case);
+        EXPECT_EQ(cases, row.cases);
+        EXPECT_EQ(cases_of_loads, row.cases_of_loads);
+        EXPECT_EQ(model.load_defs.size(), row.cases_of_loads.size());
+    }
+}
+
+TEST(ReadLoadCases, ALaterHeaderReplacesTheTextsToo)
+{
+    const SdReader model = decks::read_frame({"LOAD 2 LOADTYPE Dead TITLE DL", "LOAD 2"});
+    EXPECT_EQ(model.load_cases.at(2).type_text, "");
+    EXPECT_EQ(model.load_cases.at(2).title, "");
+}
+
+TEST(ReadLoadCases, BeforeTheFirstBlockTheTextBeginsWithABlank)
+{
+    const SdReader model = decks::read_frame({"LOAD 2", "1 UNI GY -5"});
+    ASSERT_EQ(model.raw_load_defs.size(), 1U);
+    EXPECT_EQ(model.raw_load_defs.at(1).text, " UNI GY -5");
+    EXPECT_EQ(model.load_defs.at(1).kind, "");
+    EXPECT_EQ(model.load_defs.at(1).direction, "");
+    EXPECT_TRUE(model.load_defs.at(1).values.empty());
+    EXPECT_EQ(decks::member(model, 1).int_list, (std::vector<int>{1})) << "members carry it all the same";
+}
+
+TEST(ReadLoadCases, AHeaderThatEndsInLoadLeavesTheBlock)
+{
+    const SdReader model = decks::read_frame({"LOAD 1", "JOINT LOAD", "LOAD 2 WIND LOAD", "3 FY -1"});
+    EXPECT_EQ(model.raw_load_defs.at(1).text, "JOINT LOAD FY -1");
+    EXPECT_EQ(model.nodes.at(2).extra_ids, (std::vector<int>{1}));
+}
+
+TEST(ReadLoadCases, ReadsLoadsBeforeTheMembers)
+{
+    const SdReader model = decks::read("LOAD 1\nMEMBER LOAD\n2 UNI GY -5\nLOAD COMB 9\n" + decks::frame_deck({}));
+    EXPECT_EQ(model.raw_load_defs.at(1).text, "MEMBER LOAD UNI GY -5");
+    EXPECT_EQ(decks::member(model, 2).int_list, (std::vector<int>{1}));
+    EXPECT_EQ(model.load_defs.at(1).values, (std::vector<double>{-5.0 / 1000.0}));
+}
+
+} // namespace
+} // namespace STAAD

@@ -1,0 +1,257 @@
+/// MEMBER PROPERTY blocks: the section texts of members, the code word, and who gets them.
+
+#include "staad/model/sd_reader.h"
+#include "tests/support/deck.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+struct section_line {
+    const char* why;
+    const char* unit;
+    const char* line;
+    const char* sect_name;
+    const char* sect_text;
+};
+
+/// Reads each line as the property of member 1.
+void expect_sections(const std::vector<section_line>& rows)
+{
+    for (const section_line& row : rows) {
+        SCOPED_TRACE(std::string(row.line) + ": " + row.why);
+        const SdReader model = decks::read_frame({"MEMBER PROPERTY", row.line}, {row.unit, 1});
+        EXPECT_EQ(decks::member(model, 1).sect_name, row.sect_name);
+        EXPECT_EQ(decks::member(model, 1).sect_text, row.sect_text);
+        EXPECT_EQ(decks::member(model, 1).material, "STEEL");
+    }
+}
+
+constexpr const char* metres = "UNIT METER KN";
+constexpr const char* millimetres = "UNIT MMS KN";
+
+TEST(ReadProperties, TakesTableTextsAsTheyStand)
+{
+    expect_sections({
+        {"from the keyword on", metres, "1 TABLE ST W12X26", "TABLE ST W12X26", "TABLE ST W12X26"},
+        {"blanks inside and behind stay", metres, "1  TABLE  ST  W12X26 ", "TABLE  ST  W12X26 ", "TABLE  ST  W12X26 "},
+        {"TABLE wins over the other keywords", metres, "1 TABLE ST TAPERED PRIS", "TABLE ST TAPERED PRIS",
+         "TABLE ST TAPERED PRIS"},
+        {"user tables, unchanged", metres, "1 UPTABLE 1 W12X26", "UPTABLE 1 W12X26", "UPTABLE 1 W12X26"},
+        {"nor is a pipe of a user table touched", metres, "1 UPTABLE 1 PIPE OD 0.2 ID 0.1",
+         "UPTABLE 1 PIPE OD 0.2 ID 0.1", "UPTABLE 1 PIPE OD 0.2 ID 0.1"},
+    });
+}
+
+TEST(ReadProperties, WritesPipesAsDiameterAndThickness)
+{
+    expect_sections({
+        {"half the difference of the diameters", metres, "1 TABLE ST PIPE OD 0.2 ID 0.18",
+         "TABLE ST PIPE OD 0.2 ID 0.18", "TABLE ST PIP200X10"},
+        {"fractions of a millimetre stay, six digits in all", millimetres, "1 TABLE ST PIPE OD 219.1234 ID 203.1234",
+         "TABLE ST PIPE OD 219.1234 ID 203.1234", "TABLE ST PIP219.123X8"},
+        {"half a millimetre", millimetres, "1 TABLE ST PIPE OD 60 ID 55", "TABLE ST PIPE OD 60 ID 55",
+         "TABLE ST PIP60X2.5"},
+        {"from a million on in powers of ten", metres, "1 TABLE ST PIPE OD 2000 ID 1000",
+         "TABLE ST PIPE OD 2000 ID 1000", "TABLE ST PIP2e+06X500000"},
+        {"no inner diameter is 0", metres, "1 TABLE ST PIPE OD 0.2", "TABLE ST PIPE OD 0.2", "TABLE ST PIP200X100"},
+        {"no number at all", metres, "1 TABLE ST PIPE OD ", "TABLE ST PIPE OD ", "TABLE ST PIP0X0"},
+        {"numbers are found by their place, not by their name", metres, "1 TABLE PIPE OD 0.2 ID 0.18",
+         "TABLE PIPE OD 0.2 ID 0.18", "TABLE PIPE PIP0X0"},
+        {"the other order is not understood", metres, "1 TABLE ST PIPE ID 0.18 OD 0.2", "TABLE ST PIPE ID 0.18 OD 0.2",
+         "TABLE ST PIPE ID 0.18 OD 0.2"},
+        {"without the blank behind OD the text stays", metres, "1 TABLE ST PIPE OD", "TABLE ST PIPE OD",
+         "TABLE ST PIPE OD"},
+        {"two blanks are not one", metres, "1 TABLE ST PIPE  OD 0.2 ID 0.1", "TABLE ST PIPE  OD 0.2 ID 0.1",
+         "TABLE ST PIPE  OD 0.2 ID 0.1"},
+    });
+}
+
+TEST(ReadProperties, WritesTaperedSectionsInWholeMillimetres)
+{
+    expect_sections({
+        {"no blank behind the keyword", metres, "1 TAPERED 0.6 0.008 0.6 0.25 0.012",
+         "TAPERED 0.6 0.008 0.6 0.25 0.012", "TAPERED600X8X600X250X12"},
+        {"truncated", millimetres, "1 TAPERED 600.9 8.5 -0.5", "TAPERED 600.9 8.5 -0.5", "TAPERED600X8X0"},
+        {"words count as 0", metres, "1 TAPERED A 0.1", "TAPERED A 0.1", "TAPERED0X100"},
+        {"nothing behind the keyword", metres, "1 2 3 TAPERED", "TAPERED", "TAPERED"},
+        {"one character behind the keyword is skipped, whatever it is", metres, "1 TAPERED0.6 0.3 0.2",
+         "TAPERED0.6 0.3 0.2", "TAPERED600X300X200"},
+        {"the first of two keywords counts", millimetres, "1 TAPERED 5 TAPERED 6", "TAPERED 5 TAPERED 6",
+         "TAPERED5X0X6"},
+        {"TAPERED wins over PRIS", metres, "1 PRIS TAPERED 0.5 0.2", "TAPERED 0.5 0.2", "TAPERED500X200"},
+        {"TAPERED wins over UPTABLE", metres, "1 UPTABLE 1 TAPERED 0.5", "TAPERED 0.5", "TAPERED500"},
+    });
+}
+
+TEST(ReadProperties, WritesPrismaticSectionsByTheirValues)
+{
+    expect_sections({
+        {"two names with their values", metres, "1 PRIS YD 0.5 ZD 0.3", "PRIS YD 0.5 ZD 0.3", "PRIS500X300"},
+        {"one", metres, "1 PRIS YD 0.5", "PRIS YD 0.5", "PRIS500"},
+        {"below a millimetre", millimetres, "1 PRIS YD 0.4", "PRIS YD 0.4", "PRIS0"},
+        {"both below a millimetre", millimetres, "1 PRIS YD 0.4 ZD 0.3", "PRIS YD 0.4 ZD 0.3", "PRIS0X0"},
+        {"three", metres, "1 PRIS YD 0.5 ZD 0.3 YB 0.2", "PRIS YD 0.5 ZD 0.3 YB 0.2", "PRIS500X300X200"},
+        {"four", metres, "1 PRIS YD 0.5 ZD 0.3 YB 0.2 ZB 0.1", "PRIS YD 0.5 ZD 0.3 YB 0.2 ZB 0.1",
+         "PRIS500X300X200X100"},
+        {"five: the text stays", metres, "1 PRIS AX 1 IX 2 IY 3 IZ 4 YD 5", "PRIS AX 1 IX 2 IY 3 IZ 4 YD 5",
+         "AX 1 IX 2 IY 3 IZ 4 YD 5"},
+        {"a name without value: the text stays", metres, "1 PRIS YD 0.5 ZD", "PRIS YD 0.5 ZD", "YD 0.5 ZD"},
+        {"a single word: the text stays", metres, "1 2 PRIS YD", "PRIS YD", "YD"},
+        {"nothing behind the keyword", metres, "1 2 3 PRIS", "PRIS", ""},
+        {"extra blanks do not count as words", metres, "1 PRIS   YD  0.5 ", "PRIS   YD  0.5 ", "PRIS500"},
+        {"one character behind PRIS is skipped, here a letter", metres, "1 PRISMATIC YD 0.5", "PRISMATIC YD 0.5",
+         "ATIC YD 0.5"},
+        {"a word that reads as no number is 0", metres, "1 PRIS YD ZD", "PRIS YD ZD", "PRIS0"},
+        {"PRIS wins over UPTABLE", metres, "1 UPTABLE 1 PRIS 400", "PRIS 400", "400"},
+    });
+}
+
+struct member_list {
+    const char* why;
+    const char* line;
+    std::vector<int> want;
+};
+
+std::vector<int> members_with_section(const SdReader& model)
+{
+    std::vector<int> found;
+    for (const SdBeam& member : model.beams)
+        if (!member.sect_name.empty())
+            found.push_back(member.id);
+    return found;
+}
+
+TEST(ReadProperties, GivesTheSectionToTheListedMembers)
+{
+    const member_list lists[] = {
+        {"range and number", "1 TO 4 7 TABLE ST W12X26", {1, 2, 3, 4, 7}},
+        {"the last three words name no members", "1 2 3 4 TABLE A", {1, 2, 3}},
+        {"not even if they are numbers", "1 2 3 PRIS", {1}},
+        {"a TO cut off from its bound ends the list", "1 TO 4 TABLE A", {1}},
+        {"a range begins after the last number that stands alone, not after a bound", "6 TO 3 TO 5 TABLE ST A", {6}},
+        {"a range without a number before it begins at 1", "TO 3 TABLE ST A", {1, 2, 3}},
+        {"0 ends the list", "1 0 2 TABLE ST A", {1}},
+        {"a word ends the list", "1 2 ALL 3 TABLE ST A", {1, 2}},
+        {"a bound below 1 ends the list", "1 TO 0 3 TABLE ST A", {1}},
+        {"a falling range names nobody", "5 TO 3 6 TABLE ST A", {5, 6}},
+        {"unknown numbers are passed over", "1 99 2 TO 3 TABLE ST A", {1, 2, 3}},
+        {"a word after TO is a bound of 0", "2 TO TABLE ST A B", {2}},
+        {"no list", "TABLE ST W12X26 1", {}},
+        {"three words are no property line", "1 PRIS YD", {}},
+        {"a line without keyword", "1 2 ST W12X26", {}},
+        {"TABLE as the last word is no keyword", "1 2 3 TABLE", {}},
+        {"TABLE at the end of a longer word neither", "1 XTABLE ST A", {}},
+        {"small letters neither", "1 table st w12x26", {}},
+    };
+    for (const member_list& row : lists) {
+        const SdReader model = decks::read_frame({"MEMBER PROPERTY", row.line}, {metres, 8});
+        EXPECT_EQ(members_with_section(model), row.want) << row.line << ": " << row.why;
+        EXPECT_EQ(model.beam_index.size(), 8U) << "no number enters the index: " << row.line;
+    }
+}
+
+TEST(ReadProperties, SetsFourFieldsAndLeavesOtherMembersEmpty)
+{
+    const SdReader model = decks::read_frame({"MEMBER PROPERTY AMERICAN", "2 PRIS YD 0.5 ZD 0.3"});
+    const SdBeam& named = decks::member(model, 2);
+    EXPECT_EQ(named.material, "STEEL");
+    EXPECT_EQ(named.sect_text, "PRIS500X300");
+    EXPECT_EQ(named.sect_country, "AMERICAN");
+    EXPECT_EQ(named.sect_name, "PRIS YD 0.5 ZD 0.3");
+    EXPECT_EQ(named.sect_extra, "");
+    const SdBeam& other = decks::member(model, 1);
+    EXPECT_EQ(other.material + other.sect_text + other.sect_country + other.sect_name + other.sect_extra, "");
+}
+
+TEST(ReadProperties, LaterLinesWin)
+{
+    const SdReader model =
+        decks::read_frame({"MEMBER PROPERTY AMERICAN", "1 TO 3 TABLE ST A", "MEMBER PROPERTY INDIAN", "2 TABLE ST B"});
+    EXPECT_EQ(decks::member(model, 1).sect_text, "TABLE ST A");
+    EXPECT_EQ(decks::member(model, 2).sect_text, "TABLE ST B");
+    EXPECT_EQ(decks::member(model, 2).sect_country, "INDIAN");
+    EXPECT_EQ(decks::member(model, 3).sect_country, "AMERICAN");
+}
+
+TEST(ReadProperties, OfTwoMembersWithOneNumberTheLastGetsTheSection)
+{
+    const SdReader model =
+        decks::read(decks::joined({metres, "JOINT COORDINATES", "1 0 0 0; 2 1 0 0", "MEMBER INCIDENCES", "1 1 2; 1 2 1",
+                                   "MEMBER PROPERTY", "1 TABLE ST A", "FINISH"}));
+    EXPECT_EQ(model.beams.at(0).sect_text, "");
+    EXPECT_EQ(model.beams.at(1).sect_text, "TABLE ST A");
+}
+
+struct code_line {
+    const char* why;
+    decks::lines lines;
+    const char* want;
+};
+
+TEST(ReadProperties, KeepsTheCodeOfTheLatestKeywordLine)
+{
+    const code_line rows[] = {
+        {"one word", {"MEMBER PROPERTY AMERICAN"}, "AMERICAN"},
+        {"a bare keyword empties it", {"MEMBER PROPERTY"}, ""},
+        {"a second line switches", {"MEMBER PROPERTY AMERICAN", "MEMBER PROPERTY INDIAN"}, "INDIAN"},
+        {"and a bare second line empties", {"MEMBER PROPERTY AMERICAN", "MEMBER PROPERTY "}, ""},
+        {"blanks and tabs are trimmed at both ends, nothing inside",
+         {"MEMBER PROPERTY \t \"GB 50017\" \t"},
+         "\"GB 50017\""},
+        {"no blank is needed", {"MEMBER PROPERTYX"}, "X"},
+        {"the keyword may stand anywhere; the code still starts at the 16th character",
+         {"MEMBER PROPERTY", "* MEMBER PROPERTY INDIAN"},
+         "TY INDIAN"},
+        {"a keyword line assigns nothing, even with numbers",
+         {"MEMBER PROPERTY A", "1 TABLE ST B", "1 TABLE ST MEMBER PROPERTY"},
+         "ER PROPERTY"},
+    };
+    for (const code_line& row : rows) {
+        decks::lines block = row.lines;
+        block.emplace_back("1 TABLE ST W12X26");
+        const SdReader model = decks::read_frame(block);
+        EXPECT_EQ(decks::member(model, 1).sect_country, row.want) << row.why;
+        EXPECT_EQ(decks::member(model, 1).sect_text, "TABLE ST W12X26") << row.why;
+    }
+}
+
+struct block_bounds {
+    const char* why;
+    decks::lines lines;
+    std::vector<int> want;
+};
+
+TEST(ReadProperties, ReadsFromTheKeywordToConstants)
+{
+    const block_bounds rows[] = {
+        {"no block", {"1 TABLE ST A"}, {}},
+        {"a block begins with its keyword", {"1 TABLE ST A", "MEMBER PROPERTY", "2 TABLE ST A"}, {2}},
+        {"which begins its line", {" MEMBER PROPERTY", "1 TABLE ST A"}, {}},
+        {"and ends at CONSTANTS", {"MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"}, {1}},
+        {"the whole line", {"MEMBER PROPERTY", "CONSTANTS ", "CONSTANTS 1", "1 TABLE ST A"}, {1}},
+        {"without CONSTANTS at the end of the file", {"MEMBER PROPERTY", "SUPPORTS", "1 FIXED", "2 TABLE ST A"}, {2}},
+        {"if CONSTANTS stands before the block, too, even if there is one more behind",
+         {"CONSTANTS", "MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"},
+         {1, 2}},
+        {"lines between that are no properties do not matter",
+         {"MEMBER PROPERTY", "* beams", "FLOOR", "3 TABLE ST A"},
+         {3}},
+    };
+    for (const block_bounds& row : rows)
+        EXPECT_EQ(members_with_section(decks::read_frame(row.lines)), row.want) << row.why;
+}
+
+TEST(ReadProperties, ReadsContinuedLines)
+{
+    const SdReader model = decks::read_frame({"MEMBER PROPERTY", "1 TO 2 -", "4 TABLE ST -", "W12X26"});
+    EXPECT_EQ(members_with_section(model), (std::vector<int>{1, 2, 4}));
+    EXPECT_EQ(decks::member(model, 4).sect_text, "TABLE ST  W12X26");
+}
+
+} // namespace
+} // namespace STAAD

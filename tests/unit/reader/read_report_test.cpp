@@ -1,0 +1,209 @@
+// What a reading tells beside the model: codes, places, counts.
+
+#include "staad/model/sd_reader.h"
+#include "staad/reader/read_report.h"
+#include "tests/support/deck.h"
+#include "tests/support/model_equal.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace {
+
+using STAAD::Finding;
+using STAAD::ReadReport;
+using STAAD::SdReader;
+
+ReadReport report_of(const std::string& text)
+{
+    SdReader model;
+    ReadReport report;
+    model.ReadSDDataFromText(text, report);
+    return report;
+}
+
+/// The findings of one code, in order.
+std::vector<Finding> findings_of(const ReadReport& report, const std::string& code)
+{
+    std::vector<Finding> found;
+    std::copy_if(report.findings.begin(), report.findings.end(), std::back_inserter(found),
+                 [&](const Finding& finding) { return finding.code == code; });
+    return found;
+}
+
+const std::string head = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\n";
+
+struct place_case {
+    const char* why;
+    std::string text;
+    const char* code;
+    Finding::Severity severity;
+    std::size_t first_line;
+    std::size_t last_line;
+    const char* quoted; ///< must stand in the text
+};
+
+const place_case place_cases[] = {
+    {"no UNIT line at all", "JOINT COORDINATES\n1 0 0 0\n", "no-unit", Finding::Error, 0, 0, "UNIT"},
+    {"a UNIT line without a line after it", "STAAD SPACE\nUNIT METER KN\n", "no-unit", Finding::Error, 0, 0, "UNIT"},
+    {"no joint block", "UNIT METER KN\nMEMBER INCIDENCES\n", "no-joints", Finding::Error, 0, 0, "JOINT COORDINATES"},
+    {"no member keyword", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\n", "no-members", Finding::Error, 0, 0,
+     "MEMBER INCIDENCES"},
+    {"the line that was meant for the missing one is an error",
+     "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nMEMB INCI\n", "keyword-near", Finding::Error, 4, 4,
+     "'MEMB INCI' is not 'MEMBER INCIDENCES'"},
+    {"a line that was meant for another keyword is a warning", head + "\nMEMBER RELEASES\n", "keyword-near",
+     Finding::Warning, 7, 7, "'MEMBER RELEASES' is not 'MEMBER RELEASE'"},
+    {"a length word that the tables do not have", "UNIT METERS KN\n" + head.substr(14), "unit-word", Finding::Warning,
+     1, 1, "'meters'"},
+    {"a force word", "UNIT METER KIPS\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'kips'"},
+    {"a moment word", "UNIT METER KN KN-FT\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'kn-ft'"},
+    {"no force word", "UNIT METER\n" + head.substr(14), "unit-short", Finding::Warning, 1, 1, "UNIT METER"},
+    {"a later UNIT line with other words", head + "UNIT MMS KN\n", "unit-later", Finding::Warning, 6, 6,
+     "'UNIT MMS KN' changes nothing"},
+    {"a joint of three words", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3\nMEMBER INCIDENCES\n1 1 2\n",
+     "item-short", Finding::Warning, 3, 3, "joint '2 0 3' has 3 of at least 4 words"},
+    {"a member of two words", head + "2 1\n", "item-short", Finding::Warning, 6, 6, "member '2 1'"},
+    {"an element of two corners", head + "ELEMENT INCIDENCES SHELL\n5 1 2\n", "item-short", Finding::Warning, 7, 7,
+     "element '5 1 2'"},
+    {"a surface of three words", head + "SURFACE INCIDENCE\n1 2 SUR\n", "item-short", Finding::Warning, 7, 7,
+     "surface '1 2 SUR'"},
+    {"a command among the joints", "UNIT METER KN\nJOINT COORDINATES\nSET NL 100 1\nMEMBER INCIDENCES\n1 1 2\n",
+     "item-number", Finding::Warning, 3, 3, "joint 'SET NL 100 1' has the number 0"},
+    {"a member on a joint that is not there", head + "2 1 99\n", "joint-unknown", Finding::Warning, 6, 6,
+     "member 2 refers to joint 99"},
+    {"an element on a joint that is not there", head + "ELEMENT INCIDENCES SHELL\n5 1 2 98\n", "joint-unknown",
+     Finding::Warning, 7, 7, "element 5 refers to joint 98"},
+    {"the place of a joined line is all of its lines: a comment in it joins, too, and takes the next line with it",
+     head + "2 1 -\n\n* 5 -\n99\n", "joint-unknown", Finding::Warning, 6, 9, "member 2 refers to joint 0"},
+    {"a comment in the middle of the members", head + "* second storey\n2 1 2\n3 1 2\n", "block-ended",
+     Finding::Warning, 6, 6, "2 data lines"},
+    {"a blank before a shell line", head + "ELEMENT INCIDENCES SHELL\n 5 1 2 1\n", "block-ended", Finding::Warning, 7,
+     7, "1 data line "},
+    {"a comment in the middle of the supports", head + "SUPPORTS\n1 FIXED\n*\n2 PINNED\n", "block-ended",
+     Finding::Warning, 8, 8, "SUPPORTS"},
+    {"a release in the middle of a member", head + "MEMBER RELEASE\n1 START MZ\n1 MY\n", "block-ended",
+     Finding::Warning, 8, 8, "MEMBER RELEASE"},
+    {"a group list that ends at a word", head + "START GROUP DEFINITION\nMEMBER\n_A 1 BY 2\nEND GROUP DEFINITION\n",
+     "list-stopped", Finding::Warning, 8, 8, "ends at 'BY'"},
+    {"a property list that ends at a word", head + "MEMBER PROPERTY\n1 BY 2 TABLE ST W12X26\nCONSTANTS\n",
+     "list-stopped", Finding::Warning, 7, 7, "ends at 'BY'"},
+    {"a support list that ends at 0", head + "SUPPORTS\n1 0 FIXED\n", "list-stopped", Finding::Warning, 7, 7,
+     "ends at '0'"},
+    {"a beta angle for ALL", head + "BETA 90 ALL\n", "list-nobody", Finding::Warning, 6, 6, "BETA 90 ALL"},
+    {"a section for members that are not there", head + "MEMBER PROPERTY\n7 TO 9 TABLE ST W12X26\nCONSTANTS\n",
+     "list-nobody", Finding::Warning, 7, 7, "7 TO 9"},
+    {"an offset for a member that is not there", head + "MEMBER OFFSET\n7 START 0 0 1\n", "list-nobody",
+     Finding::Warning, 7, 7, "7 START"},
+    {"a load on members that are not there", head + "LOAD 1\nMEMBER LOAD\n7 UNI GY -5\nFINISH\n", "list-nobody",
+     Finding::Warning, 8, 8, "7 UNI"},
+    {"a member that is not there among others", head + "MEMBER PROPERTY\n1 7 TABLE ST W12X26\nCONSTANTS\n",
+     "member-unknown", Finding::Warning, 7, 7, "member 7"},
+    {"an offset in local axes", head + "MEMBER OFFSET\n1 START LOCAL 0.1 0 0\n", "number-word", Finding::Warning, 7, 7,
+     "'LOCAL'"},
+    {"a group block without an end", head + "START GROUP DEFINITION\nMEMBER\n_A 1\n", "block-open", Finding::Warning, 6,
+     6, "END GROUP DEFINITION"},
+    {"a user table block without an end", head + "START USER TABLE\nTABLE 1\n", "block-open", Finding::Warning, 6, 6,
+     "'END'"},
+    {"the density, which does not come from the DENSITY line",
+     head + "DEFINE MATERIAL START\nISOTROPIC CONCRETE\nE 2.17185e+007\nDENSITY 24\nEND DEFINE MATERIAL\n", "density",
+     Finding::Warning, 8, 8, "'E 2.17185e+007' and becomes 8.5e+08"},
+    {"a command that nothing reads", head + "PERFORM ANALYSIS\n", "skipped", Finding::Note, 6, 6, "PERFORM ANALYSIS"},
+};
+
+TEST(ReadReport, NamesCodePlaceAndReason)
+{
+    for (const place_case& c : place_cases) {
+        SCOPED_TRACE(c.why);
+        const std::vector<Finding> found = findings_of(report_of(c.text), c.code);
+        ASSERT_EQ(found.size(), 1U) << c.text;
+        EXPECT_EQ(found[0].severity, c.severity);
+        EXPECT_EQ(found[0].first_line, c.first_line);
+        EXPECT_EQ(found[0].last_line, c.last_line);
+        EXPECT_NE(found[0].text.find(c.quoted), std::string::npos) << found[0].text;
+        EXPECT_EQ(found[0].count, 1U);
+    }
+}
+
+TEST(ReadReport, APlainDeckHasNothingToTell)
+{
+    EXPECT_TRUE(report_of(head).findings.empty());
+    EXPECT_EQ(report_of(head).worst(), Finding::Note);
+}
+
+TEST(ReadReport, TheSameUnitWordsInAnotherOrderAreNoFinding)
+{
+    EXPECT_TRUE(report_of(head + "UNIT KN METER\nUNIT meter\n").findings.empty());
+}
+
+TEST(ReadReport, CountsWhatNothingReadsByItsWords)
+{
+    const ReadReport report = report_of(head + "PERFORM ANALYSIS\n* a comment counts as nothing\nDEFINE WIND LOAD\n"
+                                               "1 2\nTYPE 1\nPERFORM ANALYSIS\n");
+    const std::vector<Finding> skipped = findings_of(report, "skipped");
+    ASSERT_EQ(skipped.size(), 3U);
+    EXPECT_EQ(skipped[0].text, "PERFORM ANALYSIS");
+    EXPECT_EQ(skipped[0].count, 2U);
+    EXPECT_EQ(skipped[1].text, "DEFINE WIND") << "data lines count with the command above them";
+    EXPECT_EQ(skipped[1].count, 2U);
+    EXPECT_EQ(skipped[2].text, "TYPE");
+}
+
+TEST(ReadReport, ListsFiftyOfOneCodeAndCountsTheRest)
+{
+    std::string members;
+    for (int number = 2; number <= 61; ++number) // sixty members with one unknown end each
+        members += std::to_string(number) + " 1 99\n";
+    const std::vector<Finding> found = findings_of(report_of(head + members), "joint-unknown");
+    ASSERT_EQ(found.size(), 51U);
+    EXPECT_EQ(found[49].count, 1U);
+    EXPECT_EQ(found[50].count, 10U);
+    EXPECT_EQ(found[50].first_line, 56U) << "the first of the rest: member 52 on line 56";
+    EXPECT_EQ(found[50].last_line, 65U);
+}
+
+TEST(ReadReport, ANewReadingEmptiesIt)
+{
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromText("", report));
+    EXPECT_FALSE(report.findings.empty());
+    EXPECT_EQ(report.worst(), Finding::Error);
+    EXPECT_TRUE(model.ReadSDDataFromText(head, report));
+    EXPECT_TRUE(report.findings.empty());
+}
+
+TEST(ReadReport, AMissingFileIsTheOnlyReason)
+{
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromStdFile("no such folder/no such file.std", report));
+    ASSERT_EQ(report.findings.size(), 1U);
+    EXPECT_EQ(report.findings[0].code, "file-missing");
+    EXPECT_EQ(report.findings[0].severity, Finding::Error);
+}
+
+TEST(ReadReport, AFolderCannotBeOpenedAsAFile)
+{
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromStdFile(".", report));
+    ASSERT_EQ(report.findings.size(), 1U);
+    EXPECT_EQ(report.findings[0].code, "file-access");
+}
+
+TEST(ReadReport, TheModelIsTheSameWithAndWithoutIt)
+{
+    for (const place_case& c : place_cases) {
+        SdReader plain;
+        SdReader reported;
+        ReadReport report;
+        EXPECT_EQ(plain.ReadSDDataFromText(c.text), reported.ReadSDDataFromText(c.text, report)) << c.why;
+        EXPECT_TRUE(STAAD::model_differences(plain, reported).empty()) << c.why;
+    }
+}
+
+} // namespace
