@@ -15,6 +15,7 @@ class definition_words {
 public:
     explicit definition_words(std::string_view text)
     {
+        words_.reserve(8); // as many as most definitions have
         detail::word_cursor cursor(text);
         for (std::string_view word; cursor.next(word);)
             words_.push_back(word);

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstdlib>
 
 namespace STAAD {
 namespace {
@@ -54,8 +55,9 @@ public:
                 count_one(entry.position);
                 anyone = true;
             });
-            noted_.push_back({definition, ids.first, ids.last});
+            note(ids);
         }
+        noted_definitions_.push_back({definition, noted_.size()});
         return anyone;
     }
 
@@ -73,18 +75,31 @@ public:
             definitions.resize(before + counts_[i]);
             next[i] = definitions.data() + before;
         }
-        for (const noted_run& run : noted_)
-            numbers_.for_each_in(run.first, run.last, [&](const detail::numbered_position& entry) {
-                *next[static_cast<std::size_t>(entry.position) - 1]++ = run.definition;
-            });
+        std::size_t i = 0;
+        for (const noted_definition& definition : noted_definitions_) {
+            while (i < definition.noted_end) {
+                const int first = std::abs(noted_[i]);
+                const int last = noted_[i] < 0 ? noted_[++i] : first;
+                ++i;
+                numbers_.for_each_in(first, last, [&](const detail::numbered_position& entry) {
+                    *next[static_cast<std::size_t>(entry.position) - 1]++ = definition.number;
+                });
+            }
+        }
     }
 
 private:
-    struct noted_run {
-        int definition;
-        int first;
-        int last;
+    struct noted_definition {
+        int number;
+        std::size_t noted_end; ///< its runs in noted_ end here
     };
+
+    void note(const detail::id_run& ids)
+    {
+        noted_.push_back(ids.is_range ? -ids.first : ids.first);
+        if (ids.is_range)
+            noted_.push_back(ids.last);
+    }
 
     void count_one(int position)
     {
@@ -96,7 +111,8 @@ private:
 
     const detail::number_lookup& numbers_;
     std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list where its end carries nothing
-    std::vector<noted_run> noted_;
+    std::vector<int> noted_;            // a number alone as it is, a range as -first and last
+    std::vector<noted_definition> noted_definitions_;
 };
 
 /// The load section, line by line.
