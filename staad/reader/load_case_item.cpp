@@ -1,12 +1,10 @@
 #include "staad/model/load.h"
+#include "staad/reader/load_header.h"
 #include "staad/reader/number.h"
 #include "staad/reader/words.h"
 
 namespace STAAD {
 namespace {
-
-/// "LOAD 1 LOADTYPE Dead TITLE DL": a header of fewer words names its case in another way.
-constexpr std::size_t words_of_full_header = 6;
 
 void append_word(std::string& text, std::string_view word)
 {
@@ -19,7 +17,7 @@ void append_word(std::string& text, std::string_view word)
 
 LoadCase::LoadCase(const std::string& line)
 {
-    if (detail::count_words(line) < words_of_full_header)
+    if (detail::count_words(line) < detail::words_of_full_load_header)
         return;
     detail::word_cursor words(line);
     words.next_or_empty(); // LOAD

@@ -29,18 +29,6 @@ public:
     }
     double number(std::size_t index) const noexcept { return detail::to_real((*this)[index]); }
 
-    /// The first three words: "MEMBER LOAD UNI".
-    std::string kind() const
-    {
-        std::string joined;
-        for (std::size_t i = 0; i < std::min<std::size_t>(words_.size(), 3); ++i) {
-            if (i > 0)
-                joined += ' ';
-            joined += words_[i];
-        }
-        return joined;
-    }
-
 private:
     std::vector<std::string_view> words_;
 };
@@ -138,11 +126,11 @@ LoadDefination SdReader::get_load_defnination_from_string(const LoadDef_raw& raw
     LoadDefination definition;
     definition.load_case = raw.load_case;
     if (detail::starts_with(text, "MEMBER LOAD")) {
-        definition.kind = words.kind();
+        definition.kind = detail::join_words(detail::word_cursor(text), 3); // "MEMBER LOAD UNI"
         definition.direction = member_direction(words[4]);
         definition.values = member_values(words, length, force);
     } else if (detail::starts_with(text, "AREA LOAD")) {
-        definition.kind = words.kind();
+        definition.kind = detail::join_words(detail::word_cursor(text), 3); // "MEMBER LOAD UNI"
         definition.direction = "Z";
         definition.values = {words.number(4) * force / length / length};
     } else if (detail::starts_with(text, "SELFWEIGHT")) {

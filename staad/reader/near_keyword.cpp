@@ -4,42 +4,70 @@
 #include "staad/reader/words.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <string>
-#include <vector>
 
 namespace STAAD::detail {
 namespace {
 
+/// The words of a keyword or of the beginning of a line; no keyword has more than three.
+struct few_words {
+    std::array<std::string_view, 4> word;
+    std::size_t count = 0;
+};
+
 struct keyword {
     std::string_view text;
+    few_words words;
     bool whole_line; ///< the line is nothing but the keyword; otherwise it begins with it
 };
 
+constexpr few_words split_at_blanks(std::string_view text)
+{
+    few_words words;
+    while (!text.empty() && words.count < words.word.size()) {
+        const std::size_t end = std::min(text.find_first_of(" \t"), text.size());
+        if (end > 0)
+            words.word[words.count++] = text.substr(0, end);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return words;
+}
+
+constexpr keyword whole(std::string_view text)
+{
+    return {text, split_at_blanks(text), true};
+}
+
+constexpr keyword beginning(std::string_view text)
+{
+    return {text, split_at_blanks(text), false};
+}
+
 constexpr keyword keywords[] = {
-    {"UNIT", false},
-    {"JOINT COORDINATES", false},
-    {"MEMBER INCIDENCES", true},
-    {"ELEMENT INCIDENCES SHELL", true},
-    {"ELEMENT PROPERTY", true},
-    {"MEMBER PROPERTY", false},
-    {"CONSTANTS", true},
-    {"SUPPORTS", true},
-    {"MEMBER RELEASE", true},
-    {"MEMBER OFFSET", true},
-    {"MEMBER TRUSS", false},
-    {"MEMBER COMPRESSION", false},
-    {"MEMBER TENSION", false},
-    {"START GROUP DEFINITION", true},
-    {"END GROUP DEFINITION", true},
-    {"SURFACE INCIDENCE", true},
-    {"SURFACE PROPERTY", false},
-    {"START USER TABLE", true},
+    beginning("UNIT"),
+    beginning("JOINT COORDINATES"),
+    whole("MEMBER INCIDENCES"),
+    whole("ELEMENT INCIDENCES SHELL"),
+    whole("ELEMENT PROPERTY"),
+    beginning("MEMBER PROPERTY"),
+    whole("CONSTANTS"),
+    whole("SUPPORTS"),
+    whole("MEMBER RELEASE"),
+    whole("MEMBER OFFSET"),
+    beginning("MEMBER TRUSS"),
+    beginning("MEMBER COMPRESSION"),
+    beginning("MEMBER TENSION"),
+    whole("START GROUP DEFINITION"),
+    whole("END GROUP DEFINITION"),
+    whole("SURFACE INCIDENCE"),
+    beginning("SURFACE PROPERTY"),
+    whole("START USER TABLE"),
 };
 
 /// Longer lines are data or titles, not a mistyped keyword.
 constexpr std::size_t longest_worth_a_look = 120;
-
-using words = std::vector<std::string>;
 
 std::size_t common_beginning(std::string_view a, std::string_view b)
 {
@@ -48,41 +76,45 @@ std::size_t common_beginning(std::string_view a, std::string_view b)
     return static_cast<std::size_t>(differ.first - a.begin());
 }
 
-/// "MEMB" for MEMBER, "INCIDENCE" and "INCIDENSES" for INCIDENCES, "PROPERTIES" for PROPERTY.
+/// "MEMB" for MEMBER, "INCIDENCE" and "INCIDENSES" for INCIDENCES, "PROPERTIES" for PROPERTY. The first
+/// letter is taken to be right.
 bool nearly_word(std::string_view word, std::string_view meant)
 {
-    if (word == meant)
-        return true;
     const std::size_t common = common_beginning(word, meant);
+    if (common == 0 || word.size() > meant.size() + 3)
+        return false;
     const bool cut_short = common == word.size() && word.size() >= 3;
-    const bool other_ending = common >= 4 && common + 2 >= meant.size() && word.size() <= meant.size() + 3;
+    const bool other_ending = common >= 4 && common + 2 >= meant.size();
     const std::size_t slips = meant.size() >= 8 ? 2 : meant.size() >= 5 ? 1 : 0;
-    return cut_short || other_ending || edit_distance(word, meant) <= slips;
+    return word == meant || cut_short || other_ending ||
+           (word.size() + slips >= meant.size() && edit_distance(word, meant) <= slips);
 }
 
-bool nearly_words(const words& line, const words& meant, std::size_t count)
+bool nearly_words(const few_words& line, const few_words& meant, std::size_t count)
 {
     for (std::size_t i = 0; i < count; ++i)
-        if (!nearly_word(line[i], meant[i]))
+        if (!nearly_word(line.word[i], meant.word[i]))
             return false;
     return true;
 }
 
-bool begins_with_words(const words& line, const words& meant)
+bool begins_with_words(const few_words& line, const few_words& meant)
 {
-    return line.size() >= meant.size() && std::equal(meant.begin(), meant.end(), line.begin());
+    return line.count >= meant.count &&
+           std::equal(meant.word.begin(), meant.word.begin() + static_cast<std::ptrdiff_t>(meant.count),
+                      line.word.begin());
 }
 
-bool is_nearly(const words& line, const keyword& candidate)
+bool is_nearly(const few_words& line, const keyword& candidate)
 {
-    const words meant = SplitString(std::string(candidate.text), " ");
-    if (meant.size() == 1 && !candidate.whole_line)
-        return line.front() == meant.front(); // one short word: only case and blanks are forgiven
+    const few_words& meant = candidate.words;
     if (begins_with_words(line, meant))
         return true;
-    if (line.size() == meant.size() || (line.size() > meant.size() && !candidate.whole_line))
-        return nearly_words(line, meant, meant.size());
-    return meant.size() >= 3 && line.size() + 1 == meant.size() && nearly_words(line, meant, line.size());
+    if (meant.count == 1 && !candidate.whole_line)
+        return false; // one short word: only case and blanks are forgiven
+    if (line.count == meant.count || (line.count > meant.count && !candidate.whole_line))
+        return nearly_words(line, meant, meant.count);
+    return meant.count >= 3 && line.count + 1 == meant.count && nearly_words(line, meant, line.count);
 }
 
 bool is_keyword(std::string_view line)
@@ -98,8 +130,9 @@ std::string_view nearly_keyword(std::string_view line)
 {
     if (line.size() > longest_worth_a_look || is_keyword(line))
         return {};
-    const words line_words = SplitString(to_upper_ascii(line), " \t");
-    if (line_words.empty())
+    const std::string upper = to_upper_ascii(line);
+    const few_words line_words = split_at_blanks(upper);
+    if (line_words.count == 0)
         return {};
     for (const keyword& candidate : keywords)
         if (is_nearly(line_words, candidate))

@@ -3,6 +3,7 @@
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
+#include "staad/reader/load_header.h"
 #include "staad/reader/number.h"
 #include "staad/reader/words.h"
 
@@ -13,30 +14,15 @@
 namespace STAAD {
 namespace {
 
-/// A header of fewer words, such as "LOAD 1" or "LOAD 1 DEAD LOAD", carries nothing but its number.
-constexpr std::size_t words_of_full_header = 6;
-
+/// A short header carries nothing but its number.
 LoadCase case_of_header(std::string_view line)
 {
     LoadCase header{std::string(line)};
-    if (detail::count_words(line) < words_of_full_header) {
+    if (detail::count_words(line) < detail::words_of_full_load_header) {
         const std::string_view number = detail::word_at(line, 1);
         header.id = chk_isdigit(number) ? detail::to_int(number) : 0;
     }
     return header;
-}
-
-/// The first `count` words of `text`, joined by single blanks.
-std::string first_words(std::string_view text, std::size_t count)
-{
-    std::string joined;
-    detail::word_cursor words(text);
-    for (std::string_view word; count > 0 && words.next(word); --count) {
-        if (!joined.empty())
-            joined += ' ';
-        joined += word;
-    }
-    return joined;
 }
 
 /// Who carries which definition, gathered first and handed out at the end: every record's list then
@@ -168,7 +154,7 @@ private:
     /// "SELFWEIGHT Y -1 LIST 1 TO 10"; without a list the definition belongs to no member.
     void read_selfweight(const detail::text_line& line)
     {
-        add_definition(first_words(line.text, 3));
+        add_definition(detail::join_words(detail::word_cursor(line.text), 3));
         detail::word_cursor words(line.text);
         for (int i = 0; i < 4; ++i) // SELFWEIGHT, direction, factor, LIST
             words.next_or_empty();
@@ -195,11 +181,8 @@ private:
     std::string text_of_definition(std::string_view load) const
     {
         std::string text(block_);
-        detail::word_cursor words(load);
-        for (std::string_view word; words.next(word);) {
-            text += ' ';
-            text += word;
-        }
+        if (const std::string words = detail::join_words(detail::word_cursor(load)); !words.empty())
+            text += ' ' + words;
         return text;
     }
 

@@ -100,10 +100,10 @@ std::string_view without_last_words(std::string_view text, std::size_t count) no
     return text;
 }
 
-std::string join_words(word_cursor words)
+std::string join_words(word_cursor words, std::size_t most)
 {
     std::string text;
-    for (std::string_view word; words.next(word);) {
+    for (std::string_view word; most > 0 && words.next(word); --most) {
         if (!text.empty())
             text += ' ';
         text += word;
