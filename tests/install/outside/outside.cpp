@@ -5,7 +5,7 @@
 #include "staad/model/sd_reader.h"
 #include "staad/reader/read_limit.h"
 #include "staad/reader/read_report.h"
-#include "staad/reader/words.h"
+#include "staad/reader/text.h"
 
 #include <iostream>
 
