@@ -4,6 +4,8 @@
 #include "staad/reader/words.h"
 
 #include <algorithm>
+#include <map>
+#include <utility>
 
 namespace STAAD::detail {
 namespace {
@@ -44,24 +46,43 @@ struct skipped_command {
     std::size_t count;
 };
 
-/// Counts by words, in order of first appearance. There are few of them in any file that is a deck.
+/// Counts by words, in order of first appearance. A text of more commands than any deck has, which is
+/// then no deck, gets one entry for all of the rest.
 class skipped_tally {
 public:
-    void add(const std::string& words, line_place place)
+    void add(std::string words, line_place place)
     {
-        auto found = std::find_if(commands_.begin(), commands_.end(), [&](const auto& c) { return c.words == words; });
-        if (found == commands_.end() && commands_.size() > ReadReport::most_per_code)
-            found = commands_.end() - 1; // a text that is no deck: enough has been listed
-        if (found == commands_.end())
-            commands_.push_back({words, place, 1});
-        else
-            ++found->count;
+        if (by_words_.size() >= most_commands && by_words_.count(words) == 0)
+            words = "(other commands)";
+        const auto [entry, is_new] = by_words_.try_emplace(std::move(words), commands_.size());
+        if (is_new)
+            commands_.push_back({entry->first, place, 0});
+        ++commands_[entry->second].count;
     }
     const std::vector<skipped_command>& commands() const noexcept { return commands_; }
 
 private:
+    static constexpr std::size_t most_commands = 1000;
+
+    std::map<std::string, std::size_t> by_words_; // to the place in commands_
     std::vector<skipped_command> commands_;
 };
+
+/// Where to cut a text of at most `limit` bytes: behind a byte that is the second half of no
+/// character, in UTF-8 and in GBK alike; most often a blank.
+std::size_t cut_of(std::string_view text, std::size_t limit) noexcept
+{
+    for (std::size_t end = limit; end > 0; --end)
+        if (const auto byte = static_cast<unsigned char>(text[end - 1]); byte < 0x40)
+            return end;
+    return limit;
+}
+
+/// Words that no list understands, though engineers know them from other lists.
+bool is_list_word(std::string_view word) noexcept
+{
+    return word == "BY" || word == "ALL";
+}
 
 } // namespace
 
@@ -70,7 +91,7 @@ std::string quote(std::string_view text)
     text = trim_blanks(text);
     if (text.size() <= longest_quote)
         return "'" + std::string(text) + "'";
-    return "'" + std::string(text.substr(0, longest_quote)) + "...'";
+    return "'" + std::string(text.substr(0, cut_of(text, longest_quote))) + "...'";
 }
 
 void tell_nobody(std::string_view what, const text_line& line, reading& run)
@@ -88,6 +109,12 @@ void tell_list_stopped(std::string_view word, const text_line& line, reading& ru
                               ", what stands behind is not part of it");
 }
 
+void tell_list_word(std::string_view word, const text_line& line, reading& run)
+{
+    if (is_list_word(word))
+        tell_list_stopped(word, line, run);
+}
+
 void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run)
 {
     if (run.findings.listening())
@@ -98,9 +125,12 @@ void tell_unknown(std::string_view code, std::string_view what, int number, cons
 
 void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run)
 {
-    if (!run.findings.listening() || end >= lines.size() || is_letter(lines[end].text.front()))
+    if (!run.findings.listening() || end >= lines.size() || starts_with_letter(lines[end].text))
         return;
-    const std::size_t lost = count_data_lines(lines, is_data(lines[end].text) ? end : end + 1);
+    std::size_t data = is_data(lines[end].text) ? end : end + 1;
+    while (data < lines.size() && starts_with(lines[data].text, "*"))
+        ++data;
+    const std::size_t lost = count_data_lines(lines, data);
     if (lost > 0)
         run.findings.warn("block-ended", lines[end].place,
                           quote(lines[end].text) + " ends the lines under " + std::string(keyword) + "; " +
@@ -120,8 +150,7 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
     if (!run.findings.listening())
         return;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const std::string_view text = trim_blanks(lines[i].text);
-        if (run.used.is_used(i) || !is_letter(text.front()))
+        if (run.used.is_used(i) || !starts_with_letter(trim_blanks(lines[i].text)))
             continue;
         const std::string_view meant = nearly_keyword(lines[i].text);
         if (meant.empty())
@@ -140,15 +169,15 @@ void tell_skipped(const line_list& lines, reading& run)
     std::string command = "(before any command)";
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const std::string_view text = trim_blanks(lines[i].text);
-        if (starts_with(text, "*"))
+        if (text.empty() || starts_with(text, "*"))
             continue;
-        if (is_letter(text.front()))
+        if (starts_with_letter(text))
             command = command_words(text);
         if (!run.used.is_used(i))
             tally.add(command, lines[i].place);
     }
     for (const skipped_command& skipped : tally.commands())
-        run.findings.add(Finding::Note, "skipped", skipped.first, skipped.words, skipped.count);
+        run.findings.list(Finding::Note, "skipped", skipped.first, skipped.words, skipped.count);
 }
 
 } // namespace STAAD::detail

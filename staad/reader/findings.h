@@ -20,6 +20,9 @@ void tell_nobody(std::string_view what, const text_line& line, reading& run);
 /// A list that ended before the words that are no part of it, at a word such as "BY" or "ALL".
 void tell_list_stopped(std::string_view word, const text_line& line, reading& run);
 
+/// The same, but only where the word is "BY" or "ALL": other words may begin what follows the list.
+void tell_list_word(std::string_view word, const text_line& line, reading& run);
+
 /// A list names a single number that no joint, member or element has.
 void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run);
 

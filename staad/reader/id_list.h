@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string_view>
 
 namespace STAAD::detail {
@@ -146,9 +147,10 @@ void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
     id_list_walker<Words> counting = walker;
     for (id_run run; counting.next(run);)
         budget.take(run.size());
+    auto place = ids.end(); // for a list the end, for a set the likely place of the next number
     for (id_run run; walker.next(run);)
         for (std::int64_t number = run.first; number <= run.last; ++number)
-            ids.insert(ids.end(), static_cast<typename Ids::value_type>(number));
+            place = std::next(ids.insert(place, static_cast<typename Ids::value_type>(number)));
 }
 
 } // namespace STAAD::detail

@@ -72,7 +72,7 @@ void line_list::prepare()
     join_continued();
     commands_.clear();
     for (std::size_t i = 0; i < lines_.size(); ++i)
-        if (is_letter(lines_[i].text.front()))
+        if (starts_with_letter(lines_[i].text))
             commands_.push_back(i);
 }
 

@@ -3,6 +3,7 @@
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
+#include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
 #include "staad/reader/words.h"
 #include "staad/writer/number_text.h"
@@ -30,10 +31,13 @@ void for_each_brace_list(std::size_t line_count, TextAt text_at, TakeList take_l
             take_list(++i);
 }
 
-void insert_braces(std::set<int>& braces, std::string_view line, detail::id_budget& budget)
+/// Gives the word at which the list ended; empty at the end of the line.
+std::string_view insert_braces(std::set<int>& braces, std::string_view line, detail::id_budget& budget)
 {
     detail::id_list_walker walker(detail::word_cursor(line), detail::general_id_list);
     detail::append_ids(braces, walker, budget);
+    detail::word_cursor behind = walker.after_list();
+    return behind.next_or_empty();
 }
 
 /// The material block: the last line that contains its first words, and the last that contains its
@@ -83,16 +87,10 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
         words.next_or_empty(); // BETA
         const double angle = detail::to_real(words.next_or_empty());
         words.next_or_empty(); // MEMB
-        bool anyone = false;
-        detail::id_list_walker walker(words, detail::general_id_list);
-        for (detail::id_run ids; walker.next(ids);) {
-            members.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
-                beams[static_cast<std::size_t>(entry.position) - 1].beta = angle;
-                anyone = true;
-            });
-        }
-        if (!anyone)
-            detail::tell_nobody("beta angle", lines[i], run);
+        const detail::list_end list = detail::for_each_named(
+            members, words, [&](std::size_t index) { beams[index].beta = angle; },
+            [&](int number) { detail::tell_unknown("member-unknown", "member", number, lines[i], run); });
+        detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], run);
     }
 }
 
@@ -143,7 +141,7 @@ void SdReader::ReadBrace(const detail::line_list& lines, detail::reading& run)
         [&](std::size_t i) {
             run.used.mark(i - 1, i + 1);
             run.start_list(lines[i].place);
-            insert_braces(brace_ids, lines[i].text, run.budget);
+            detail::tell_list_stopped(insert_braces(brace_ids, lines[i].text, run.budget), lines[i], run);
         });
 }
 

@@ -32,13 +32,12 @@ void tell_file_trouble(detail::file_bytes::state outcome, reading& run)
         run.findings.fail("file-unreadable", whole_text, "the file cannot be read to its end");
 }
 
-/// Lower-cased words of a UNIT line behind UNIT, without the first hyphen of each.
+/// The unit words of a UNIT line, lower-cased: the three behind UNIT, as far as they are there.
 std::vector<std::string> unit_words(std::string_view line)
 {
-    std::vector<std::string> words = SplitString(detail::to_lower_ascii(line), " ");
-    if (!words.empty())
-        words.erase(words.begin());
-    return words;
+    detail::word_cursor words(line);
+    words.next_or_empty(); // UNIT
+    return SplitString(detail::to_lower_ascii(detail::join_words(words, 3)), " ");
 }
 
 /// One finding per word of the governing UNIT line that the tables do not know.

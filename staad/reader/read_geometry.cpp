@@ -1,9 +1,7 @@
 #include "staad/reader/read_geometry.h"
 
-#include "staad/reader/findings.h"
-#include "staad/reader/id_list.h"
+#include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
-#include "staad/units/positions.h"
 
 namespace STAAD::detail {
 namespace {
@@ -52,16 +50,19 @@ std::size_t end_of_members(const line_list& lines, std::size_t begin)
     return begin;
 }
 
-void set_thickness(SdReader& model, const reading& run, std::string_view list, int thickness)
+/// "1 TO 3 THICKNESS 0.2": the last two words are the word and the value. Of four corner thicknesses
+/// the last one counts.
+void read_thickness_line(SdReader& model, const text_line& line, reading& run)
 {
-    id_list_walker walker(word_cursor(list), general_id_list);
-    for (id_run ids; walker.next(ids);) {
-        run.elements.for_each_in(ids.first, ids.last, [&](const numbered_position& element) {
-            model.shells[static_cast<std::size_t>(element.position) - 1].thickness = thickness;
+    const int thickness = truncate_to_int(to_real(last_word(line.text)) * model.length_factor);
+    const list_end list = for_each_named(
+        run.elements, word_cursor(without_last_words(line.text, 2)),
+        [&](std::size_t index) { model.shells[index].thickness = thickness; },
+        [&](int number) {
+            model.shell_index.emplace(number, 0);
+            tell_unknown("element-unknown", "element", number, line, run);
         });
-        if (!ids.is_range && run.elements.position(ids.first) == 0)
-            model.shell_index.emplace(ids.first, 0);
-    }
+    check_list_end("thickness", list, list.stopped_at.empty() || starts_with(list.stopped_at, "TH"), line, run);
 }
 
 } // namespace
@@ -122,10 +123,7 @@ void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from,
     const line_range block = lines_of_data(lines, keyword + 1);
     for (std::size_t i = block.begin; i < block.end; ++i) {
         run.used.mark(i);
-        const std::string_view line = lines[i].text;
-        // "1 TO 3 THICKNESS 0.2": the last two words are the word and the value
-        const double value = to_real(last_word(line)) * model.length_factor;
-        set_thickness(model, run, without_last_words(line, 2), truncate_to_int(value));
+        read_thickness_line(model, lines[i], run);
     }
     if (keyword < lines.size())
         tell_block_end("ELEMENT PROPERTY", lines, block.end, run);

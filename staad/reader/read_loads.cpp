@@ -14,6 +14,15 @@
 namespace STAAD {
 namespace {
 
+/// The one block whose numbers are joints. Every other one, "ELEMENT LOAD" too, lists members.
+constexpr std::string_view joint_load = "JOINT LOAD";
+
+bool is_understood(std::string_view block) noexcept
+{
+    return detail::starts_with(block, "MEMBER LOAD") || detail::starts_with(block, "AREA LOAD") ||
+           detail::starts_with(block, "FLOOR LOAD");
+}
+
 /// A short header carries nothing but its number.
 LoadCase case_of_header(std::string_view line)
 {
@@ -134,9 +143,9 @@ private:
     bool read_line_of_section(const detail::text_line& line)
     {
         if (detail::starts_with(line.text, "LOAD"))
-            start_case(line.text);
+            start_case(line);
         else if (detail::last_word(line.text) == "LOAD")
-            block_ = line.text;
+            start_block(line);
         else if (detail::starts_with(line.text, "SELFWEIGHT"))
             read_selfweight(line);
         else
@@ -144,11 +153,39 @@ private:
         return true;
     }
 
-    void start_case(std::string_view line)
+    void start_case(const detail::text_line& line)
     {
-        LoadCase header = case_of_header(line);
+        LoadCase header = case_of_header(line.text);
         current_case_ = header.id;
+        if (run_.findings.listening())
+            check_case(header, line);
         model_.load_cases[current_case_] = std::move(header);
+    }
+
+    void check_case(const LoadCase& header, const detail::text_line& line)
+    {
+        if (header.id < 1)
+            run_.findings.warn("load-number", line.place,
+                               detail::quote(line.text) + " has no number; what follows belongs to load case " +
+                                   std::to_string(header.id));
+        if (model_.load_cases.count(header.id) != 0)
+            run_.findings.warn("load-again", line.place,
+                               "load case " + std::to_string(header.id) + " was there before; " +
+                                   detail::quote(line.text) + " takes the place of its header, loads of both stay");
+    }
+
+    void start_block(const detail::text_line& line)
+    {
+        block_ = line.text;
+        if (!run_.findings.listening() || block_ == joint_load)
+            return;
+        if (detail::trim_blanks(block_) == joint_load)
+            run_.findings.warn("keyword-near", line.place,
+                               "'" + std::string(block_) + "' is not 'JOINT LOAD': its numbers are taken for members");
+        else if (!is_understood(block_))
+            run_.findings.warn("load-block", line.place,
+                               detail::quote(block_) +
+                                   " is not understood: its loads are kept as text, their numbers taken for members");
     }
 
     /// "SELFWEIGHT Y -1 LIST 1 TO 10"; without a list the definition belongs to no member.
@@ -160,6 +197,8 @@ private:
             words.next_or_empty();
         detail::id_list_walker walker(words, detail::general_id_list);
         collect_runs(walker);
+        detail::word_cursor behind = walker.after_list();
+        detail::tell_list_stopped(behind.next_or_empty(), line, run_);
         attach(member_references_, line);
     }
 
@@ -171,10 +210,11 @@ private:
         if (!collect_runs(walker))
             return false;
         const std::string_view load = walker.after_list().rest();
+        detail::tell_list_word(detail::word_at(load, 0), line, run_);
         if (detail::count_words(load) == 1)
             return false;
         add_definition(text_of_definition(load));
-        attach(block_ == "JOINT LOAD" ? joint_references_ : member_references_, line);
+        attach(block_ == joint_load ? joint_references_ : member_references_, line);
         return true;
     }
 

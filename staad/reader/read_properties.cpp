@@ -1,7 +1,6 @@
 #include "staad/reader/read_properties.h"
 
-#include "staad/reader/findings.h"
-#include "staad/reader/id_list.h"
+#include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
 #include "staad/reader/words.h"
 #include "staad/writer/number_text.h"
@@ -71,25 +70,17 @@ std::string_view code_of(std::string_view line) noexcept
 void assign_property(SdReader& model, const text_line& line, const property_text& property, const std::string& code,
                      reading& run)
 {
-    bool anyone = false;
-    id_list_walker walker(word_cursor(without_last_words(line.text, words_never_members)), general_id_list);
-    for (id_run ids; walker.next(ids);) {
-        run.members.for_each_in(ids.first, ids.last, [&](const numbered_position& entry) {
-            SdBeam& member = model.beams[static_cast<std::size_t>(entry.position) - 1];
+    const list_end end = for_each_named(
+        run.members, word_cursor(without_last_words(line.text, words_never_members)),
+        [&](std::size_t index) {
+            SdBeam& member = model.beams[index];
             member.material = property_material;
             member.sect_text = property.text;
             member.sect_country = code;
             member.sect_name = property.name;
-            anyone = true;
-        });
-        if (!ids.is_range && run.members.position(ids.first) == 0)
-            tell_unknown("member-unknown", "member", ids.first, line, run);
-    }
-    if (!anyone)
-        tell_nobody("section", line, run);
-    word_cursor behind = walker.after_list();
-    if (const std::string_view word = behind.next_or_empty(); !word.empty() && word.data() < property.name.data())
-        tell_list_stopped(word, line, run);
+        },
+        [&](int number) { tell_unknown("member-unknown", "member", number, line, run); });
+    check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run);
 }
 
 } // namespace

@@ -25,7 +25,8 @@ struct STAAD_API Finding {
 /// Findings in the order in which the reading met them, which is not always that of the lines.
 ///
 /// Of one code at most `most_per_code` findings are listed; one more of that code then counts all
-/// further ones, its text that of the first of them.
+/// further ones, its text that of the first of them. Findings of the code "skipped" are all listed:
+/// their text is the words of a command, their count that of its lines which no block understood.
 struct STAAD_API ReadReport {
     static constexpr std::size_t most_per_code = 50;
 

@@ -3,9 +3,9 @@
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
+#include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
 #include "staad/reader/read_items.h"
-#include "staad/units/positions.h"
 
 namespace STAAD {
 namespace {
@@ -52,13 +52,15 @@ line_range find_block(std::string_view keyword, const detail::line_list& lines, 
 }
 
 /// A list that ended before the description began, or at a description that does not begin like one.
-void check_list_end(const detail::id_list_walker<>& walker, detail::word_cursor description, const text_line& line,
-                    reading& run)
+void check_description(const detail::id_list_walker<>& walker, detail::word_cursor description, const text_line& line,
+                       reading& run)
 {
     detail::word_cursor behind = walker.after_list();
     const std::string_view word = behind.next_or_empty();
-    if (word.data() != description.next_or_empty().data() || (!word.empty() && !detail::is_letter(word.front())))
+    if (word.data() != description.next_or_empty().data() || !detail::starts_with_letter(word))
         detail::tell_list_stopped(word, line, run);
+    else
+        detail::tell_list_word(word, line, run);
 }
 
 /// Appends the numbers of every block line under the line's description.
@@ -71,7 +73,7 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
         std::vector<unsigned> listed;
         run.start_list(lines[i].place);
         detail::append_ids(listed, walker, run.budget);
-        check_list_end(walker, description, lines[i], run);
+        check_description(walker, description, lines[i], run);
         if (listed.empty())
             detail::tell_nobody("description", lines[i], run);
         std::vector<unsigned>& ids = described[detail::join_words(description)];
@@ -82,13 +84,37 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
     }
 }
 
-/// Words where a number was due: "7 START LOCAL 0.1 0 0" moves the numbers by one place.
+/// Words where a number was due ("7 START LOCAL 0.1 0 0" moves the numbers by one place), and numbers
+/// that are not there.
 void check_number(std::string_view word, const text_line& line, reading& run)
 {
-    if (run.findings.listening() && !word.empty() && word.find_first_of("0123456789") == std::string_view::npos)
-        run.findings.warn("number-word", line.place,
-                          detail::quote(line.text) + ": " + detail::quote(word) +
-                              " stands where a number is due and counts as 0");
+    if (!run.findings.listening() || word.find_first_of("0123456789") != std::string_view::npos)
+        return;
+    const std::string what =
+        word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due";
+    run.findings.warn("number-word", line.place, detail::quote(line.text) + ": " + what + " and counts as 0");
+}
+
+/// One line of member offsets.
+struct offset_line {
+    std::string_view end; ///< START; anything else is taken for END
+    SdOffset offset;      ///< mm, model frame
+};
+
+offset_line read_offset_line(const text_line& line, double length_factor, reading& run)
+{
+    detail::word_cursor description = description_of(line.text);
+    offset_line result;
+    result.end = description.next_or_empty();
+    double file_axes[3];
+    for (double& length : file_axes) {
+        const std::string_view word = description.next_or_empty();
+        check_number(word, line, run);
+        length = detail::to_real(word) * length_factor;
+    }
+    // The file's Y-up X Y Z are the model's y z x.
+    result.offset = {file_axes[2], file_axes[0], file_axes[1]};
+    return result;
 }
 
 } // namespace
@@ -110,27 +136,12 @@ void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
         return;
     const auto members = detail::number_lookup::of(beams, detail::same_number::first_counts);
     for (std::size_t i = block.begin; i < block.end; ++i) {
-        detail::word_cursor description = description_of(lines[i].text);
-        const bool at_start = description.next_or_empty() == "START";
-        std::string_view numbers[3];
-        for (std::string_view& number : numbers) {
-            number = description.next_or_empty();
-            check_number(number, lines[i], run);
-        }
-        // The file's Y-up X Y Z are the model's y z x.
-        const SdOffset offset{detail::to_real(numbers[2]) * length_factor, detail::to_real(numbers[0]) * length_factor,
-                              detail::to_real(numbers[1]) * length_factor};
-        bool anyone = false;
-        detail::id_list_walker walker(detail::word_cursor(lines[i].text), detail::general_id_list);
-        for (detail::id_run ids; walker.next(ids);) {
-            members.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
-                SdBeam& member = beams[static_cast<std::size_t>(entry.position) - 1];
-                (at_start ? member.offset_start : member.offset_end) = offset;
-                anyone = true;
-            });
-        }
-        if (!anyone)
-            detail::tell_nobody("offset", lines[i], run);
+        const offset_line line = read_offset_line(lines[i], length_factor, run);
+        const auto end = line.end == "START" ? &SdBeam::offset_start : &SdBeam::offset_end;
+        const detail::list_end list = detail::for_each_named(
+            members, detail::word_cursor(lines[i].text), [&](std::size_t index) { beams[index].*end = line.offset; },
+            [&](int number) { detail::tell_unknown("member-unknown", "member", number, lines[i], run); });
+        detail::check_list_end("offset", list, list.stopped_at == "START" || list.stopped_at == "END", lines[i], run);
     }
 }
 

@@ -1,8 +1,8 @@
 // SURFACE INCIDENCE and SURFACE PROPERTY.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
+#include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
 #include "staad/reader/read_items.h"
 #include "staad/units/positions.h"
@@ -58,8 +58,10 @@ void read_properties(SdReader& model, const detail::line_list& lines, detail::re
         detail::id_list_walker walker(detail::word_cursor(line), detail::surface_id_list);
         for (detail::id_run ids; walker.next(ids);)
             anyone = set_thickness(model, ids, detail::truncate_to_int(value)) || anyone;
-        if (!anyone)
-            detail::tell_nobody("thickness", lines[i], run);
+        detail::word_cursor behind = walker.after_list();
+        const detail::list_end list{anyone, behind.next_or_empty()};
+        const bool ended_well = list.stopped_at.empty() || detail::starts_with(list.stopped_at, "TH");
+        detail::check_list_end("thickness", list, ended_well, lines[i], run);
     }
     if (keyword < lines.size())
         detail::tell_block_end("SURFACE PROPERTY", lines, block.end, run);

@@ -10,8 +10,7 @@ finding_sink::finding_sink(ReadReport* report) : report_(report)
         report_->findings.clear();
 }
 
-void finding_sink::add(Finding::Severity severity, std::string_view code, line_place place, std::string text,
-                       std::size_t count)
+void finding_sink::add(Finding::Severity severity, std::string_view code, line_place place, std::string text)
 {
     if (report_ == nullptr)
         return;
@@ -20,13 +19,20 @@ void finding_sink::add(Finding::Severity severity, std::string_view code, line_p
         found = tallies_.insert(found, {std::string(code), 0, 0});
     if (found->listed > ReadReport::most_per_code) {
         Finding& rest = report_->findings[found->last];
-        rest.count += count;
+        ++rest.count;
         rest.last_line = std::max<std::size_t>(rest.last_line, place.last);
         return;
     }
     ++found->listed;
     found->last = report_->findings.size();
-    report_->findings.push_back({severity, found->code, place.first, place.last, std::move(text), count});
+    list(severity, code, place, std::move(text), 1);
+}
+
+void finding_sink::list(Finding::Severity severity, std::string_view code, line_place place, std::string text,
+                        std::size_t count)
+{
+    if (report_ != nullptr)
+        report_->findings.push_back({severity, std::string(code), place.first, place.last, std::move(text), count});
 }
 
 } // namespace STAAD::detail

@@ -24,10 +24,11 @@ public:
     /// Whether it is worth putting a text together.
     bool listening() const noexcept { return report_ != nullptr; }
     /// Nothing has been added.
-    bool empty() const noexcept { return tallies_.empty(); }
+    bool empty() const noexcept { return report_ == nullptr || report_->findings.empty(); }
     /// Adds one finding, or counts it with its like once there are many; see ReadReport.
-    void add(Finding::Severity severity, std::string_view code, line_place place, std::string text,
-             std::size_t count = 1);
+    void add(Finding::Severity severity, std::string_view code, line_place place, std::string text);
+    /// Adds one finding whatever their number, with a count of its own.
+    void list(Finding::Severity severity, std::string_view code, line_place place, std::string text, std::size_t count);
     void note(std::string_view code, line_place place, std::string text)
     {
         add(Finding::Note, code, place, std::move(text));

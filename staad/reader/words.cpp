@@ -25,6 +25,11 @@ bool is_letter(char c) noexcept
     return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
+bool starts_with_letter(std::string_view text) noexcept
+{
+    return !text.empty() && is_letter(text.front());
+}
+
 char to_upper_ascii(char c) noexcept
 {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;

@@ -79,6 +79,7 @@ inline bool starts_with_digit_1_to_9(std::string_view text) noexcept
 
 /// ASCII letters only, byte by byte: the host's locale has no say, GBK bytes pass unchanged.
 bool is_letter(char c) noexcept;
+bool starts_with_letter(std::string_view text) noexcept;
 char to_upper_ascii(char c) noexcept;
 char to_lower_ascii(char c) noexcept;
 std::string to_upper_ascii(std::string_view text);

@@ -1,6 +1,7 @@
 // What a reading tells beside the model: codes, places, counts.
 
 #include "staad/model/sd_reader.h"
+#include "staad/reader/findings.h"
 #include "staad/reader/read_report.h"
 #include "tests/support/deck.h"
 #include "tests/support/model_equal.h"
@@ -81,6 +82,8 @@ const place_case place_cases[] = {
      head + "2 1 -\n\n* 5 -\n99\n", "joint-unknown", Finding::Warning, 6, 9, "member 2 refers to joint 0"},
     {"a comment in the middle of the members", head + "* second storey\n2 1 2\n3 1 2\n", "block-ended",
      Finding::Warning, 6, 6, "2 data lines"},
+    {"two comments in a row in the middle of the members", head + "* second storey\n* beams\n2 1 2\n", "block-ended",
+     Finding::Warning, 6, 6, "1 data line "},
     {"a blank before a shell line", head + "ELEMENT INCIDENCES SHELL\n 5 1 2 1\n", "block-ended", Finding::Warning, 7,
      7, "1 data line "},
     {"a comment in the middle of the supports", head + "SUPPORTS\n1 FIXED\n*\n2 PINNED\n", "block-ended",
@@ -100,6 +103,42 @@ const place_case place_cases[] = {
      Finding::Warning, 7, 7, "7 START"},
     {"a load on members that are not there", head + "LOAD 1\nMEMBER LOAD\n7 UNI GY -5\nFINISH\n", "list-nobody",
      Finding::Warning, 8, 8, "7 UNI"},
+    {"a brace list of nobody", head + "MEMBER TRUSS\nALL\n", "list-stopped", Finding::Warning, 7, 7, "ends at 'ALL'"},
+    {"a support list with a step", head + "SUPPORTS\n1 BY 3 FIXED\n", "list-stopped", Finding::Warning, 7, 7,
+     "ends at 'BY'"},
+    {"a release list with a step", head + "MEMBER RELEASE\n1 BY 3 START MZ\n", "list-stopped", Finding::Warning, 7, 7,
+     "ends at 'BY'"},
+    {"an offset list that does not end at START or END", head + "MEMBER OFFSET\n1 0 START 0.1 0 0\n", "list-stopped",
+     Finding::Warning, 7, 7, "ends at '0'"},
+    {"an offset that lacks a number", head + "MEMBER OFFSET\n1 START 0.1 0\n", "number-word", Finding::Warning, 7, 7,
+     "a number is missing"},
+    {"a beta list with a step", head + "BETA 90 MEMB 1 BY 2\n", "list-stopped", Finding::Warning, 6, 6, "ends at 'BY'"},
+    {"a material for nobody", head + "MATERIAL STEEL MEMB 77\n", "list-nobody", Finding::Warning, 6, 6, "the material"},
+    {"a material list that ends at a word", head + "MATERIAL STEEL MEMB 1 BY 2\n", "list-stopped", Finding::Warning, 6,
+     6, "ends at 'BY'"},
+    {"a thickness for an element that is not there",
+     head + "ELEMENT INCIDENCES SHELL\n5 1 2 1\nELEMENT PROPERTY\n5 6 THICKNESS 0.2\n", "element-unknown",
+     Finding::Warning, 9, 9, "element 6"},
+    {"a thickness list that ends at a word",
+     head + "ELEMENT INCIDENCES SHELL\n5 1 2 1\nELEMENT PROPERTY\n5 BY 2 THICKNESS 0.2\n", "list-stopped",
+     Finding::Warning, 9, 9, "ends at 'BY'"},
+    {"a thickness for a surface that is not there",
+     head + "SURFACE INCIDENCE\n1 2 1 SUR 9\nSURFACE PROPERTY\n8 THICKNESS 0.2\n", "list-nobody", Finding::Warning, 9,
+     9, "8 THICKNESS"},
+    {"a load list with a step", head + "LOAD 1\nMEMBER LOAD\n1 BY 3 UNI GY -3\nFINISH\n", "list-stopped",
+     Finding::Warning, 8, 8, "ends at 'BY'"},
+    {"a load for ALL, behind whose list a single word stands", head + "LOAD 1\nMEMBER LOAD\n1 ALL\nFINISH\n",
+     "list-stopped", Finding::Warning, 8, 8, "ends at 'ALL'"},
+    {"a self-weight whose list is a word", head + "LOAD 1\nSELFWEIGHT Y -1 LIST ALL\nFINISH\n", "list-stopped",
+     Finding::Warning, 7, 7, "ends at 'ALL'"},
+    {"a load case header without a number", head + "LOAD R1 LOADTYPE Dead TITLE A\nFINISH\n", "load-number",
+     Finding::Warning, 6, 6, "belongs to load case 0"},
+    {"two headers of one load case", head + "LOAD 1\nLOAD 1\nFINISH\n", "load-again", Finding::Warning, 7, 7,
+     "load case 1 was there before"},
+    {"joint loads under a line with a trailing blank", head + "LOAD 1\nJOINT LOAD \n1 FY -3\nFINISH\n", "keyword-near",
+     Finding::Warning, 7, 7, "'JOINT LOAD ' is not 'JOINT LOAD'"},
+    {"loads of a block that nothing understands", head + "LOAD 1\nELEMENT LOAD\n1 PR GY -3\nFINISH\n", "load-block",
+     Finding::Warning, 7, 7, "'ELEMENT LOAD' is not understood"},
     {"a member that is not there among others", head + "MEMBER PROPERTY\n1 7 TABLE ST W12X26\nCONSTANTS\n",
      "member-unknown", Finding::Warning, 7, 7, "member 7"},
     {"an offset in local axes", head + "MEMBER OFFSET\n1 START LOCAL 0.1 0 0\n", "number-word", Finding::Warning, 7, 7,
@@ -150,6 +189,64 @@ TEST(ReadReport, CountsWhatNothingReadsByItsWords)
     EXPECT_EQ(skipped[1].text, "DEFINE WIND") << "data lines count with the command above them";
     EXPECT_EQ(skipped[1].count, 2U);
     EXPECT_EQ(skipped[2].text, "TYPE");
+}
+
+TEST(ReadReport, ListsEveryCommandThatNothingReads)
+{
+    std::string commands;
+    for (char first = 'A'; first <= 'Z'; ++first)
+        for (char second = 'A'; second <= 'C'; ++second)
+            commands += std::string("Q") + first + second + " 1\n";
+    const std::vector<Finding> skipped = findings_of(report_of(head + commands + "FINISH\n"), "skipped");
+    ASSERT_EQ(skipped.size(), 79U) << "26 x 3 commands and FINISH";
+    for (const Finding& finding : skipped)
+        EXPECT_EQ(finding.count, 1U) << finding.text;
+    EXPECT_EQ(skipped.back().text, "FINISH");
+}
+
+TEST(ReadReport, PutsAllThatIsPastAThousandCommandsTogether)
+{
+    std::string commands;
+    for (char a = 'A'; a <= 'Z'; ++a)
+        for (char b = 'A'; b <= 'Z'; ++b)
+            for (char c = 'A'; c <= 'B'; ++c)
+                commands += std::string("Q") + a + b + c + " 1\n"; // 26 x 26 x 2 = 1352 commands
+    const std::vector<Finding> skipped = findings_of(report_of(head + commands), "skipped");
+    ASSERT_EQ(skipped.size(), 1001U);
+    EXPECT_EQ(skipped.back().text, "(other commands)");
+    EXPECT_EQ(skipped.back().count, 352U);
+}
+
+TEST(ReadReport, ALineOfNothingButAContinuationMarkIsNoTrouble)
+{
+    for (const char* const end : {"-", "  -", "\t-", " - "}) {
+        SCOPED_TRACE(end);
+        EXPECT_NO_THROW(report_of(head + end)) << "behind a model";
+        EXPECT_NO_THROW(report_of(std::string("STAAD SPACE\n") + end)) << "where there is no model";
+    }
+}
+
+struct quote_case {
+    const char* why;
+    std::string line;
+    std::string quoted;
+};
+
+TEST(ReadReport, CutsLongQuotesBetweenCharacters)
+{
+    const std::string ascii(57, '5');
+    const std::string utf8 = "\xE6\xA2\x81";    // one character of three bytes
+    const std::string gbk = "\xC1\xBA\xC1\xBA"; // two characters of two bytes
+    const std::string words = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 BY 3"; // 64 bytes
+    const quote_case cases[] = {
+        {"a text of sixty bytes is quoted whole", ascii + "123", "'" + ascii + "123'"},
+        {"a longer one is cut at sixty", ascii + "1234", "'" + ascii + "123...'"},
+        {"not inside a character of UTF-8", ascii + utf8 + utf8, "'" + ascii + "...'"},
+        {"nor inside one of GBK", ascii + gbk, "'" + ascii + "...'"},
+        {"a blank is as good a place as any", words, "'" + words.substr(0, 60) + "...'"},
+    };
+    for (const quote_case& c : cases)
+        EXPECT_EQ(STAAD::detail::quote(c.line), c.quoted) << c.why;
 }
 
 TEST(ReadReport, ListsFiftyOfOneCodeAndCountsTheRest)
