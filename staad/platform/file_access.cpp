@@ -3,6 +3,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 namespace STAAD::detail {
 namespace {
@@ -17,7 +20,19 @@ using open_file = std::unique_ptr<std::FILE, close_file>;
 
 constexpr std::size_t first_guess = 1 << 16;
 
-/// Size of a file that can be measured, 0 of one that cannot (a pipe, a device).
+/// A named pipe opened for reading and writing never ends: this program itself could still write to it.
+bool is_pipe(const char* path)
+{
+#ifdef _WIN32
+    static_cast<void>(path); // pipes there have names of their own, which are no paths
+    return false;
+#else
+    std::error_code error;
+    return std::filesystem::is_fifo(std::filesystem::path(path), error);
+#endif
+}
+
+/// Size of a file that can be measured, 0 of one that cannot (a device).
 std::size_t measured_size(std::FILE* file) noexcept
 {
     if (std::fseek(file, 0, SEEK_END) != 0)
@@ -59,6 +74,10 @@ file_bytes read_updatable_file(const char* path)
     file_bytes result;
     if (path == nullptr)
         return result;
+    if (is_pipe(path)) {
+        result.outcome = file_bytes::state::not_accessible;
+        return result;
+    }
     errno = 0;
     const open_file file(std::fopen(path, "r+b"));
     if (!file) {

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <map>
-#include <utility>
 
 namespace STAAD::detail {
 namespace {
@@ -31,11 +30,12 @@ std::size_t count_data_lines(const line_list& lines, std::size_t begin) noexcept
 std::string command_words(std::string_view line)
 {
     word_cursor words(line);
-    std::string command(words.next_or_empty());
+    const std::string_view first = words.next_or_empty();
     const std::string_view second = words.next_or_empty();
+    std::string command(first.substr(0, longest_quote));
     if (!second.empty() && std::all_of(second.begin(), second.end(), is_letter)) {
         command += ' ';
-        command += second;
+        command += second.substr(0, longest_quote);
     }
     return command;
 }
@@ -46,24 +46,41 @@ struct skipped_command {
     std::size_t count;
 };
 
-/// Counts by words, in order of first appearance. A text of more commands than any deck has, which is
-/// then no deck, gets one entry for all of the rest.
+/// Counts lines by the command they stand under, in order of first appearance. A text of more commands
+/// than any deck has, which is then no deck, gets one entry for all of the rest.
 class skipped_tally {
 public:
-    void add(std::string words, line_place place)
+    void start_command(std::string_view line)
     {
-        if (by_words_.size() >= most_commands && by_words_.count(words) == 0)
-            words = "(other commands)";
-        const auto [entry, is_new] = by_words_.try_emplace(std::move(words), commands_.size());
-        if (is_new)
-            commands_.push_back({entry->first, place, 0});
-        ++commands_[entry->second].count;
+        words_ = command_words(line);
+        current_ = none;
     }
+
+    void add_line(line_place place)
+    {
+        if (current_ == none)
+            find_current(place);
+        ++commands_[current_].count;
+    }
+
     const std::vector<skipped_command>& commands() const noexcept { return commands_; }
 
 private:
     static constexpr std::size_t most_commands = 1000;
+    static constexpr std::size_t none = std::string::npos;
 
+    void find_current(line_place place)
+    {
+        if (by_words_.size() >= most_commands && by_words_.count(words_) == 0)
+            words_ = "(other commands)";
+        const auto [entry, is_new] = by_words_.try_emplace(words_, commands_.size());
+        if (is_new)
+            commands_.push_back({words_, place, 0});
+        current_ = entry->second;
+    }
+
+    std::string words_ = "(before any command)";
+    std::size_t current_ = none;
     std::map<std::string, std::size_t> by_words_; // to the place in commands_
     std::vector<skipped_command> commands_;
 };
@@ -96,17 +113,18 @@ std::string quote(std::string_view text)
 
 void tell_nobody(std::string_view what, const text_line& line, reading& run)
 {
-    if (run.findings.listening())
-        run.findings.warn("list-nobody", line.place,
-                          quote(line.text) + ": its list names nobody, so the " + std::string(what) + " has no effect");
+    run.findings.warn("list-nobody", line.place, [&] {
+        return quote(line.text) + ": its list names nobody, so the " + std::string(what) + " has no effect";
+    });
 }
 
 void tell_list_stopped(std::string_view word, const text_line& line, reading& run)
 {
-    if (run.findings.listening() && !word.empty())
-        run.findings.warn("list-stopped", line.place,
-                          quote(line.text) + ": the list ends at " + quote(word) +
-                              ", what stands behind is not part of it");
+    if (word.empty())
+        return;
+    run.findings.warn("list-stopped", line.place, [&] {
+        return quote(line.text) + ": the list ends at " + quote(word) + ", what stands behind is not part of it";
+    });
 }
 
 void tell_list_word(std::string_view word, const text_line& line, reading& run)
@@ -117,10 +135,18 @@ void tell_list_word(std::string_view word, const text_line& line, reading& run)
 
 void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run)
 {
-    if (run.findings.listening())
-        run.findings.warn(code, line.place,
-                          quote(line.text) + " names " + std::string(what) + " " + std::to_string(number) +
-                              ", which the file does not define");
+    run.findings.warn(code, line.place, [&] {
+        return quote(line.text) + " names " + std::string(what) + " " + std::to_string(number) +
+               ", which the file does not define";
+    });
+}
+
+void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run)
+{
+    run.findings.warn("joint-unknown", place, [&] {
+        return std::string(what) + " " + std::to_string(number) + " refers to joint " + std::to_string(joint) +
+               ", which JOINT COORDINATES does not define";
+    });
 }
 
 void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run)
@@ -128,21 +154,23 @@ void tell_block_end(std::string_view keyword, const line_list& lines, std::size_
     if (!run.findings.listening() || end >= lines.size() || starts_with_letter(lines[end].text))
         return;
     std::size_t data = is_data(lines[end].text) ? end : end + 1;
-    while (data < lines.size() && starts_with(lines[data].text, "*"))
+    while (data < lines.size() && is_comment(lines[data].text))
         ++data;
     const std::size_t lost = count_data_lines(lines, data);
-    if (lost > 0)
-        run.findings.warn("block-ended", lines[end].place,
-                          quote(lines[end].text) + " ends the lines under " + std::string(keyword) + "; " +
-                              std::to_string(lost) + " data " + (lost == 1 ? "line" : "lines") +
-                              " from there on are not read");
+    if (lost == 0)
+        return;
+    run.findings.warn("block-ended", lines[end].place, [&] {
+        return quote(lines[end].text) + " ends the lines under " + std::string(keyword) + "; " + std::to_string(lost) +
+               " data " + (lost == 1 ? "line" : "lines") + " from there on are not read";
+    });
 }
 
 void tell_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& run)
 {
-    if (run.findings.listening() && begin < lines.size())
-        run.findings.warn("block-open", lines[begin].place,
-                          quote(lines[begin].text) + " has no line '" + std::string(closing) + "' after it");
+    if (begin < lines.size())
+        run.findings.warn("block-open", lines[begin].place, [&] {
+            return quote(lines[begin].text) + " has no line '" + std::string(closing) + "' after it";
+        });
 }
 
 void tell_near_keywords(const line_list& lines, std::string_view missing, reading& run)
@@ -156,8 +184,12 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
         if (meant.empty())
             continue;
         const auto severity = meant == missing ? Finding::Error : Finding::Warning;
-        run.findings.add(severity, "keyword-near", lines[i].place,
-                         quote(lines[i].text) + " is not '" + std::string(meant) + "'");
+        run.findings.add(severity, "keyword-near", lines[i].place, [&] {
+            // As it stands: the blanks that make the difference are to be seen.
+            const bool only_blanks = starts_with(trim_blanks(lines[i].text), meant);
+            return "'" + std::string(lines[i].text) + "' is not '" + std::string(meant) + "'" +
+                   (only_blanks ? ": mind the blanks, tabs and words around it" : "");
+        });
     }
 }
 
@@ -166,15 +198,14 @@ void tell_skipped(const line_list& lines, reading& run)
     if (!run.findings.listening())
         return;
     skipped_tally tally;
-    std::string command = "(before any command)";
     for (std::size_t i = 0; i < lines.size(); ++i) {
         const std::string_view text = trim_blanks(lines[i].text);
-        if (text.empty() || starts_with(text, "*"))
+        if (text.empty() || is_comment(text))
             continue;
         if (starts_with_letter(text))
-            command = command_words(text);
+            tally.start_command(text);
         if (!run.used.is_used(i))
-            tally.add(command, lines[i].place);
+            tally.add_line(lines[i].place);
     }
     for (const skipped_command& skipped : tally.commands())
         run.findings.list(Finding::Note, "skipped", skipped.first, skipped.words, skipped.count);

@@ -26,6 +26,9 @@ void tell_list_word(std::string_view word, const text_line& line, reading& run);
 /// A list names a single number that no joint, member or element has.
 void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run);
 
+/// A member, element or surface stands on a joint that the file does not define.
+void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run);
+
 /// The block under `keyword` ended at line `end` although that line or those behind it hold data: a
 /// comment, a leading blank or a line of another form stopped it.
 void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run);

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 namespace STAAD::detail {
 namespace {
@@ -33,7 +34,7 @@ bool is_blank(std::string_view line) noexcept
 
 bool is_continued(std::string_view line) noexcept
 {
-    return line.back() == '-' && line.front() != '*';
+    return line.back() == '-' && !is_comment(line);
 }
 
 /// Physical lines are counted in 32 bits; a text of more keeps the highest number from there on.

@@ -1,12 +1,12 @@
-/// Lists over the records that they name: one walk for sections, offsets, beta angles and thicknesses.
+/// Lists over the records that they name: one walk for sections, offsets, beta angles, thicknesses
+/// and materials.
 #ifndef STAAD_READER_NAMED_RECORDS_H
 #define STAAD_READER_NAMED_RECORDS_H
 
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
-#include "staad/units/number_lookup.h"
+#include "staad/reader/last_assignments.h"
 
-#include <cstddef>
 #include <string_view>
 
 namespace STAAD::detail {
@@ -17,26 +17,30 @@ struct list_end {
     std::string_view stopped_at; ///< first word behind the list; empty at the end of the line
 };
 
-/// Calls `visit(index)`, from 0, for every record that the list names, and `miss(number)` for every
-/// number that stands alone and that no record has. Ranges cost what they find, not what they state.
-template<class Visit, class Miss>
-list_end for_each_named(const number_lookup& numbers, word_cursor list, Visit visit, Miss miss)
+/// Calls `take(run)` for every run of the list; it tells whether the run names anyone.
+template<class Take>
+list_end walk_list(word_cursor list, const id_list_rule& rule, Take take)
 {
     list_end end;
-    id_list_walker walker(list, general_id_list);
-    for (id_run ids; walker.next(ids);) {
-        bool found = false;
-        numbers.for_each_in(ids.first, ids.last, [&](const numbered_position& entry) {
-            visit(static_cast<std::size_t>(entry.position) - 1);
-            found = true;
-        });
-        if (!found && !ids.is_range)
-            miss(ids.first);
-        end.named_anyone = end.named_anyone || found;
-    }
+    id_list_walker walker(list, rule);
+    for (id_run run; walker.next(run);)
+        end.named_anyone = take(run) || end.named_anyone;
     word_cursor behind = walker.after_list();
     end.stopped_at = behind.next_or_empty();
     return end;
+}
+
+/// Gives `value` to the records that the list names, and calls `miss(number)` for every number that
+/// stands alone and that no record has.
+template<class Miss>
+list_end assign_to_list(last_assignments& assignments, int value, word_cursor list, Miss miss)
+{
+    return walk_list(list, general_id_list, [&](const id_run& run) {
+        const bool found = assignments.add(value, run);
+        if (!found && !run.is_range)
+            miss(run.first);
+        return found;
+    });
 }
 
 /// Tells when a list named nobody, and when it ended at a word that is no part of such a line.

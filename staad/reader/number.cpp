@@ -63,9 +63,11 @@ std::int64_t written_exponent(std::string_view text, std::size_t end) noexcept
 /// digit other than 0 tells.
 bool is_too_large(std::string_view text) noexcept
 {
-    const std::size_t end = std::min(text.find_first_not_of("0123456789."), text.size());
+    constexpr const char* digits = "0123456789";
+    const std::size_t point = std::min(text.find_first_not_of(digits), text.size());
+    const bool has_point = point < text.size() && text[point] == '.';
+    const std::size_t end = has_point ? std::min(text.find_first_not_of(digits, point + 1), text.size()) : point;
     const std::string_view mantissa = text.substr(0, end);
-    const std::size_t point = std::min(mantissa.find('.'), mantissa.size());
     const std::size_t leading = mantissa.find_first_not_of("0.");
     if (leading == std::string_view::npos)
         return false;

@@ -81,17 +81,24 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
     if (first == lines.size())
         return;
     const auto members = detail::number_lookup::of(beams, detail::same_number::first_counts);
+    detail::last_assignments assignments(members);
+    std::vector<double> angles;
     for (std::size_t i = first; i < lines.size(); i = lines.find_start("BETA ", i + 1)) {
         run.used.mark(i);
         detail::word_cursor words(lines[i].text);
         words.next_or_empty(); // BETA
         const double angle = detail::to_real(words.next_or_empty());
         words.next_or_empty(); // MEMB
-        const detail::list_end list = detail::for_each_named(
-            members, words, [&](std::size_t index) { beams[index].beta = angle; },
-            [&](int number) { detail::tell_unknown("member-unknown", "member", number, lines[i], run); });
+        const detail::list_end list =
+            detail::assign_to_list(assignments, static_cast<int>(angles.size()), words, [&](int number) {
+                detail::tell_unknown("member-unknown", "member", number, lines[i], run);
+            });
         detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], run);
+        angles.push_back(angle);
     }
+    assignments.hand_out([&](const detail::numbered_position& entry, int value) {
+        beams[static_cast<std::size_t>(entry.position) - 1].beta = angles[static_cast<std::size_t>(value)];
+    });
 }
 
 void SdReader::read_material(const detail::line_list& lines, detail::reading& run)
@@ -117,10 +124,10 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& ru
     const std::string_view line = lines[chosen].text;
     constexpr std::size_t keyword_size = 7; // of DENSITY
     concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));
-    if (run.findings.listening())
-        run.findings.warn("density", lines[chosen].place,
-                          "the concrete density is taken from " + detail::quote(line) + " and becomes " +
-                              detail::format_real(concrete_density));
+    run.findings.warn("density", lines[chosen].place, [&] {
+        return "the concrete density is taken from " + detail::quote(line) + " and becomes " +
+               detail::format_real(concrete_density);
+    });
 }
 
 void SdReader::ReadBrace(const std::vector<std::string>& lines)

@@ -9,6 +9,7 @@
 #include "staad/units/unit_factors.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace STAAD {
 namespace {
@@ -32,12 +33,15 @@ void tell_file_trouble(detail::file_bytes::state outcome, reading& run)
         run.findings.fail("file-unreadable", whole_text, "the file cannot be read to its end");
 }
 
-/// The unit words of a UNIT line, lower-cased: the three behind UNIT, as far as they are there.
+/// The unit words of a UNIT line, lower-cased and without hyphens: the three behind UNIT, as far as they
+/// are there.
 std::vector<std::string> unit_words(std::string_view line)
 {
     detail::word_cursor words(line);
     words.next_or_empty(); // UNIT
-    return SplitString(detail::to_lower_ascii(detail::join_words(words, 3)), " ");
+    std::string three = detail::to_lower_ascii(detail::join_words(words, 3));
+    three.erase(std::remove(three.begin(), three.end(), '-'), three.end());
+    return SplitString(three, " ");
 }
 
 /// One finding per word of the governing UNIT line that the tables do not know.
@@ -45,12 +49,13 @@ void tell_unit_words(const detail::text_line& line, reading& run)
 {
     const detail::unit_factors factors = detail::factors_of_unit_line(line.text);
     if (factors.is_short)
-        run.findings.warn("unit-short", line.place,
-                          detail::quote(line.text) + " has no force word: lengths count as mm, forces as kN");
+        run.findings.warn("unit-short", line.place, [&] {
+            return detail::quote(line.text) + " has no force word: lengths count as mm, forces as kN";
+        });
     const auto tell = [&](const std::string& word, const char* what, const char* counts_as) {
         if (!word.empty())
             run.findings.warn("unit-word", line.place,
-                              detail::quote(word) + " is not a known " + what + " unit: " + counts_as);
+                              [&] { return detail::quote(word) + " is not a known " + what + " unit: " + counts_as; });
     };
     tell(factors.unknown_length, "length", "lengths count as mm");
     tell(factors.unknown_force, "force", "forces count as kN");
@@ -69,9 +74,10 @@ void tell_later_units(const line_list& lines, std::size_t governing, reading& ru
             return std::find(known.begin(), known.end(), word) != known.end();
         });
         if (!same)
-            run.findings.warn("unit-later", lines[i].place,
-                              detail::quote(lines[i].text) + " changes nothing: the whole file is read in " +
-                                  detail::quote(lines[governing].text));
+            run.findings.warn("unit-later", lines[i].place, [&] {
+                return detail::quote(lines[i].text) + " changes nothing: the whole file is read in " +
+                       detail::quote(lines[governing].text);
+            });
     }
 }
 
@@ -112,8 +118,9 @@ bool SdReader::read_file(const char* path, reading run)
 
 bool SdReader::read_text(std::string_view text, reading run)
 {
+    line_list lines = line_list::from_text(text, generated_comment); // first: the text may be the model's own
     init();
-    return read_lines(line_list::from_text(text, generated_comment), run);
+    return read_lines(std::move(lines), run);
 }
 
 bool SdReader::ReadSDDataFromStdFile(const char* path)

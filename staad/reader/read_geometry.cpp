@@ -12,34 +12,16 @@ constexpr item_kind element_item{"element", 4};
 
 constexpr const char* default_shell_material = "C1";
 
-bool is_comment(std::string_view line) noexcept
-{
-    return starts_with(line, "*");
-}
-
-bool no_line(std::string_view) noexcept
-{
-    return false;
-}
-
 /// Replaces the joint number of the file by the joint's position. A number that the file does not
 /// define enters `node_index` with 0, the position of no joint.
-void number_to_position(int& joint, SdReader& model, const reading& run, bool& unknown)
+void resolve_joint(int& joint, SdReader& model, const char* what, int id, line_place place, reading& run)
 {
-    const int position = run.joints.position(joint);
-    if (position == 0) {
-        model.node_index.emplace(joint, 0);
-        unknown = true;
-    }
-    joint = position;
-}
-
-void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run)
-{
-    if (run.findings.listening())
-        run.findings.warn("joint-unknown", place,
-                          std::string(what) + " " + std::to_string(number) + " refers to joint " +
-                              std::to_string(joint) + ", which JOINT COORDINATES does not define");
+    const int number = joint;
+    joint = run.joints.position(number);
+    if (joint != 0)
+        return;
+    model.node_index.emplace(number, 0);
+    tell_unknown_joint(what, id, number, place, run);
 }
 
 /// A leading blank does not end the member block, as it does the blocks of shells and thicknesses.
@@ -52,13 +34,11 @@ std::size_t end_of_members(const line_list& lines, std::size_t begin)
 
 /// "1 TO 3 THICKNESS 0.2": the last two words are the word and the value. Of four corner thicknesses
 /// the last one counts.
-void read_thickness_line(SdReader& model, const text_line& line, reading& run)
+void note_thickness(last_assignments& elements, SdReader& model, const text_line& line, reading& run)
 {
     const int thickness = truncate_to_int(to_real(last_word(line.text)) * model.length_factor);
-    const list_end list = for_each_named(
-        run.elements, word_cursor(without_last_words(line.text, 2)),
-        [&](std::size_t index) { model.shells[index].thickness = thickness; },
-        [&](int number) {
+    const list_end list =
+        assign_to_list(elements, thickness, word_cursor(without_last_words(line.text, 2)), [&](int number) {
             model.shell_index.emplace(number, 0);
             tell_unknown("element-unknown", "element", number, line, run);
         });
@@ -83,13 +63,8 @@ std::size_t read_members(SdReader& model, const line_list& lines, std::size_t be
 {
     const std::size_t end = end_of_members(lines, begin);
     read_items(model.beams, lines, {begin, end}, member_item, run, no_line, [&](SdBeam& member, line_place place) {
-        for (int* const joint : {&member.node_start, &member.node_end}) {
-            const int number = *joint;
-            bool unknown = false;
-            number_to_position(*joint, model, run, unknown);
-            if (unknown)
-                tell_unknown_joint("member", member.id, number, place, run);
-        }
+        resolve_joint(member.node_start, model, "member", member.id, place, run);
+        resolve_joint(member.node_end, model, "member", member.id, place, run);
     });
     tell_block_end("MEMBER INCIDENCES", lines, end, run);
     run.members = number_lookup::of(model.beams, same_number::last_counts);
@@ -102,13 +77,8 @@ std::size_t read_elements(SdReader& model, const line_list& lines, std::size_t b
     const line_range block = lines_of_data(lines, begin);
     read_items(model.shells, lines, block, element_item, run, no_line, [&](SdShell& element, line_place place) {
         element.material = default_shell_material;
-        for (int& joint : element.node_ids) {
-            const int number = joint;
-            bool unknown = false;
-            number_to_position(joint, model, run, unknown);
-            if (unknown)
-                tell_unknown_joint("element", element.id, number, place, run);
-        }
+        for (int& joint : element.node_ids)
+            resolve_joint(joint, model, "element", element.id, place, run);
     });
     tell_block_end("ELEMENT INCIDENCES SHELL", lines, block.end, run);
     run.elements = number_lookup::of(model.shells, same_number::last_counts);
@@ -121,10 +91,14 @@ void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from,
     const std::size_t keyword = lines.find_equal("ELEMENT PROPERTY", from);
     run.used.mark(keyword);
     const line_range block = lines_of_data(lines, keyword + 1);
+    last_assignments elements(run.elements);
     for (std::size_t i = block.begin; i < block.end; ++i) {
         run.used.mark(i);
-        read_thickness_line(model, lines[i], run);
+        note_thickness(elements, model, lines[i], run);
     }
+    elements.hand_out([&](const numbered_position& entry, int thickness) {
+        model.shells[static_cast<std::size_t>(entry.position) - 1].thickness = thickness;
+    });
     if (keyword < lines.size())
         tell_block_end("ELEMENT PROPERTY", lines, block.end, run);
 }

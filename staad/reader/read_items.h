@@ -56,6 +56,12 @@ struct item_kind {
 void check_item(std::string_view item, std::size_t words, int number, const item_kind& kind, line_place place,
                 finding_sink& findings);
 
+/// For blocks in which every line builds something.
+inline bool no_line(std::string_view) noexcept
+{
+    return false;
+}
+
 /// Appends a record per item of the lines, and calls `finish(record, place)` on each.
 /// Lines for which `is_skipped` holds build nothing.
 template<class Record, class Skip, class Finish>
@@ -65,7 +71,7 @@ void read_items(std::vector<Record>& records, const line_list& lines, line_range
     std::size_t count = records.size();
     for (std::size_t i = block.begin; i < block.end; ++i)
         count += is_skipped(lines[i].text) ? 0 : count_items(lines[i].text);
-    records.reserve(count); // exactly: a member is 264 bytes, and doubling would cost a second model
+    records.reserve(count); // exactly: members are large, and doubling would cost a second model
 
     for (std::size_t i = block.begin; i < block.end; ++i) {
         run.used.mark(i);

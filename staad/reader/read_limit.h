@@ -32,7 +32,7 @@ private:
     std::size_t first_line_;
     std::size_t last_line_;
     std::size_t limit_;
-    char text_[112];
+    char text_[112] = {};
 };
 
 } // namespace STAAD

@@ -4,12 +4,12 @@
 #include "staad/reader/findings.h"
 #include "staad/reader/id_list.h"
 #include "staad/reader/load_header.h"
+#include "staad/reader/noted_runs.h"
 #include "staad/reader/number.h"
 #include "staad/reader/words.h"
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 namespace STAAD {
 namespace {
@@ -50,9 +50,8 @@ public:
                 count_one(entry.position);
                 anyone = true;
             });
-            note(ids);
+            runs_.add(definition, ids);
         }
-        noted_definitions_.push_back({definition, noted_.size()});
         return anyone;
     }
 
@@ -70,32 +69,14 @@ public:
             definitions.resize(before + counts_[i]);
             next[i] = definitions.data() + before;
         }
-        std::size_t i = 0;
-        for (const noted_definition& definition : noted_definitions_) {
-            while (i < definition.noted_end) {
-                const int first = std::abs(noted_[i]);
-                const int last = noted_[i] < 0 ? noted_[++i] : first;
-                ++i;
-                numbers_.for_each_in(first, last, [&](const detail::numbered_position& entry) {
-                    *next[static_cast<std::size_t>(entry.position) - 1]++ = definition.number;
-                });
-            }
-        }
+        runs_.for_each([&](int definition, const detail::id_run& ids) {
+            numbers_.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
+                *next[static_cast<std::size_t>(entry.position) - 1]++ = definition;
+            });
+        });
     }
 
 private:
-    struct noted_definition {
-        int number;
-        std::size_t noted_end; ///< its runs in noted_ end here
-    };
-
-    void note(const detail::id_run& ids)
-    {
-        noted_.push_back(ids.is_range ? -ids.first : ids.first);
-        if (ids.is_range)
-            noted_.push_back(ids.last);
-    }
-
     void count_one(int position)
     {
         const auto index = static_cast<std::size_t>(position) - 1;
@@ -106,8 +87,7 @@ private:
 
     const detail::number_lookup& numbers_;
     std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list where its end carries nothing
-    std::vector<int> noted_;            // a number alone as it is, a range as -first and last
-    std::vector<noted_definition> noted_definitions_;
+    detail::noted_runs runs_;
 };
 
 /// The load section, line by line.
@@ -136,7 +116,7 @@ public:
 private:
     static bool is_passed_over(std::string_view line) noexcept
     {
-        return detail::contains(line, ";") || detail::starts_with(line, "*") || detail::last_word(line).empty();
+        return detail::contains(line, ";") || detail::is_comment(line) || detail::last_word(line).empty();
     }
 
     /// False if the line means nothing here.
@@ -165,27 +145,31 @@ private:
     void check_case(const LoadCase& header, const detail::text_line& line)
     {
         if (header.id < 1)
-            run_.findings.warn("load-number", line.place,
-                               detail::quote(line.text) + " has no number; what follows belongs to load case " +
-                                   std::to_string(header.id));
+            run_.findings.warn("load-number", line.place, [&] {
+                return detail::quote(line.text) + " has no number; what follows belongs to load case " +
+                       std::to_string(header.id);
+            });
         if (model_.load_cases.count(header.id) != 0)
-            run_.findings.warn("load-again", line.place,
-                               "load case " + std::to_string(header.id) + " was there before; " +
-                                   detail::quote(line.text) + " takes the place of its header, loads of both stay");
+            run_.findings.warn("load-again", line.place, [&] {
+                return "load case " + std::to_string(header.id) + " was there before; " + detail::quote(line.text) +
+                       " takes the place of its header, loads of both stay";
+            });
     }
 
     void start_block(const detail::text_line& line)
     {
         block_ = line.text;
-        if (!run_.findings.listening() || block_ == joint_load)
+        if (block_ == joint_load || is_understood(block_))
             return;
         if (detail::trim_blanks(block_) == joint_load)
-            run_.findings.warn("keyword-near", line.place,
-                               "'" + std::string(block_) + "' is not 'JOINT LOAD': its numbers are taken for members");
-        else if (!is_understood(block_))
-            run_.findings.warn("load-block", line.place,
-                               detail::quote(block_) +
-                                   " is not understood: its loads are kept as text, their numbers taken for members");
+            run_.findings.warn("keyword-near", line.place, [&] {
+                return "'" + std::string(block_) + "' is not 'JOINT LOAD': its numbers are taken for members";
+            });
+        else
+            run_.findings.warn("load-block", line.place, [&] {
+                return detail::quote(block_) +
+                       " is not understood: its loads are kept as text, their numbers taken for members";
+            });
     }
 
     /// "SELFWEIGHT Y -1 LIST 1 TO 10"; without a list the definition belongs to no member.

@@ -3,37 +3,64 @@
 #include "staad/reader/named_records.h"
 #include "staad/reader/words.h"
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace STAAD::detail {
 namespace {
 
-void assign_to_all(SdReader& model, const std::string& name)
-{
-    for (SdBeam& member : model.beams)
-        member.material = name;
-    for (SdShell& shell : model.shells)
-        shell.material = name;
-}
+/// Material names and whom they go to. A number belongs to the member that has it, else to the element
+/// that has it.
+class material_assignments {
+public:
+    explicit material_assignments(const reading& run) : run_(run), members_(run.members), elements_(run.elements) {}
 
-/// A number belongs to the member that has it, else to the element that has it. A number that stands
-/// alone and that nothing has enters `shell_index` with 0. False if the run names nobody.
-bool assign_to_run(SdReader& model, const id_run& ids, const std::string& name, const reading& run)
-{
-    bool anyone = false;
-    run.members.for_each_in(ids.first, ids.last, [&](const numbered_position& member) {
-        model.beams[static_cast<std::size_t>(member.position) - 1].material = name;
-        anyone = true;
-    });
-    run.elements.for_each_in(ids.first, ids.last, [&](const numbered_position& element) {
-        anyone = true;
-        if (run.members.position(element.number) == 0)
-            model.shells[static_cast<std::size_t>(element.position) - 1].material = name;
-    });
-    if (!anyone && !ids.is_range)
-        model.shell_index.emplace(ids.first, 0);
-    return anyone;
-}
+    /// Everyone takes the name, whatever came before.
+    void add_all(std::string_view name)
+    {
+        members_.clear();
+        elements_.clear();
+        names_.emplace_back(name);
+        name_of_all_ = names_.size() - 1;
+    }
+
+    void add_name(std::string_view name) { names_.emplace_back(name); }
+
+    /// The last name goes to the run; false if the run names nobody.
+    bool add(const id_run& ids)
+    {
+        const int value = static_cast<int>(names_.size()) - 1;
+        const bool names_member = members_.add(value, ids);
+        return elements_.add(value, ids) || names_member;
+    }
+
+    void hand_out(SdReader& model) const
+    {
+        if (name_of_all_ < names_.size()) {
+            for (SdBeam& member : model.beams)
+                member.material = names_[name_of_all_];
+            for (SdShell& shell : model.shells)
+                shell.material = names_[name_of_all_];
+        }
+        members_.hand_out([&](const numbered_position& entry, int value) {
+            model.beams[static_cast<std::size_t>(entry.position) - 1].material =
+                names_[static_cast<std::size_t>(value)];
+        });
+        elements_.hand_out([&](const numbered_position& entry, int value) {
+            if (run_.members.position(entry.number) == 0)
+                model.shells[static_cast<std::size_t>(entry.position) - 1].material =
+                    names_[static_cast<std::size_t>(value)];
+        });
+    }
+
+private:
+    const reading& run_;
+    last_assignments members_;
+    last_assignments elements_;
+    std::vector<std::string> names_;
+    std::size_t name_of_all_ = std::string::npos;
+};
 
 /// Words at blanks and hyphens alike, so that a continuation mark inside the list does no harm; a
 /// hyphen in the name shifts the list by a word.
@@ -49,24 +76,27 @@ word_cursor list_of_material_line(std::string_view line)
 
 void assign_materials(SdReader& model, const line_list& lines, reading& run)
 {
+    material_assignments materials(run);
     for (const std::size_t i : lines.commands()) {
         const std::string_view line = lines[i].text;
         if (!starts_with(line, "MATERIAL"))
             continue;
         run.used.mark(i);
-        const std::string name(word_at(line, 1));
+        const std::string_view name = word_at(line, 1);
         if (word_at(line, 2) == "ALL") {
-            assign_to_all(model, name);
+            materials.add_all(name);
             continue;
         }
-        id_list_walker walker(list_of_material_line(line), general_id_list);
-        list_end list;
-        for (id_run ids; walker.next(ids);)
-            list.named_anyone = assign_to_run(model, ids, name, run) || list.named_anyone;
-        word_cursor behind = walker.after_list();
-        list.stopped_at = behind.next_or_empty();
+        materials.add_name(name);
+        const list_end list = walk_list(list_of_material_line(line), general_id_list, [&](const id_run& ids) {
+            const bool found = materials.add(ids);
+            if (!found && !ids.is_range)
+                model.shell_index.emplace(ids.first, 0); // a number that nothing has
+            return found;
+        });
         check_list_end("material", list, list.stopped_at.empty(), lines[i], run);
     }
+    materials.hand_out(model);
 }
 
 } // namespace STAAD::detail

@@ -6,6 +6,8 @@
 #include "staad/writer/number_text.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 namespace STAAD::detail {
 namespace {
@@ -66,22 +68,57 @@ std::string_view code_of(std::string_view line) noexcept
     return trim_blanks(from_position(line, property_keyword.size()));
 }
 
-/// One property line to the members it names.
-void assign_property(SdReader& model, const text_line& line, const property_text& property, const std::string& code,
-                     reading& run)
-{
-    const list_end end = for_each_named(
-        run.members, word_cursor(without_last_words(line.text, words_never_members)),
-        [&](std::size_t index) {
-            SdBeam& member = model.beams[index];
+/// The sections of a text and the members they go to.
+class section_assignments {
+public:
+    section_assignments(const line_list& lines, double length_factor, reading& run)
+        : lines_(lines), length_factor_(length_factor), run_(run), members_(run.members)
+    {
+    }
+
+    void set_code(std::string_view code) { codes_.emplace_back(code); }
+
+    /// One property line to the members it names.
+    void add_line(std::size_t index)
+    {
+        const text_line& line = lines_[index];
+        property_text property = property_of_line(line.text, length_factor_);
+        if (property.name.empty())
+            return;
+        run_.used.mark(index);
+        const list_end end =
+            assign_to_list(members_, static_cast<int>(properties_.size()),
+                           word_cursor(without_last_words(line.text, words_never_members)),
+                           [&](int number) { tell_unknown("member-unknown", "member", number, line, run_); });
+        check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run_);
+        properties_.push_back({std::move(property), codes_.size() - 1});
+    }
+
+    void hand_out(std::vector<SdBeam>& members) const
+    {
+        members_.hand_out([&](const numbered_position& entry, int value) {
+            const assigned_property& assigned = properties_[static_cast<std::size_t>(value)];
+            SdBeam& member = members[static_cast<std::size_t>(entry.position) - 1];
             member.material = property_material;
-            member.sect_text = property.text;
-            member.sect_country = code;
-            member.sect_name = property.name;
-        },
-        [&](int number) { tell_unknown("member-unknown", "member", number, line, run); });
-    check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run);
-}
+            member.sect_text = assigned.property.text;
+            member.sect_country = codes_[assigned.code];
+            member.sect_name = assigned.property.name;
+        });
+    }
+
+private:
+    struct assigned_property {
+        property_text property;
+        std::size_t code; ///< its place in codes_
+    };
+
+    const line_list& lines_;
+    double length_factor_;
+    reading& run_;
+    last_assignments members_;
+    std::vector<std::string> codes_{default_code};
+    std::vector<assigned_property> properties_;
+};
 
 } // namespace
 
@@ -106,22 +143,17 @@ void read_member_properties(SdReader& model, const line_list& lines, std::size_t
     std::size_t end = lines.find_equal("CONSTANTS", from);
     if (end < start)
         end = lines.size();
-    std::string code = default_code;
+    section_assignments sections(lines, model.length_factor, run);
     for (std::size_t i = start; i < end; ++i) {
         const std::string_view line = lines[i].text;
         if (contains(line, property_keyword)) {
-            code = code_of(line);
+            sections.set_code(code_of(line));
             run.used.mark(i);
-            continue;
+        } else if (count_words(line) > words_never_members) {
+            sections.add_line(i);
         }
-        if (count_words(line) <= words_never_members)
-            continue;
-        const property_text property = property_of_line(line, model.length_factor);
-        if (property.name.empty())
-            continue;
-        run.used.mark(i);
-        assign_property(model, lines[i], property, code, run);
     }
+    sections.hand_out(model.beams);
     if (start < lines.size())
         run.used.mark(lines.find_equal("CONSTANTS", from));
 }

@@ -63,9 +63,27 @@ void check_description(const detail::id_list_walker<>& walker, detail::word_curs
         detail::tell_list_word(word, line, run);
 }
 
+/// What the numbers of a block are numbers of.
+struct listed_records {
+    const char* code;
+    const char* name;
+    const detail::number_lookup& numbers;
+};
+
+/// Tells of numbers that stand alone and that no record has. The lists keep them all the same.
+void check_numbers(const listed_records& records, const text_line& line, reading& run)
+{
+    if (!run.findings.listening())
+        return;
+    detail::id_list_walker walker(detail::word_cursor(line.text), detail::general_id_list);
+    for (detail::id_run ids; walker.next(ids);)
+        if (!ids.is_range && records.numbers.position(ids.first) == 0)
+            detail::tell_unknown(records.code, records.name, ids.first, line, run);
+}
+
 /// Appends the numbers of every block line under the line's description.
-void read_described(std::map<std::string, std::vector<unsigned>>& described, const detail::line_list& lines,
-                    line_range block, reading& run)
+void read_described(std::map<std::string, std::vector<unsigned>>& described, const listed_records& records,
+                    const detail::line_list& lines, line_range block, reading& run)
 {
     for (std::size_t i = block.begin; i < block.end; ++i) {
         const detail::word_cursor description = description_of(lines[i].text);
@@ -74,6 +92,7 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
         run.start_list(lines[i].place);
         detail::append_ids(listed, walker, run.budget);
         check_description(walker, description, lines[i], run);
+        check_numbers(records, lines[i], run);
         if (listed.empty())
             detail::tell_nobody("description", lines[i], run);
         std::vector<unsigned>& ids = described[detail::join_words(description)];
@@ -90,9 +109,11 @@ void check_number(std::string_view word, const text_line& line, reading& run)
 {
     if (!run.findings.listening() || word.find_first_of("0123456789") != std::string_view::npos)
         return;
-    const std::string what =
-        word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due";
-    run.findings.warn("number-word", line.place, detail::quote(line.text) + ": " + what + " and counts as 0");
+    run.findings.warn("number-word", line.place, [&] {
+        return detail::quote(line.text) + ": " +
+               (word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due") +
+               " and counts as 0";
+    });
 }
 
 /// One line of member offsets.
@@ -121,12 +142,14 @@ offset_line read_offset_line(const text_line& line, double length_factor, readin
 
 void SdReader::read_support(const detail::line_list& lines, detail::reading& run)
 {
-    read_described(supports, lines, find_block("SUPPORTS", lines, is_support_line, run), run);
+    read_described(supports, {"joint-unknown", "joint", run.joints}, lines,
+                   find_block("SUPPORTS", lines, is_support_line, run), run);
 }
 
 void SdReader::read_release(const detail::line_list& lines, detail::reading& run)
 {
-    read_described(releases, lines, find_block("MEMBER RELEASE", lines, is_member_end_line, run), run);
+    read_described(releases, {"member-unknown", "member", run.members}, lines,
+                   find_block("MEMBER RELEASE", lines, is_member_end_line, run), run);
 }
 
 void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
@@ -135,14 +158,24 @@ void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
     if (block.begin == block.end)
         return;
     const auto members = detail::number_lookup::of(beams, detail::same_number::first_counts);
+    detail::last_assignments starts(members);
+    detail::last_assignments ends(members);
+    std::vector<SdOffset> offsets;
     for (std::size_t i = block.begin; i < block.end; ++i) {
         const offset_line line = read_offset_line(lines[i], length_factor, run);
-        const auto end = line.end == "START" ? &SdBeam::offset_start : &SdBeam::offset_end;
-        const detail::list_end list = detail::for_each_named(
-            members, detail::word_cursor(lines[i].text), [&](std::size_t index) { beams[index].*end = line.offset; },
+        const detail::list_end list = detail::assign_to_list(
+            line.end == "START" ? starts : ends, static_cast<int>(offsets.size()), detail::word_cursor(lines[i].text),
             [&](int number) { detail::tell_unknown("member-unknown", "member", number, lines[i], run); });
         detail::check_list_end("offset", list, list.stopped_at == "START" || list.stopped_at == "END", lines[i], run);
+        offsets.push_back(line.offset);
     }
+    const auto offset_at = [&](SdOffset SdBeam::*end) {
+        return [this, &offsets, end](const detail::numbered_position& entry, int value) {
+            beams[static_cast<std::size_t>(entry.position) - 1].*end = offsets[static_cast<std::size_t>(value)];
+        };
+    };
+    starts.hand_out(offset_at(&SdBeam::offset_start));
+    ends.hand_out(offset_at(&SdBeam::offset_end));
 }
 
 } // namespace STAAD

@@ -1,11 +1,14 @@
 // SURFACE INCIDENCE and SURFACE PROPERTY.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/id_list.h"
 #include "staad/reader/named_records.h"
 #include "staad/reader/number.h"
 #include "staad/reader/read_items.h"
+#include "staad/units/number_lookup.h"
 #include "staad/units/positions.h"
+
+#include <utility>
+#include <vector>
 
 namespace STAAD {
 namespace {
@@ -19,9 +22,13 @@ void read_incidences(SdReader& model, const detail::line_list& lines, detail::re
     run.used.mark(keyword);
     const detail::line_range block = detail::lines_of_data(lines, keyword + 1);
     const std::size_t before = model.surfaces.size();
-    detail::read_items(
-        model.surfaces, lines, block, surface_item, run, [](std::string_view) { return false; },
-        [](SdSurface& surface, detail::line_place) { surface.material = surface_material; });
+    detail::read_items(model.surfaces, lines, block, surface_item, run, detail::no_line,
+                       [&](SdSurface& surface, detail::line_place place) {
+                           surface.material = surface_material;
+                           for (const int joint : surface.node_ids)
+                               if (run.joints.position(joint) == 0)
+                                   detail::tell_unknown_joint("surface", surface.id, joint, place, run);
+                       });
     for (std::size_t i = before; i < model.surfaces.size(); ++i)
         if (model.surfaces[i].id >= 1)
             model.surface_index[model.surfaces[i].id] = static_cast<int>(i) + 1;
@@ -29,18 +36,14 @@ void read_incidences(SdReader& model, const detail::line_list& lines, detail::re
         detail::tell_block_end("SURFACE INCIDENCE", lines, block.end, run);
 }
 
-/// Surfaces that the run names; true if there was one.
-bool set_thickness(SdReader& model, const detail::id_run& ids, int thickness)
+/// The surfaces by number, as `surface_index` has them.
+detail::number_lookup surface_numbers(const SdReader& model)
 {
-    bool anyone = false;
-    auto entry = model.surface_index.lower_bound(ids.first);
-    for (; entry != model.surface_index.end() && entry->first <= ids.last; ++entry) {
-        if (SdSurface* const surface = detail::at_position(model.surfaces, entry->second)) {
-            surface->thickness = thickness;
-            anyone = true;
-        }
-    }
-    return anyone;
+    std::vector<detail::numbered_position> entries;
+    for (const auto& [number, position] : model.surface_index)
+        if (detail::at_position(model.surfaces, position) != nullptr)
+            entries.push_back({number, position});
+    return {std::move(entries), detail::same_number::last_counts};
 }
 
 void read_properties(SdReader& model, const detail::line_list& lines, detail::reading& run)
@@ -48,21 +51,23 @@ void read_properties(SdReader& model, const detail::line_list& lines, detail::re
     const std::size_t keyword = lines.find_start("SURFACE PROPERTY");
     run.used.mark(keyword);
     const detail::line_range block = detail::lines_of_data(lines, keyword + 1);
+    const detail::number_lookup numbers = surface_numbers(model);
+    detail::last_assignments surfaces(numbers);
     for (std::size_t i = block.begin; i < block.end; ++i) {
         run.used.mark(i);
         const std::string_view line = lines[i].text;
         if (detail::count_words(line) == 2) // a thickness without a list
             continue;
-        const double value = detail::to_real(detail::last_word(line)) * model.length_factor;
-        bool anyone = false;
-        detail::id_list_walker walker(detail::word_cursor(line), detail::surface_id_list);
-        for (detail::id_run ids; walker.next(ids);)
-            anyone = set_thickness(model, ids, detail::truncate_to_int(value)) || anyone;
-        detail::word_cursor behind = walker.after_list();
-        const detail::list_end list{anyone, behind.next_or_empty()};
+        const int thickness = detail::truncate_to_int(detail::to_real(detail::last_word(line)) * model.length_factor);
+        const detail::list_end list =
+            detail::walk_list(detail::word_cursor(line), detail::surface_id_list,
+                              [&](const detail::id_run& ids) { return surfaces.add(thickness, ids); });
         const bool ended_well = list.stopped_at.empty() || detail::starts_with(list.stopped_at, "TH");
         detail::check_list_end("thickness", list, ended_well, lines[i], run);
     }
+    surfaces.hand_out([&](const detail::numbered_position& entry, int thickness) {
+        model.surfaces[static_cast<std::size_t>(entry.position) - 1].thickness = thickness;
+    });
     if (keyword < lines.size())
         detail::tell_block_end("SURFACE PROPERTY", lines, block.end, run);
 }

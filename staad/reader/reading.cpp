@@ -1,6 +1,7 @@
 #include "staad/reader/reading.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace STAAD::detail {
 
@@ -10,10 +11,10 @@ finding_sink::finding_sink(ReadReport* report) : report_(report)
         report_->findings.clear();
 }
 
-void finding_sink::add(Finding::Severity severity, std::string_view code, line_place place, std::string text)
+bool finding_sink::takes_one_more(std::string_view code, line_place place)
 {
     if (report_ == nullptr)
-        return;
+        return false;
     auto found = std::find_if(tallies_.begin(), tallies_.end(), [code](const tally& t) { return t.code == code; });
     if (found == tallies_.end())
         found = tallies_.insert(found, {std::string(code), 0, 0});
@@ -21,11 +22,11 @@ void finding_sink::add(Finding::Severity severity, std::string_view code, line_p
         Finding& rest = report_->findings[found->last];
         ++rest.count;
         rest.last_line = std::max<std::size_t>(rest.last_line, place.last);
-        return;
+        return false;
     }
     ++found->listed;
     found->last = report_->findings.size();
-    list(severity, code, place, std::move(text), 1);
+    return true;
 }
 
 void finding_sink::list(Finding::Severity severity, std::string_view code, line_place place, std::string text,

@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace STAAD::detail {
@@ -21,28 +22,34 @@ public:
     /// Null: nobody listens. Empties the report, which must outlive the sink.
     explicit finding_sink(ReadReport* report);
 
-    /// Whether it is worth putting a text together.
     bool listening() const noexcept { return report_ != nullptr; }
     /// Nothing has been added.
     bool empty() const noexcept { return report_ == nullptr || report_->findings.empty(); }
-    /// Adds one finding, or counts it with its like once there are many; see ReadReport.
-    void add(Finding::Severity severity, std::string_view code, line_place place, std::string text);
-    /// Adds one finding whatever their number, with a count of its own.
-    void list(Finding::Severity severity, std::string_view code, line_place place, std::string text, std::size_t count);
-    void note(std::string_view code, line_place place, std::string text)
+
+    /// Adds one finding, or counts it with its like once there are many; see ReadReport. `compose()`
+    /// gives the text and is called only if it will be read: a hostile text has findings by the million.
+    template<class Compose>
+    void add(Finding::Severity severity, std::string_view code, line_place place, Compose compose)
     {
-        add(Finding::Note, code, place, std::move(text));
+        if (takes_one_more(code, place))
+            list(severity, code, place, compose(), 1);
     }
-    void warn(std::string_view code, line_place place, std::string text)
+    template<class Compose>
+    void warn(std::string_view code, line_place place, Compose compose)
     {
-        add(Finding::Warning, code, place, std::move(text));
+        add(Finding::Warning, code, place, compose);
     }
     void fail(std::string_view code, line_place place, std::string text)
     {
-        add(Finding::Error, code, place, std::move(text));
+        add(Finding::Error, code, place, [&] { return std::move(text); });
     }
+    /// Adds one finding whatever their number, with a count of its own.
+    void list(Finding::Severity severity, std::string_view code, line_place place, std::string text, std::size_t count);
 
 private:
+    /// Whether the next finding of the code is to be listed; if not, it has been counted.
+    bool takes_one_more(std::string_view code, line_place place);
+
     struct tally {
         std::string code;
         std::size_t listed;

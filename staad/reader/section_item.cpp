@@ -1,6 +1,8 @@
 #include "staad/model/section.h"
 #include "staad/reader/words.h"
 
+#include <utility>
+
 namespace STAAD {
 namespace {
 

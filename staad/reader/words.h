@@ -71,6 +71,11 @@ inline bool contains(std::string_view text, std::string_view word) noexcept
     return text.find(word) != std::string_view::npos;
 }
 
+inline bool is_comment(std::string_view line) noexcept
+{
+    return starts_with(line, "*");
+}
+
 /// The test by which most blocks know their own lines. "0" fails it.
 inline bool starts_with_digit_1_to_9(std::string_view text) noexcept
 {

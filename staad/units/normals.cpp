@@ -53,7 +53,7 @@ void SdReader::NormalOfShell(int index, double& nx, double& ny, double& nz) cons
         return;
     const vector_3 sum = newell_sums(nodes, shell->node_ids);
     const double length = std::sqrt(sum.x * sum.x + sum.y * sum.y + sum.z * sum.z);
-    if (!(length > 0.0))
+    if (!std::isfinite(length) || length == 0.0)
         return;
     const double turn = sum.z / length < downward_limit ? -1.0 : 1.0;
     nx = turn * (sum.x / length);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 namespace STAAD::detail {
 namespace {
@@ -43,6 +44,8 @@ std::int64_t places_needed(const std::vector<numbered_position>& entries) noexce
 
 number_lookup::number_lookup(std::vector<numbered_position> entries, same_number which) : entries_(std::move(entries))
 {
+    for (const numbered_position& entry : entries_)
+        highest_position_ = std::max(highest_position_, static_cast<std::size_t>(entry.position));
     if (!strictly_ascending(entries_)) {
         if (which == same_number::first_counts)
             std::reverse(entries_.begin(), entries_.end());
@@ -76,9 +79,23 @@ void number_lookup::fill(std::map<int, int>& index) const
         index.emplace_hint(index.end(), entry.number, entry.position);
 }
 
+bool number_lookup::knows_any_in(int first, int last) const noexcept
+{
+    if (first == last)
+        return position(first) != 0;
+    const std::size_t i = lower_bound(first);
+    return i < entries_.size() && entries_[i].number <= last;
+}
+
 std::size_t number_lookup::lower_bound(int number) const noexcept
 {
     const auto found = std::lower_bound(entries_.begin(), entries_.end(), numbered_position{number, 0}, ascends);
+    return static_cast<std::size_t>(found - entries_.begin());
+}
+
+std::size_t number_lookup::upper_bound(int number) const noexcept
+{
+    const auto found = std::upper_bound(entries_.begin(), entries_.end(), numbered_position{number, 0}, ascends);
     return static_cast<std::size_t>(found - entries_.begin());
 }
 

@@ -2,10 +2,8 @@
 #ifndef STAAD_UNITS_NUMBER_LOOKUP_H
 #define STAAD_UNITS_NUMBER_LOOKUP_H
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <map>
 #include <utility>
 #include <vector>
@@ -26,7 +24,7 @@ enum class same_number { first_counts, last_counts };
 class number_lookup {
 public:
     number_lookup() = default;
-    /// `entries` in the order of the list.
+    /// `entries` in the order of the list; positions are above 0.
     number_lookup(std::vector<numbered_position> entries, same_number which);
 
     /// From records with an `id`, in list order.
@@ -42,31 +40,44 @@ public:
 
     /// Position of `number`, 0 if no record has it.
     int position(int number) const noexcept;
+    /// Whether any record has a number from `first` to `last`.
+    bool knows_any_in(int first, int last) const noexcept;
 
     /// Calls `visit(numbered_position)` for every known number from `first` to `last`, ascending.
     template<class Visit>
     void for_each_in(int first, int last, Visit visit) const
     {
-        if (!table_.empty()) {
-            const std::int64_t end = std::min<std::int64_t>(std::int64_t{last} - origin_ + 1, std::ssize(table_));
-            for (std::int64_t i = std::max<std::int64_t>(std::int64_t{first} - origin_, 0); i < end; ++i)
-                if (const int position = table_[static_cast<std::size_t>(i)])
-                    visit(numbered_position{static_cast<int>(origin_ + i), position});
+        // A short run is looked up number by number; a long one may span gaps that are longer yet.
+        if (std::int64_t{last} - first < short_run) {
+            for (std::int64_t number = first; number <= last; ++number)
+                if (const int found = position(static_cast<int>(number)))
+                    visit(numbered_position{static_cast<int>(number), found});
             return;
         }
-        for (std::size_t i = lower_bound(first); i < entries_.size() && entries_[i].number <= last; ++i)
+        const std::size_t end = upper_bound(last);
+        for (std::size_t i = lower_bound(first); i < end; ++i)
             visit(entries_[i]);
     }
+
+    /// Every known number once, ascending.
+    const std::vector<numbered_position>& entries() const noexcept { return entries_; }
+    /// First entry whose number is not below `number`.
+    std::size_t lower_bound(int number) const noexcept;
+    /// First entry whose number is above `number`.
+    std::size_t upper_bound(int number) const noexcept;
+    /// No entry has a higher position.
+    std::size_t highest_position() const noexcept { return highest_position_; }
 
     /// Fills an empty index with every number.
     void fill(std::map<int, int>& index) const;
 
 private:
-    std::size_t lower_bound(int number) const noexcept;
+    static constexpr std::int64_t short_run = 16;
 
-    std::vector<numbered_position> entries_; // ascending, each number once
-    std::vector<int> table_;                 // position by number - origin_; empty: search
-    std::int64_t origin_ = 0;                // number of the table's first place
+    std::vector<numbered_position> entries_;
+    std::size_t highest_position_ = 0;
+    std::vector<int> table_;  // position by number - origin_; empty: search
+    std::int64_t origin_ = 0; // number of the table's first place
 };
 
 } // namespace STAAD::detail

@@ -4,28 +4,29 @@
 #include "staad/reader/words.h"
 #include "staad/units/unit_table.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace STAAD {
 namespace detail {
 namespace {
-
-/// Sets `factor` if the table knows `word`, else hands the word back.
-template<class Table>
-std::string look_up(const Table& table, std::string_view word, double& factor)
-{
-    for (const unit_word& row : table) {
-        if (row.word == word) {
-            factor = row.factor;
-            return {};
-        }
-    }
-    return std::string(word);
-}
 
 std::string without_first_hyphen(std::string word)
 {
     if (const std::size_t hyphen = word.find('-'); hyphen != std::string::npos)
         word.erase(hyphen, 1);
     return word;
+}
+
+/// Sets `factor` if the table knows the word. False if it does not.
+template<class Table>
+bool look_up(const Table& table, std::string_view word, double& factor)
+{
+    const auto row =
+        std::find_if(std::begin(table), std::end(table), [&](const unit_word& r) { return r.word == word; });
+    if (row != std::end(table))
+        factor = row->factor;
+    return row != std::end(table);
 }
 
 } // namespace
@@ -35,15 +36,17 @@ unit_factors factors_of_unit_line(std::string_view line)
     unit_factors factors;
     word_cursor words(line);
     words.next_or_empty(); // UNIT
-    const std::string length = to_lower_ascii(words.next_or_empty());
-    const std::string force = to_lower_ascii(words.next_or_empty());
-    const std::string moment = to_lower_ascii(words.next_or_empty());
+    const std::string_view length = words.next_or_empty();
+    const std::string_view force = words.next_or_empty();
+    const std::string_view moment = words.next_or_empty();
     factors.is_short = force.empty();
     if (factors.is_short)
         return factors;
-    factors.unknown_length = look_up(length_words, length, factors.length);
-    factors.unknown_force = look_up(force_words, force, factors.force);
-    if (!moment.empty() && !look_up(moment_words, without_first_hyphen(moment), factors.force_length).empty())
+    if (!look_up(length_words, to_lower_ascii(length), factors.length))
+        factors.unknown_length = length;
+    if (!look_up(force_words, to_lower_ascii(force), factors.force))
+        factors.unknown_force = force;
+    if (!look_up(moment_words, without_first_hyphen(to_lower_ascii(moment)), factors.force_length))
         factors.unknown_moment = moment;
     return factors;
 }

@@ -8,7 +8,7 @@
 namespace STAAD::detail {
 
 /// The factors of one UNIT line. A word that the tables do not know, or that is not there, leaves its
-/// factor at 1; the unknown ones are named.
+/// factor at 1; the unknown ones are named as written.
 struct unit_factors {
     double length = 1.0;       ///< mm
     double force = 1.0;        ///< kN

@@ -173,6 +173,10 @@ const real_row reals[] = {
     {"minus zero, too", "-0.00e999", -0.0},
     {"and with digits after the point", "0.000e400", 0.0},
 
+    {"a second point ends it, and what is behind has no exponent for it", "1" + std::string(400, '0') + ".5.3e-900",
+     DBL_MAX},
+    {"the same with a point in front", "1" + std::string(400, '0') + ".5e.3e-900", DBL_MAX},
+
     {"digits and exponent cancel", "1" + std::string(399, '0') + "e-399", 1.0},
     {"the other way round", "0." + std::string(399, '0') + "1e400", 1.0},
     {"zeros before the first digit cost nothing", std::string(400, '0') + "1.25", 1.25},

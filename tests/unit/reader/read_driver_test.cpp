@@ -11,6 +11,11 @@
 #include <string>
 #include <vector>
 
+#ifndef _WIN32
+#    include <sys/stat.h>
+#    include <unistd.h>
+#endif
+
 namespace STAAD {
 namespace {
 
@@ -260,6 +265,44 @@ TEST(ReadFile, ReadsTheSameModelWhateverTheLineEnds)
     ASSERT_TRUE(dos_model.ReadSDDataFromText(dos));
     EXPECT_EQ(model_differences(unix_model, dos_model), texts());
 }
+
+TEST(ReadText, MayReadATextThatTheModelItselfHolds)
+{
+    SdReader model;
+    model.raw_load_defs[1].text = small_frame;
+    ASSERT_TRUE(model.ReadSDDataFromText(model.raw_load_defs[1].text));
+    SdReader other;
+    ASSERT_TRUE(other.ReadSDDataFromText(small_frame));
+    EXPECT_EQ(model_differences(model, other), texts());
+}
+
+#ifndef _WIN32
+TEST(ReadFile, RefusesAPipeThatWouldNeverEnd)
+{
+    const temporary_file file("");
+    const std::string pipe = std::string(file.path()) + ".pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromStdFile(pipe.c_str(), report));
+    std::filesystem::remove(pipe);
+    ASSERT_EQ(report.findings.size(), 1U);
+    EXPECT_EQ(report.findings[0].code, "file-access");
+}
+
+TEST(ReadFile, RefusesAWriteProtectedFile)
+{
+    const temporary_file file(small_frame);
+    std::filesystem::permissions(file.path(), std::filesystem::perms::owner_read);
+    if (access(file.path(), W_OK) == 0)
+        GTEST_SKIP() << "this user may write to everything";
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromStdFile(file.path(), report));
+    ASSERT_EQ(report.findings.size(), 1U);
+    EXPECT_EQ(report.findings[0].code, "file-access");
+}
+#endif
 
 TEST(ReadFile, FindsNoModelInWhatCannotBeOpened)
 {

@@ -59,9 +59,9 @@ const place_case place_cases[] = {
     {"a line that was meant for another keyword is a warning", head + "\nMEMBER RELEASES\n", "keyword-near",
      Finding::Warning, 7, 7, "'MEMBER RELEASES' is not 'MEMBER RELEASE'"},
     {"a length word that the tables do not have", "UNIT METERS KN\n" + head.substr(14), "unit-word", Finding::Warning,
-     1, 1, "'meters'"},
-    {"a force word", "UNIT METER KIPS\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'kips'"},
-    {"a moment word", "UNIT METER KN KN-FT\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'kn-ft'"},
+     1, 1, "'METERS'"},
+    {"a force word", "UNIT METER KIPS\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'KIPS'"},
+    {"a moment word", "UNIT METER KN KN-FT\n" + head.substr(14), "unit-word", Finding::Warning, 1, 1, "'KN-FT'"},
     {"no force word", "UNIT METER\n" + head.substr(14), "unit-short", Finding::Warning, 1, 1, "UNIT METER"},
     {"a later UNIT line with other words", head + "UNIT MMS KN\n", "unit-later", Finding::Warning, 6, 6,
      "'UNIT MMS KN' changes nothing"},
@@ -80,6 +80,16 @@ const place_case place_cases[] = {
      Finding::Warning, 7, 7, "element 5 refers to joint 98"},
     {"the place of a joined line is all of its lines: a comment in it joins, too, and takes the next line with it",
      head + "2 1 -\n\n* 5 -\n99\n", "joint-unknown", Finding::Warning, 6, 9, "member 2 refers to joint 0"},
+    {"a trailing blank, the commonest reason of all", head + "MEMBER RELEASE \n", "keyword-near", Finding::Warning, 6,
+     6, "'MEMBER RELEASE ' is not 'MEMBER RELEASE': mind the blanks"},
+    {"a surface on a joint that is not there", head + "SURFACE INCIDENCE\n1 2 77 SUR 5\n", "joint-unknown",
+     Finding::Warning, 7, 7, "surface 5 refers to joint 77"},
+    {"a support at a joint that is not there", head + "SUPPORTS\n1 77 FIXED\n", "joint-unknown", Finding::Warning, 7, 7,
+     "names joint 77"},
+    {"a release of a member that is not there", head + "MEMBER RELEASE\n1 77 START MZ\n", "member-unknown",
+     Finding::Warning, 7, 7, "names member 77"},
+    {"a grade with a hyphen shifts its list", head + "MATERIAL Q345-B MEMB 1\n", "list-nobody", Finding::Warning, 6, 6,
+     "the material"},
     {"a comment in the middle of the members", head + "* second storey\n2 1 2\n3 1 2\n", "block-ended",
      Finding::Warning, 6, 6, "2 data lines"},
     {"two comments in a row in the middle of the members", head + "* second storey\n* beams\n2 1 2\n", "block-ended",
@@ -176,6 +186,8 @@ TEST(ReadReport, APlainDeckHasNothingToTell)
 TEST(ReadReport, TheSameUnitWordsInAnotherOrderAreNoFinding)
 {
     EXPECT_TRUE(report_of(head + "UNIT KN METER\nUNIT meter\n").findings.empty());
+    const std::string with_moment = "UNIT METER KN KN-M\n" + head.substr(14);
+    EXPECT_TRUE(report_of(with_moment + "UNIT METER KN KNM\n").findings.empty()) << "the hyphen makes no other word";
 }
 
 TEST(ReadReport, CountsWhatNothingReadsByItsWords)
@@ -281,6 +293,15 @@ TEST(ReadReport, AMissingFileIsTheOnlyReason)
     ASSERT_EQ(report.findings.size(), 1U);
     EXPECT_EQ(report.findings[0].code, "file-missing");
     EXPECT_EQ(report.findings[0].severity, Finding::Error);
+}
+
+TEST(ReadReport, KeepsTheTextOfASkippedCommandShort)
+{
+    const std::vector<Finding> skipped =
+        findings_of(report_of(head + "Q" + std::string(100000, 'Q') + " 1\n2 3\n"), "skipped");
+    ASSERT_EQ(skipped.size(), 1U);
+    EXPECT_EQ(skipped[0].text, std::string(60, 'Q'));
+    EXPECT_EQ(skipped[0].count, 2U);
 }
 
 TEST(ReadReport, AFolderCannotBeOpenedAsAFile)

@@ -140,6 +140,18 @@ TEST(NormalOfShell, IsUpwardForWhatIsNoShell)
     }
 }
 
+TEST(NormalOfShell, IsUpwardWhereTheSumsLeaveTheRangeOfADouble)
+{
+    const double far = 1e200; // its square is no double any more
+    for (const double turn : {1.0, -1.0}) {
+        const SdReader model = model_of({{0, 0, 0}, {turn * far, 0, 0}, {turn * far, 0, far}, {0, 0, far}});
+        const point n = normal_of(model, 1);
+        EXPECT_EQ(n.x, 0.0);
+        EXPECT_EQ(n.y, 0.0);
+        EXPECT_EQ(n.z, 1.0);
+    }
+}
+
 TEST(NormalOfShell, TakesTheShellAtThePosition)
 {
     SdReader model = model_of({{0, 0, 0}, {0, 4000, 0}, {0, 4000, 3000}, {0, 0, 3000}});
