@@ -6,6 +6,7 @@
 #include "staad/units/number_lookup.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <numeric>
 #include <vector>
 
@@ -30,38 +31,49 @@ public:
     /// Forgets what was gathered.
     void clear() noexcept { runs_.clear(); }
 
-    /// Calls `assign(numbered_position, value)` once for every record that a run names.
+    /// Calls `assign(index, value)` once for every record that a run names, in the order of the list;
+    /// `index` counts from 0.
     template<class Assign>
     void hand_out(Assign assign) const
     {
-        std::vector<std::size_t> next; // for every entry the first one from there on that may lack a value
-        std::vector<bool> has_value(numbers_.highest_position() + 1, false);
-        const auto give = [&](const numbered_position& entry, int value) {
-            const auto position = static_cast<std::size_t>(entry.position);
-            if (!has_value[position])
-                assign(entry, value);
-            has_value[position] = true;
+        const std::vector<std::int64_t> values = values_by_index();
+        for (std::size_t i = 0; i < values.size(); ++i)
+            if (values[i] != no_value)
+                assign(i, static_cast<int>(values[i]));
+    }
+
+private:
+    static constexpr std::int64_t no_value = std::int64_t{1} << 32; // no int
+
+    std::vector<std::int64_t> values_by_index() const
+    {
+        std::vector<std::int64_t> values(runs_.empty() ? 0 : numbers_.highest_position(), no_value);
+        const auto give = [&](int position, int value) {
+            std::int64_t& place = values[static_cast<std::size_t>(position) - 1];
+            if (place == no_value)
+                place = value;
         };
+        std::vector<std::uint32_t> next; // for every entry the first one from there on that may lack a value
         runs_.for_each_backwards([&](int value, const id_run& run) {
             if (!run.is_range) {
-                give({run.first, numbers_.position(run.first)}, value);
+                give(numbers_.position(run.first), value);
                 return;
             }
             if (next.empty()) {
                 next.resize(numbers_.entries().size() + 1);
-                std::iota(next.begin(), next.end(), std::size_t{0});
+                std::iota(next.begin(), next.end(), std::uint32_t{0});
             }
             const std::size_t end = numbers_.upper_bound(run.last);
             for (std::size_t i = first_free(next, numbers_.lower_bound(run.first)); i < end; i = first_free(next, i)) {
-                give(numbers_.entries()[i], value);
-                next[i] = i + 1;
+                give(numbers_.entries()[i].position, value);
+                next[i] = static_cast<std::uint32_t>(i + 1);
             }
         });
+        return values;
     }
 
-private:
     /// Follows `next` to its end and shortens the way for those who come after.
-    static std::size_t first_free(std::vector<std::size_t>& next, std::size_t i) noexcept
+    static std::size_t first_free(std::vector<std::uint32_t>& next, std::size_t i) noexcept
     {
         while (next[i] != i) {
             next[i] = next[next[i]];

@@ -29,6 +29,8 @@ public:
         words_.clear();
     }
 
+    bool empty() const noexcept { return values_.empty(); }
+
     /// Calls `visit(value, run)` in the order of noting.
     template<class Visit>
     void for_each(Visit visit) const

@@ -96,9 +96,8 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
         detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], run);
         angles.push_back(angle);
     }
-    assignments.hand_out([&](const detail::numbered_position& entry, int value) {
-        beams[static_cast<std::size_t>(entry.position) - 1].beta = angles[static_cast<std::size_t>(value)];
-    });
+    assignments.hand_out(
+        [&](std::size_t index, int value) { beams[index].beta = angles[static_cast<std::size_t>(value)]; });
 }
 
 void SdReader::read_material(const detail::line_list& lines, detail::reading& run)

@@ -96,9 +96,7 @@ void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from,
         run.used.mark(i);
         note_thickness(elements, model, lines[i], run);
     }
-    elements.hand_out([&](const numbered_position& entry, int thickness) {
-        model.shells[static_cast<std::size_t>(entry.position) - 1].thickness = thickness;
-    });
+    elements.hand_out([&](std::size_t index, int thickness) { model.shells[index].thickness = thickness; });
     if (keyword < lines.size())
         tell_block_end("ELEMENT PROPERTY", lines, block.end, run);
 }

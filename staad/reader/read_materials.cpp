@@ -43,14 +43,12 @@ public:
             for (SdShell& shell : model.shells)
                 shell.material = names_[name_of_all_];
         }
-        members_.hand_out([&](const numbered_position& entry, int value) {
-            model.beams[static_cast<std::size_t>(entry.position) - 1].material =
-                names_[static_cast<std::size_t>(value)];
+        members_.hand_out([&](std::size_t index, int value) {
+            model.beams[index].material = names_[static_cast<std::size_t>(value)];
         });
-        elements_.hand_out([&](const numbered_position& entry, int value) {
-            if (run_.members.position(entry.number) == 0)
-                model.shells[static_cast<std::size_t>(entry.position) - 1].material =
-                    names_[static_cast<std::size_t>(value)];
+        elements_.hand_out([&](std::size_t index, int value) {
+            if (run_.members.position(model.shells[index].id) == 0)
+                model.shells[index].material = names_[static_cast<std::size_t>(value)];
         });
     }
 

@@ -96,9 +96,9 @@ public:
 
     void hand_out(std::vector<SdBeam>& members) const
     {
-        members_.hand_out([&](const numbered_position& entry, int value) {
+        members_.hand_out([&](std::size_t index, int value) {
             const assigned_property& assigned = properties_[static_cast<std::size_t>(value)];
-            SdBeam& member = members[static_cast<std::size_t>(entry.position) - 1];
+            SdBeam& member = members[index];
             member.material = property_material;
             member.sect_text = assigned.property.text;
             member.sect_country = codes_[assigned.code];

@@ -170,8 +170,8 @@ void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
         offsets.push_back(line.offset);
     }
     const auto offset_at = [&](SdOffset SdBeam::*end) {
-        return [this, &offsets, end](const detail::numbered_position& entry, int value) {
-            beams[static_cast<std::size_t>(entry.position) - 1].*end = offsets[static_cast<std::size_t>(value)];
+        return [this, &offsets, end](std::size_t index, int value) {
+            beams[index].*end = offsets[static_cast<std::size_t>(value)];
         };
     };
     starts.hand_out(offset_at(&SdBeam::offset_start));

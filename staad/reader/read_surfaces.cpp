@@ -65,9 +65,7 @@ void read_properties(SdReader& model, const detail::line_list& lines, detail::re
         const bool ended_well = list.stopped_at.empty() || detail::starts_with(list.stopped_at, "TH");
         detail::check_list_end("thickness", list, ended_well, lines[i], run);
     }
-    surfaces.hand_out([&](const detail::numbered_position& entry, int thickness) {
-        model.surfaces[static_cast<std::size_t>(entry.position) - 1].thickness = thickness;
-    });
+    surfaces.hand_out([&](std::size_t index, int thickness) { model.surfaces[index].thickness = thickness; });
     if (keyword < lines.size())
         detail::tell_block_end("SURFACE PROPERTY", lines, block.end, run);
 }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <iterator>
 
 namespace STAAD::detail {
 namespace {
@@ -63,12 +62,8 @@ number_lookup::number_lookup(std::vector<numbered_position> entries, same_number
         table_[static_cast<std::size_t>(entry.number - origin_)] = entry.position;
 }
 
-int number_lookup::position(int number) const noexcept
+int number_lookup::searched_position(int number) const noexcept
 {
-    if (!table_.empty()) {
-        const std::int64_t place = number - origin_;
-        return place >= 0 && place < std::ssize(table_) ? table_[static_cast<std::size_t>(place)] : 0;
-    }
     const std::size_t i = lower_bound(number);
     return i < entries_.size() && entries_[i].number == number ? entries_[i].position : 0;
 }
@@ -81,8 +76,8 @@ void number_lookup::fill(std::map<int, int>& index) const
 
 bool number_lookup::knows_any_in(int first, int last) const noexcept
 {
-    if (first == last)
-        return position(first) != 0;
+    if (position(first) != 0 || position(last) != 0)
+        return true;
     const std::size_t i = lower_bound(first);
     return i < entries_.size() && entries_[i].number <= last;
 }

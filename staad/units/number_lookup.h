@@ -2,8 +2,10 @@
 #ifndef STAAD_UNITS_NUMBER_LOOKUP_H
 #define STAAD_UNITS_NUMBER_LOOKUP_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <utility>
 #include <vector>
@@ -39,7 +41,13 @@ public:
     }
 
     /// Position of `number`, 0 if no record has it.
-    int position(int number) const noexcept;
+    int position(int number) const noexcept
+    {
+        if (table_.empty())
+            return searched_position(number);
+        const std::int64_t place = number - origin_;
+        return place >= 0 && place < std::ssize(table_) ? table_[static_cast<std::size_t>(place)] : 0;
+    }
     /// Whether any record has a number from `first` to `last`.
     bool knows_any_in(int first, int last) const noexcept;
 
@@ -47,11 +55,12 @@ public:
     template<class Visit>
     void for_each_in(int first, int last, Visit visit) const
     {
-        // A short run is looked up number by number; a long one may span gaps that are longer yet.
-        if (std::int64_t{last} - first < short_run) {
-            for (std::int64_t number = first; number <= last; ++number)
-                if (const int found = position(static_cast<int>(number)))
-                    visit(numbered_position{static_cast<int>(number), found});
+        // A short run is taken from the table; a long one may span gaps that are longer yet.
+        if (!table_.empty() && std::int64_t{last} - first < short_run) {
+            const std::int64_t end = std::min<std::int64_t>(last - origin_ + 1, std::ssize(table_));
+            for (std::int64_t i = std::max<std::int64_t>(first - origin_, 0); i < end; ++i)
+                if (const int found = table_[static_cast<std::size_t>(i)])
+                    visit(numbered_position{static_cast<int>(origin_ + i), found});
             return;
         }
         const std::size_t end = upper_bound(last);
@@ -72,7 +81,9 @@ public:
     void fill(std::map<int, int>& index) const;
 
 private:
-    static constexpr std::int64_t short_run = 16;
+    static constexpr std::int64_t short_run = 256;
+
+    int searched_position(int number) const noexcept;
 
     std::vector<numbered_position> entries_;
     std::size_t highest_position_ = 0;

@@ -62,9 +62,10 @@ handed_out by_assignments(const number_lookup& numbers, const std::vector<valued
     for (const auto& [value, run] : runs)
         assignments.add(value, run);
     handed_out result;
-    assignments.hand_out([&](const numbered_position& entry, int value) {
-        result.values[entry.position] = value;
-        ++result.visits[entry.position];
+    assignments.hand_out([&](std::size_t index, int value) {
+        const int position = static_cast<int>(index) + 1;
+        result.values[position] = value;
+        ++result.visits[position];
     });
     return result;
 }
