@@ -216,6 +216,21 @@ TEST(Dump, DescriptionsAsKeysAreTextsToo)
     EXPECT_EQ(keys_of(model["supports"]), (names{"FIXED \"\xE9\x92\xA2\""}));
 }
 
+TEST(Dump, KeysOfTheSameTextStayApart)
+{
+    const tool_run tool;
+    // The same word in GBK, which comes first, and in UTF-8; then the UTF-8 of what takes its place.
+    const std::string deck = small_deck("SUPPORTS\n1 \xB8\xD6\n2 \xE9\x92\xA2\n"
+                                        "1 2 \xC3\xA9\xC2\x92\xC2\xA2\n");
+    const ordered_json supports = dump_of(tool, deck)["supports"];
+    EXPECT_EQ(supports["\xE9\x92\xA2"], ordered_json::parse("[1]")) << supports;
+    // In the order of their bytes the third key stands before the second.
+    EXPECT_EQ(supports["\xC3\xA9\xC2\x92\xC2\xA2"], ordered_json::parse("[1, 2]")) << supports;
+    // Byte by byte once more, for that one is taken, too.
+    EXPECT_EQ(supports["\xC3\x83\xC2\xA9\xC3\x82\xC2\x92\xC3\x82\xC2\xA2"], ordered_json::parse("[2]")) << supports;
+    EXPECT_EQ(supports.size(), 3U);
+}
+
 TEST(Dump, RecordsHaveLinesOfTheirOwn)
 {
     const tool_run tool;

@@ -22,7 +22,7 @@ const char* const tower_lines[] = {
     "surfaces: 1",
     "extents: plan 6.0 m x 8.25 m, height 11.4 m",
     "storeys: 3 (4.20 + 2 x 3.60 m), base at -0.50 m",
-    "concrete density: 23.5615 (in the units of the file)",
+    "concrete density: 23.5615 (default)",
     "offsets: 1 member",
     "beta angles: 2 members",
     "groups: 2",
@@ -82,7 +82,8 @@ TEST(Info, JsonTellsCountsAndPlaces)
     EXPECT_EQ(report["extents_mm"]["file_z"], json::parse("[0.0, 8250.0]"));
     EXPECT_EQ(report["storeys"]["levels_mm"], json::parse("[-500.0, 3700.0, 7300.0, 10900.0]"));
     EXPECT_EQ(report["storeys"]["heights_mm"], json::parse("[4200.0, 3600.0, 3600.0]"));
-    EXPECT_EQ(report["groups"][1], json::parse(R"({"name": "_COLUMNS", "kind": "MEMBER", "count": 6})"));
+    EXPECT_EQ(report["groups"][1],
+              json::parse(R"({"name": "_COLUMNS", "kind": "MEMBER", "members": 6, "unknown_numbers": 0})"));
 }
 
 TEST(Info, JsonTellsSupportsSectionsAndTables)
@@ -140,6 +141,19 @@ TEST(Info, UserTableRowsThatCannotBeUsed)
     EXPECT_TRUE(section["dimensions_mm"].empty());
 }
 
+TEST(Info, ConcreteDensityTellsWhereItIsFrom)
+{
+    const tool_run tool;
+    // Of the line behind ISOTROPIC CONCRETE the number stands behind seven characters: "E 2.171".
+    const std::string path = tool.write("c.std", small_deck("DEFINE MATERIAL START\nISOTROPIC CONCRETE\n"
+                                                            "E 2.17185e+007\nEND DEFINE MATERIAL\n"));
+    EXPECT_TRUE(has_line(tool({"info", path}).out, "concrete density: 8.5e+08 (as written behind ISOTROPIC CONCRETE)"));
+    EXPECT_EQ(info_json(tool, path)["concrete_density_is_default"], false);
+    const json by_default = info_json(tool, tool.write("d.std", small_deck()));
+    EXPECT_EQ(by_default["concrete_density"], 23.5615);
+    EXPECT_EQ(by_default["concrete_density_is_default"], true);
+}
+
 TEST(Info, JsonTellsLoadCases)
 {
     const tool_run tool;
@@ -165,58 +179,26 @@ TEST(Info, TellsWhatIsNotInTheModel)
     EXPECT_TRUE(contains(tool({"info", path}).out, "\n  LOAD COMB         2 lines\n"));
 }
 
-struct storey_case {
-    const char* why;
-    std::vector<double> heights; ///< of the joints of one column line, m, from the ground
-    const char* line;
-};
-
-const storey_case storeys[] = {
-    {"one storey", {0, 3}, "storeys: 1 (3.00 m), base at 0.00 m"},
-    {"millimetres where they matter", {0, 3.005, 6.01}, "storeys: 2 (2 x 3.005 m), base at 0.00 m"},
-    {"levels that round to the same millimetre are one", {0, 3.0004, 3.0001}, "storeys: 1 (3.00 m), base at 0.00 m"},
-    {"equal storeys are told together only side by side",
-     {0, 4, 7, 11},
-     "storeys: 3 (4.00 + 3.00 + 4.00 m), base at 0.00 m"},
-    {"twelve terms are told",
-     {0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42},
-     "storeys: 12 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 m), "
-     "base at 0.00 m"},
-    {"more are not",
-     {0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42, 45},
-     "storeys: 13 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + ... m), "
-     "base at 0.00 m"},
-};
-
-std::string column_deck(const std::vector<double>& heights)
-{
-    std::string joints;
-    std::string members;
-    for (std::size_t i = 0; i < heights.size(); ++i) {
-        joints += std::to_string(i + 1) + " 0 " + std::to_string(heights[i]) + " 0\n";
-        if (i > 0)
-            members += std::to_string(i) + ' ' + std::to_string(i) + ' ' + std::to_string(i + 1) + '\n';
-    }
-    return "UNIT METER KN\nJOINT COORDINATES\n" + joints + "MEMBER INCIDENCES\n" + members + "FINISH\n";
-}
-
-TEST(Info, StoreysAsAnEngineerSaysThem)
+TEST(Info, OwnWeightLoadsMoreThanNobody)
 {
     const tool_run tool;
-    for (const storey_case& each : storeys) {
-        const tool_result result = tool({"info", tool.write("column.std", column_deck(each.heights))});
-        EXPECT_TRUE(has_line(result.out, each.line)) << each.why << '\n' << result.out;
-    }
+    const std::string weight = tool.write("a.std", small_deck("LOAD 1 LOADTYPE Dead TITLE DL\nSELFWEIGHT Y -1\n"));
+    EXPECT_TRUE(has_line(tool({"info", weight}).out, "  1  dead  DL  -  1 SELFWEIGHT")) << tool({"info", weight}).out;
+    const std::string listed =
+        tool.write("b.std", small_deck("LOAD 1 LOADTYPE Dead TITLE DL\nSELFWEIGHT Y -1 LIST 1\n"));
+    EXPECT_TRUE(has_line(tool({"info", listed}).out, "  1  dead  DL  1 member, 0 joints  1 SELFWEIGHT"));
 }
 
-TEST(Info, NoStoreyWithoutUprightOrLevelMembers)
+TEST(Info, CaseOfHeadersWithoutANumberIsExplained)
 {
     const tool_run tool;
-    const std::string sloping = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 1 1 0\nMEMBER INCIDENCES\n1 1 2\nEND\n";
-    EXPECT_TRUE(contains(tool({"info", tool.write("a.std", sloping)}).out, "\nstoreys: none"));
-    // A member whose end is no joint has no height.
-    const std::string loose = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 2\nEND\n";
-    EXPECT_TRUE(contains(tool({"info", tool.write("b.std", loose)}).out, "\nstoreys: none"));
+    const char* const explained = "case 0: what stands under headers without a number (LOAD R1) or with 0";
+    const std::string numbered = "LOAD 1 LOADTYPE Dead TITLE DL\nSELFWEIGHT Y -1\n";
+    const std::string plain = tool.write("a.std", small_deck(numbered));
+    EXPECT_FALSE(has_line(tool({"info", plain}).out, explained));
+    const std::string reference =
+        tool.write("b.std", small_deck("LOAD R1 LOADTYPE Dead TITLE REF\nSELFWEIGHT Y -1\n" + numbered));
+    EXPECT_TRUE(has_line(tool({"info", reference}).out, explained)) << tool({"info", reference}).out;
 }
 
 TEST(Info, SeveralFilesOneLineEachAndTheWorstExitCode)

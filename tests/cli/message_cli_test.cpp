@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace cli_test {
 namespace {
 
@@ -108,7 +110,53 @@ TEST(Messages, ManyOfAKindAreCounted)
     const std::string path = tool.write("loose.std", deck + "FINISH\n");
     const tool_result result = tool({"info", path});
     EXPECT_EQ(result.exit_code, 0);
-    EXPECT_TRUE(contains(result.err, " (10 times)\n")) << result.err;
+    // Member 51 stands on line 55, the last on line 64.
+    const std::string rest = path + ":55: warning ";
+    const std::size_t begin = result.err.find(rest);
+    ASSERT_NE(begin, std::string::npos) << result.err;
+    const std::string line = result.err.substr(begin, result.err.find('\n', begin) - begin);
+    EXPECT_TRUE(contains(line, " (and 9 more of this kind, up to line 64)")) << line;
+    EXPECT_FALSE(contains(result.err, "times)"));
+}
+
+TEST(Messages, InTheOrderOfTheLines)
+{
+    const tool_run tool;
+    // The second UNIT line is met before the members are read, one of which has no joint at its end.
+    const std::string path = tool.write("a.std", "STAAD SPACE\nUNIT METER KN\n"
+                                                 "JOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
+                                                 "MEMBER INCIDENCES\n1 1 2\n2 1 99\nUNIT KIP FEET\nFINISH\n");
+    const std::string err = tool({"info", path}).err;
+    std::vector<int> lines;
+    for (std::size_t at = err.find(path + ':'); at != std::string::npos; at = err.find(path + ':', at + 1))
+        lines.push_back(std::stoi(err.substr(at + path.size() + 1)));
+    EXPECT_GE(lines.size(), 2U) << err;
+    EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end())) << err;
+}
+
+TEST(Messages, StandardInputThatCannotBeRead)
+{
+    const tool_run tool;
+    const tool_result result = tool.from(tool.folder(), {"info", "-"});
+    EXPECT_EQ(result.exit_code, 3);
+    EXPECT_EQ(result.err.rfind("<stdin>: error file-unreadable: ", 0), 0U) << result.err;
+}
+
+TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
+{
+    const tool_run tool;
+    // Not UTF-8, but GBK: the name is not decoded, or nobody could copy it.
+    const std::string path = tool.missing("a\x1B[31m\xB8\xD6.std");
+    const tool_result result = tool({"info", path});
+    EXPECT_TRUE(contains(result.err, "/a\\x1B[31m\xB8\xD6.std: error file-missing: ")) << result.err;
+    EXPECT_FALSE(contains(result.err, "\x1B"));
+    const std::string one = tool.write("b\x1B.std", small_deck());
+    EXPECT_TRUE(contains(tool({"info", one}).out, "/b\\x1B.std\n"));
+    EXPECT_TRUE(contains(tool({"info", one, one}).out, "/b\\x1B.std: 2 joints"));
+    EXPECT_FALSE(contains(tool({"in\x1B"
+                                "fo"})
+                              .err,
+                          "\x1B"));
 }
 
 TEST(Messages, NotesOnRequestOnly)
@@ -116,7 +164,7 @@ TEST(Messages, NotesOnRequestOnly)
     const tool_run tool;
     const std::string path = tool.write("tower.std", tower_deck());
     // Line 62 is the header of the combination, the first of its two lines.
-    const std::string note = path + ":62: note skipped: LOAD COMB (2 times)";
+    const std::string note = path + ":62: note skipped: LOAD COMB (2 lines)";
     EXPECT_TRUE(has_line(tool({"dump", "--notes", path}).err, note));
     EXPECT_FALSE(contains(tool({"dump", path}).err, ": note "));
     EXPECT_FALSE(contains(tool({"info", "--notes", path}).err, "skipped")) << "the report tells it already";

@@ -40,21 +40,26 @@ private:
     posix_spawn_file_actions_t actions_;
 };
 
-int run_to_end(const std::vector<std::string>& arguments, const redirections& streams)
+int run_to_end(std::vector<std::string> words, const redirections& streams)
 {
-    std::vector<std::string> words = {STAADKIT_TOOL_PATH};
-    words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> pointers;
     for (std::string& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
     pid_t process = 0;
-    if (posix_spawn(&process, STAADKIT_TOOL_PATH, streams.get(), nullptr, pointers.data(), environ) != 0)
-        throw std::runtime_error("cannot start " STAADKIT_TOOL_PATH);
+    if (posix_spawn(&process, pointers.front(), streams.get(), nullptr, pointers.data(), environ) != 0)
+        throw std::runtime_error("cannot start " + words.front());
     int status = 0;
     if (waitpid(process, &status, 0) != process)
-        throw std::runtime_error("lost " STAADKIT_TOOL_PATH);
+        throw std::runtime_error("lost " + words.front());
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+std::vector<std::string> call_of(std::vector<std::string> before, const std::vector<std::string>& arguments)
+{
+    before.emplace_back(STAADKIT_TOOL_PATH);
+    before.insert(before.end(), arguments.begin(), arguments.end());
+    return before;
 }
 
 std::filesystem::path new_folder()
@@ -89,23 +94,37 @@ std::string tool_run::missing(const std::string& name) const
 
 tool_result tool_run::operator()(const std::vector<std::string>& arguments, std::string_view input) const
 {
-    const std::string out = missing("stdout");
-    tool_result result = run(arguments, write("stdin", input), out);
-    result.out = read_file(out);
-    return result;
+    return from(write("stdin", input), arguments);
 }
 
 tool_result tool_run::into(const std::string& out_path, const std::vector<std::string>& arguments) const
 {
-    return run(arguments, "/dev/null", out_path);
+    return run(call_of({}, arguments), "/dev/null", out_path);
 }
 
-tool_result tool_run::run(const std::vector<std::string>& arguments, const std::string& in_path,
+tool_result tool_run::from(const std::string& in_path, const std::vector<std::string>& arguments) const
+{
+    const std::string out = missing("stdout");
+    tool_result result = run(call_of({}, arguments), in_path, out);
+    result.out = read_file(out);
+    return result;
+}
+
+tool_result tool_run::within(std::size_t megabytes, const std::vector<std::string>& arguments) const
+{
+    const std::string limited = "ulimit -v " + std::to_string(megabytes * 1024) + " && exec \"$0\" \"$@\"";
+    const std::string out = missing("stdout");
+    tool_result result = run(call_of({"/bin/sh", "-c", limited}, arguments), "/dev/null", out);
+    result.out = read_file(out);
+    return result;
+}
+
+tool_result tool_run::run(const std::vector<std::string>& command, const std::string& in_path,
                           const std::string& out_path) const
 {
     const std::string err = missing("stderr");
     tool_result result;
-    result.exit_code = run_to_end(arguments, redirections(in_path, out_path, err));
+    result.exit_code = run_to_end(command, redirections(in_path, out_path, err));
     result.err = read_file(err);
     return result;
 }

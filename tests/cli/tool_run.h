@@ -2,6 +2,7 @@
 #ifndef TESTS_CLI_TOOL_RUN_H
 #define TESTS_CLI_TOOL_RUN_H
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -32,9 +33,15 @@ public:
     tool_result operator()(const std::vector<std::string>& arguments, std::string_view input = {}) const;
     /// The same with standard output going to `out_path`; `out` of the result stays empty.
     tool_result into(const std::string& out_path, const std::vector<std::string>& arguments) const;
+    /// The same with standard input coming from `in_path`.
+    tool_result from(const std::string& in_path, const std::vector<std::string>& arguments) const;
+    /// The same with no more than so much memory to take.
+    tool_result within(std::size_t megabytes, const std::vector<std::string>& arguments) const;
+
+    std::string folder() const { return folder_.string(); }
 
 private:
-    tool_result run(const std::vector<std::string>& arguments, const std::string& in_path,
+    tool_result run(const std::vector<std::string>& command, const std::string& in_path,
                     const std::string& out_path) const;
 
     std::filesystem::path folder_;

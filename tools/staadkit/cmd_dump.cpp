@@ -10,6 +10,7 @@
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <new>
 
 namespace tool {
 namespace {
@@ -21,13 +22,18 @@ struct dump_options {
 
 exit_code run_dump(const dump_options& options)
 {
-    const opened_model opened = open_model(options.file);
+    opened_model opened = open_model(options.file);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
     if (!opened.was_read)
         return no_model;
     std_output out;
-    json_writer writer(out);
-    writer.document(opened.model);
+    try {
+        json_writer(out).document(opened.model);
+    } catch (const std::bad_alloc&) {
+        give_up_for_memory(opened);
+        print_finding(opened.name, opened.report.findings.back());
+        return out.close(no_model);
+    }
     return out.close(done);
 }
 

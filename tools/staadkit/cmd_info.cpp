@@ -12,6 +12,10 @@
 
 #include <algorithm>
 #include <memory>
+#include <new>
+#include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tool {
@@ -31,47 +35,66 @@ public:
     exit_code run()
     {
         for (const std::string& file : options_.files)
-            report(open_model(file));
-        if (options_.as_json)
-            print_json();
+            tell(open_model(file));
+        if (options_.as_json && !is_single_)
+            out_.put("\n]\n");
         return out_.close(worst_);
     }
 
 private:
-    void report(const opened_model& opened)
+    void tell(opened_model opened)
     {
         // What was skipped stands in the report itself.
         print_findings(opened.name, opened.report, least_severity(options_.with_notes), skipped_code);
+        try {
+            put_report(opened);
+        } catch (const std::bad_alloc&) {
+            give_up_for_memory(opened);
+            print_finding(opened.name, opened.report.findings.back());
+            put_report(opened);
+        }
         if (!opened.was_read)
             worst_ = std::max(worst_, no_model);
+    }
+
+    void put_report(const opened_model& opened)
+    {
         if (options_.as_json)
-            add_json(opened);
+            put_json(opened);
         else if (!is_single_)
             out_.put(one_line_report(opened));
         else if (opened.was_read)
-            out_.put(full_report(opened, summarise(opened.model, opened.report)));
+            put_full_report(out_, opened, summarise(opened.model, opened.report));
     }
 
-    void add_json(const opened_model& opened)
+    void put_json(const opened_model& opened)
     {
-        if (!opened.was_read) {
-            reports_.push_back(json_report(opened, nullptr));
+        nlohmann::ordered_json report = json_of(opened);
+        if (is_single_) {
+            out_.put(report.dump(2) += '\n');
             return;
         }
-        const model_summary summary = summarise(opened.model, opened.report);
-        reports_.push_back(json_report(opened, &summary));
+        // The array is written item by item, so that one report at a time takes memory.
+        nlohmann::ordered_json items = nlohmann::ordered_json::array();
+        items.push_back(std::move(report));
+        const std::string text = items.dump(2);
+        out_.put(is_first_item_ ? '[' : ',');
+        out_.put(std::string_view(text).substr(1, text.size() - 3)); // without "[" and "\n]"
+        is_first_item_ = false;
     }
 
-    void print_json()
+    static nlohmann::ordered_json json_of(const opened_model& opened)
     {
-        out_.put((is_single_ ? reports_.front() : reports_).dump(2));
-        out_.put('\n');
+        if (!opened.was_read)
+            return json_report(opened, nullptr);
+        const model_summary summary = summarise(opened.model, opened.report);
+        return json_report(opened, &summary);
     }
 
     const info_options& options_;
     const bool is_single_;
+    bool is_first_item_ = true;
     std_output out_;
-    nlohmann::ordered_json reports_ = nlohmann::ordered_json::array();
     exit_code worst_ = done;
 };
 

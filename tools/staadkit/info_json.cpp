@@ -60,11 +60,15 @@ json storeys(const model_summary& summary)
     return {{"levels_mm", summary.levels}, {"heights_mm", std::move(heights)}};
 }
 
-json groups(const STAAD::SdReader& model)
+json groups(const model_summary& summary)
 {
+    constexpr const char* counted[] = {"joints", "members", "elements"};
     json list = json::array();
-    for (const STAAD::SdGroup& group : model.groups)
-        list.push_back({{"name", utf8_text(group.name)}, {"kind", utf8_text(group.kind)}, {"count", group.ids.size()}});
+    for (const group_summary& group : summary.groups)
+        list.push_back({{"name", utf8_text(group.name)},
+                        {"kind", utf8_text(group.kind)},
+                        {counted[group.type], group.numbers.known},
+                        {"unknown_numbers", group.numbers.unknown}});
     return list;
 }
 
@@ -72,8 +76,9 @@ json descriptions(const std::vector<description_summary>& described, const char*
 {
     json list = json::array();
     for (const description_summary& each : described)
-        list.push_back(
-            {{"description", utf8_text(each.description)}, {counted, each.count}, {"unknown_numbers", each.unknown}});
+        list.push_back({{"description", utf8_text(each.description)},
+                        {counted, each.numbers.known},
+                        {"unknown_numbers", each.numbers.unknown}});
     return list;
 }
 
@@ -142,7 +147,8 @@ void add_model(json& report, const STAAD::SdReader& model, const model_summary& 
     report["extents_mm"] = extents_mm(summary);
     report["storeys"] = storeys(summary);
     report["concrete_density"] = model.concrete_density;
-    report["groups"] = groups(model);
+    report["concrete_density_is_default"] = summary.has_default_density;
+    report["groups"] = groups(summary);
     report["supports"] = descriptions(summary.supports, "joints");
     report["releases"] = descriptions(summary.releases, "members");
     report["sections"] = sections(summary);

@@ -4,13 +4,14 @@
 
 #include "model_summary.h"
 #include "open_model.h"
+#include "std_output.h"
 
 #include <string>
 
 namespace tool {
 
 /// All there is to tell about one model, on lines of its own.
-std::string full_report(const opened_model& opened, const model_summary& summary);
+void put_full_report(std_output& out, const opened_model& opened, const model_summary& summary);
 
 /// One line for one of several files: what it holds, or why it holds no model.
 std::string one_line_report(const opened_model& opened);

@@ -105,7 +105,7 @@ void json_writer::new_line()
         out_.put("  ");
 }
 
-void json_writer::key(int number)
+void json_writer::key(int number, used_keys& /*used*/)
 {
     out_.put('"');
     put_number(out_, number);
@@ -115,6 +115,19 @@ void json_writer::key(int number)
 void json_writer::key(std::string_view name)
 {
     quoted(name);
+    out_.put(": ");
+}
+
+// Different bytes may be the same text once they are decoded, and an object has room for one of them:
+// the later one is written byte by byte.
+void json_writer::key(const std::string& text, used_keys& used)
+{
+    if (is_ascii(text) || used.insert(utf8_text(text)).second)
+        return key(text);
+    std::string bytes = text;
+    while (!used.insert(utf8_from_bytes(bytes)).second)
+        bytes = utf8_from_bytes(bytes);
+    quoted_bytes(bytes);
     out_.put(": ");
 }
 

@@ -63,9 +63,10 @@ public:
     void value(const std::map<Key, Mapped>& entries)
     {
         open('{', on_lines());
+        used_keys used;
         for (const auto& [name, mapped] : entries) {
             next();
-            key(name);
+            key(name, used);
             value(mapped);
         }
         close('}');
@@ -90,6 +91,8 @@ private:
         bool has_items = false;
     };
     static constexpr std::size_t deepest = 16;
+    /// Keys of the object being written that are not plain ASCII, in UTF-8.
+    using used_keys = std::set<std::string>;
 
     template<class Items>
     void list(const Items& items)
@@ -107,8 +110,9 @@ private:
     void next();
     void close(char bracket);
     void new_line();
-    void key(int number);
     void key(std::string_view name);
+    void key(int number, used_keys& used);
+    void key(const std::string& text, used_keys& used);
     void quoted(std::string_view text);
     void quoted_utf8(std::string_view text);
     void quoted_bytes(std::string_view text);

@@ -3,6 +3,7 @@
 #include "messages.h"
 #include "std_output.h"
 #include "suggest.h"
+#include "text_encoding.h"
 #include "verbs.h"
 
 #include <CLI/CLI.hpp>
@@ -27,11 +28,16 @@ constexpr const char* exit_code_help = "Exit codes:\n"
                                        "  3  no model in the input\n"
                                        "  4  output not written";
 
-exit_code refuse(std::string message, const std::string& nearest)
+/// What was wrong, the word that may have been meant, and whose help tells more: that of `command`.
+exit_code refuse(const CLI::App& command, const std::string& message, const std::string& nearest = {})
 {
+    std::string text = printable_name(message);
     if (!nearest.empty())
-        message += "; did you mean '" + nearest + "'?";
-    print_error(message + "\nTry: staadkit --help");
+        text += "; did you mean '" + nearest + "'?";
+    text += "\nTry: staadkit ";
+    if (command.get_parent() != nullptr)
+        text += command.get_name() + ' ';
+    print_error(text + "--help");
     return wrong_usage;
 }
 
@@ -74,12 +80,13 @@ exit_code refuse_extras(const CLI::App& app)
 {
     const std::vector<std::string> extras = app.remaining(true);
     const std::string& word = extras.front();
+    const CLI::App& command = chosen_command(app);
     if (word[0] != '-')
-        return refuse("one argument too many: '" + word + "'", {});
-    const std::string nearest = nearest_word(word, option_names(chosen_command(app)));
+        return refuse(command, "one argument too many: '" + word + "'");
+    const std::string nearest = nearest_word(word, option_names(command));
     if (nearest == word)
-        return refuse("option '" + word + "' belongs after the verb", {});
-    return refuse("unknown option '" + word + "'", nearest);
+        return refuse(app, "option '" + word + "' belongs after the verb");
+    return refuse(command, "unknown option '" + word + "'", nearest);
 }
 
 void set_up_app(CLI::App& app, verb_action& action)
@@ -105,7 +112,7 @@ exit_code run(int argc, const char* const* argv)
     set_up_app(app, action);
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
     if (const std::string* word = unknown_verb(arguments))
-        return refuse("unknown verb '" + *word + "'", nearest_word(*word, verb_names()));
+        return refuse(app, "unknown verb '" + *word + "'", nearest_word(*word, verb_names()));
     try {
         app.parse(argc, argv);
     } catch (const CLI::CallForHelp&) {
@@ -115,9 +122,10 @@ exit_code run(int argc, const char* const* argv)
     } catch (const CLI::ExtrasError&) {
         return refuse_extras(app);
     } catch (const CLI::RequiredError& error) {
-        return refuse(app.get_subcommands().empty() ? "no verb given" : error.what(), {});
+        const bool has_verb = !app.get_subcommands().empty();
+        return refuse(chosen_command(app), has_verb ? error.what() : "no verb given");
     } catch (const CLI::ParseError& error) {
-        return refuse(error.what(), {});
+        return refuse(chosen_command(app), error.what());
     }
     return action();
 }

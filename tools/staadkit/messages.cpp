@@ -1,8 +1,11 @@
 #include "messages.h"
 
 #include "text_encoding.h"
+#include "words.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -12,6 +15,19 @@ void print_line(std::string line)
     line += '\n';
     // A lost message has nobody left to be told to.
     std::fwrite(line.data(), 1, line.size(), stderr);
+}
+
+/// What a finding that stands for several adds to its text, which is that of the first of them.
+std::string further_ones(const STAAD::Finding& finding)
+{
+    if (finding.code == skipped_code)
+        return " (" + count_of(finding.count, "line") + ')';
+    if (finding.count < 2)
+        return {};
+    std::string text = " (and " + std::to_string(finding.count - 1) + " more of this kind";
+    if (finding.last_line > finding.first_line)
+        text += ", up to line " + std::to_string(finding.last_line);
+    return text + ')';
 }
 
 } // namespace
@@ -36,14 +52,11 @@ const char* severity_word(STAAD::Finding::Severity severity)
 
 std::string message_line(std::string_view file, const STAAD::Finding& finding)
 {
-    std::string line(file);
+    std::string line = printable_name(file);
     if (finding.first_line != 0)
         line += ':' + std::to_string(finding.first_line);
     line += std::string(": ") + severity_word(finding.severity) + ' ' + finding.code + ": ";
-    line += printable_text(finding.text);
-    if (finding.count > 1)
-        line += " (" + std::to_string(finding.count) + " times)";
-    return line;
+    return line + printable_text(finding.text) + further_ones(finding);
 }
 
 STAAD::Finding::Severity least_severity(bool with_notes)
@@ -51,13 +64,23 @@ STAAD::Finding::Severity least_severity(bool with_notes)
     return with_notes ? STAAD::Finding::Note : STAAD::Finding::Warning;
 }
 
+void print_finding(std::string_view file, const STAAD::Finding& finding)
+{
+    print_line(message_line(file, finding));
+}
+
 void print_findings(std::string_view file, const STAAD::ReadReport& report, STAAD::Finding::Severity least,
                     std::string_view without)
 {
+    std::vector<const STAAD::Finding*> printed;
     for (const STAAD::Finding& finding : report.findings) {
         if (finding.severity >= least && (without.empty() || finding.code != without))
-            print_line(message_line(file, finding));
+            printed.push_back(&finding);
     }
+    std::stable_sort(printed.begin(), printed.end(),
+                     [](const auto* a, const auto* b) { return a->first_line < b->first_line; });
+    for (const STAAD::Finding* finding : printed)
+        print_finding(file, *finding);
 }
 
 } // namespace tool

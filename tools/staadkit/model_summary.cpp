@@ -1,9 +1,10 @@
 #include "model_summary.h"
 
+#include "messages.h"
 #include "staad/project/levels.h"
 
 #include <algorithm>
-#include <map>
+#include <cmath>
 
 namespace tool {
 namespace {
@@ -42,36 +43,6 @@ void count_members(const SdReader& model, model_summary& summary)
     }
 }
 
-/// The numbers of one description, counted through `index` and the list of `size` records behind it.
-description_summary count_numbers(const std::string& description, const std::vector<unsigned>& numbers,
-                                  const std::map<int, int>& index, std::size_t size)
-{
-    description_summary counted;
-    counted.description = description;
-    std::vector<bool> seen(size + 1);
-    for (const unsigned number : numbers) {
-        const auto entry = index.find(static_cast<int>(number));
-        const auto position = entry == index.end() || entry->second < 1 ? 0 : static_cast<std::size_t>(entry->second);
-        if (position == 0 || position > size) {
-            ++counted.unknown;
-        } else if (!seen[position]) {
-            seen[position] = true;
-            ++counted.count;
-        }
-    }
-    return counted;
-}
-
-std::vector<description_summary> count_descriptions(const std::map<std::string, std::vector<unsigned>>& described,
-                                                    const std::map<int, int>& index, std::size_t size)
-{
-    std::vector<description_summary> counted;
-    counted.reserve(described.size());
-    for (const auto& [description, numbers] : described)
-        counted.push_back(count_numbers(description, numbers, index, size));
-    return counted;
-}
-
 std::vector<skipped_summary> skipped_lines(const STAAD::ReadReport& report)
 {
     std::vector<skipped_summary> skipped;
@@ -82,7 +53,18 @@ std::vector<skipped_summary> skipped_lines(const STAAD::ReadReport& report)
     return skipped;
 }
 
+bool has_finding(const STAAD::ReadReport& report, std::string_view code)
+{
+    return std::any_of(report.findings.begin(), report.findings.end(),
+                       [code](const STAAD::Finding& finding) { return finding.code == code; });
+}
+
 } // namespace
+
+bool extents::are_finite() const
+{
+    return std::isfinite(size(0)) && std::isfinite(size(1)) && std::isfinite(size(2));
+}
 
 model_summary summarise(const SdReader& model, const STAAD::ReadReport& report)
 {
@@ -94,8 +76,8 @@ model_summary summarise(const SdReader& model, const STAAD::ReadReport& report)
     summary.box = box_around(model.nodes);
     summary.levels = STAAD::detail::storey_levels(model);
     count_members(model, summary);
-    summary.supports = count_descriptions(model.supports, model.node_index, model.nodes.size());
-    summary.releases = count_descriptions(model.releases, model.beam_index, model.beams.size());
+    summary.has_default_density = !has_finding(report, "density");
+    summarise_lists(model, summary);
     summarise_sections(model, summary);
     summarise_loads(model, summary);
     summary.skipped = skipped_lines(report);

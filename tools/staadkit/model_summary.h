@@ -13,31 +13,41 @@
 
 namespace tool {
 
-/// Code of the findings that name what is in the file and not in the model.
-inline constexpr const char* skipped_code = "skipped";
-
 /// The box around all joints, mm, model frame.
 struct extents {
     double low[3] = {0.0, 0.0, 0.0};
     double high[3] = {0.0, 0.0, 0.0};
 
     double size(std::size_t axis) const { return high[axis] - low[axis]; }
+    bool are_finite() const;
+};
+
+/// A list of numbers of joints, members or elements, each counted once.
+struct listed_numbers {
+    std::size_t known = 0;
+    std::size_t unknown = 0; ///< the model has none with that number
 };
 
 /// One description of supports or releases.
 struct description_summary {
     std::string description;
-    std::size_t count = 0;   ///< joints or members that have it, each counted once
-    std::size_t unknown = 0; ///< numbers listed that the model has no joint or member for
+    listed_numbers numbers;
 };
 
-/// Members of one section: one code word and one section text.
+struct group_summary {
+    std::string name;
+    std::string kind; ///< as the file has it
+    STAAD::SdGroup::IdType type = STAAD::SdGroup::JointId;
+    listed_numbers numbers;
+};
+
+/// Members of one section: one code word and one section text, with dimensions or without.
 struct section_summary {
     std::string country;
     std::string text;
     std::size_t members = 0;
     std::string family;             ///< of an "UPTABLE" section, in lower case; else empty
-    std::vector<double> dimensions; ///< mm, in the order of the section text; empty: not understood
+    std::vector<double> dimensions; ///< mm, in the order of the section text; empty: none, or not understood
     std::string trouble;            ///< why an "UPTABLE" section has no dimensions
 };
 
@@ -77,9 +87,11 @@ struct model_summary {
     std::size_t surfaces = 0;
     extents box;
     std::vector<double> levels; ///< mm, ascending
+    bool has_default_density = true;
     std::size_t members_with_offsets = 0;
     std::size_t members_with_beta = 0;
     std::size_t members_without_section = 0;
+    std::vector<group_summary> groups;
     std::vector<section_summary> sections;
     std::vector<user_table_summary> user_tables;
     std::vector<description_summary> supports;
@@ -92,6 +104,7 @@ model_summary summarise(const STAAD::SdReader& model, const STAAD::ReadReport& r
 
 /// The parts that have rules of their own; summarise() calls them.
 void summarise_sections(const STAAD::SdReader& model, model_summary& summary);
+void summarise_lists(const STAAD::SdReader& model, model_summary& summary);
 void summarise_loads(const STAAD::SdReader& model, model_summary& summary);
 
 } // namespace tool

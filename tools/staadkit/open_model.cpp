@@ -51,15 +51,23 @@ bool read_model(const std::string& path, opened_model& opened)
     std::string text;
     if (read_standard_input(text))
         return opened.model.ReadSDDataFromText(text, opened.report);
-    add_error(opened.report, "not-readable", 0, std::strerror(errno));
+    add_error(opened.report, "file-unreadable", 0, std::strerror(errno));
     return false;
 }
 
+/// What the error says, without the place: that is the message's to tell.
 std::string limit_text(const STAAD::ReadLimitError& error)
 {
-    const bool is_list = error.limit() == STAAD::most_numbers_per_list;
-    return std::string(is_list ? "a list" : "the lists together are") + " of more than " +
-           std::to_string(error.limit()) + " numbers";
+    const std::string text = error.what();
+    const std::string place = "line " + std::to_string(error.first_line()) + ": ";
+    return text.starts_with(place) ? text.substr(place.size()) : text;
+}
+
+void fail_for_memory(opened_model& opened, const char* text)
+{
+    opened.model = {};
+    opened.was_read = false;
+    add_error(opened.report, "memory", 0, text);
 }
 
 } // namespace
@@ -76,10 +84,14 @@ opened_model open_model(const std::string& path)
         opened.model = {}; // what was read by then may fill the memory
         add_error(opened.report, "limit", error.first_line(), limit_text(error));
     } catch (const std::bad_alloc&) {
-        opened.model = {};
-        add_error(opened.report, "memory", 0, "not enough memory to read it");
+        fail_for_memory(opened, "not enough memory to read it");
     }
     return opened;
+}
+
+void give_up_for_memory(opened_model& opened)
+{
+    fail_for_memory(opened, "not enough memory to tell what it holds");
 }
 
 std::string first_error(const STAAD::ReadReport& report)

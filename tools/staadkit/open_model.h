@@ -21,6 +21,9 @@ struct opened_model {
 /// memory than there is, or than a reading takes, holds no model.
 opened_model open_model(const std::string& path);
 
+/// Takes the model away and notes the error: what is to be told of it needs more memory than there is.
+void give_up_for_memory(opened_model& opened);
+
 /// Text of the first error of the report; empty if there is none.
 std::string first_error(const STAAD::ReadReport& report);
 

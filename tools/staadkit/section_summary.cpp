@@ -1,9 +1,11 @@
 // Sections with their members and dimensions, and the user tables behind some of them.
 
 #include "model_summary.h"
+#include "staad/reader/text.h"
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <map>
 #include <stdexcept>
 #include <string_view>
@@ -16,78 +18,65 @@ namespace {
 using STAAD::SdBeam;
 using STAAD::SdReader;
 
-/// The words of a text, blanks between them.
-std::vector<std::string_view> words_of(std::string_view text)
-{
-    std::vector<std::string_view> words;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find(' '), text.size());
-        if (end > 0)
-            words.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return words;
-}
-
 bool is_number(std::string_view text, double& number)
 {
     const std::from_chars_result end = std::from_chars(text.data(), text.data() + text.size(), number);
-    return !text.empty() && end.ec == std::errc() && end.ptr == text.data() + text.size();
+    return end.ec == std::errc() && end.ptr == text.data() + text.size() && std::isfinite(number);
 }
 
 /// "500X300" as numbers; nothing unless every piece is one.
-std::vector<double> numbers_between_x(std::string_view text)
+std::vector<double> numbers_between_x(const std::string& text)
 {
     std::vector<double> numbers;
-    while (!text.empty()) {
-        const std::size_t end = std::min(text.find('X'), text.size());
+    for (const std::string& piece : STAAD::SplitString(text, "X")) {
         double number = 0.0;
-        if (!is_number(text.substr(0, end), number))
+        if (!is_number(piece, number))
             return {};
         numbers.push_back(number);
-        text.remove_prefix(std::min(end + 1, text.size()));
     }
     return numbers;
 }
 
-bool starts_with(std::string_view text, std::string_view head)
-{
-    return text.substr(0, head.size()) == head;
-}
-
 /// True if a "PRIS" property names nothing but depths and widths. Areas and inertias (AX, IZ) stand
 /// in the section text like lengths, but are none.
-bool has_only_lengths(std::string_view property)
+bool has_only_lengths(const std::string& property)
 {
-    const std::vector<std::string_view> words = words_of(property);
+    const std::vector<std::string> words = STAAD::SplitString(property, " ");
     for (std::size_t i = 1; i < words.size(); i += 2) {
-        const std::string_view name = words[i];
+        const std::string& name = words[i];
         if (name != "YD" && name != "ZD" && name != "YB" && name != "ZB")
             return false;
     }
     return true;
 }
 
-/// "TABLE ST PIP200X10": outer diameter and wall.
-std::vector<double> pipe_dimensions(std::string_view text)
+/// True if the numbers in a section text are lengths in mm, made from what the property says. In the
+/// names of catalogues (PIP1270, PIPX40) they are whatever the catalogue means by them.
+bool has_dimensions(const SdBeam& member)
 {
-    for (const std::string_view word : words_of(text)) {
-        if (starts_with(word, "PIP"))
-            return numbers_between_x(word.substr(3));
+    const std::string_view text = member.sect_text;
+    if (text.starts_with("PRIS"))
+        return has_only_lengths(member.sect_name);
+    if (text.starts_with("TABLE"))
+        return member.sect_name.find("PIPE OD ") != std::string::npos;
+    return text.starts_with("TAPERED");
+}
+
+/// The dimensions in a text such as "PRIS500X300" or "TABLE ST PIP200X10".
+std::vector<double> dimensions_in(const std::string& text)
+{
+    for (const char* head : {"PRIS", "TAPERED", " PIP"}) {
+        const std::size_t position = text.find(head);
+        if (position != std::string::npos)
+            return numbers_between_x(text.substr(position + std::string_view(head).size()));
     }
     return {};
 }
 
-std::vector<double> dimensions_in_text(const SdBeam& member)
+/// Rows of these families hold areas and inertias, which no factor of length turns into mm.
+bool is_of_lengths(STAAD::UsrDefineSectionType family)
 {
-    const std::string_view text = member.sect_text;
-    if (starts_with(text, "TABLE"))
-        return pipe_dimensions(text);
-    if (starts_with(text, "TAPERED"))
-        return numbers_between_x(text.substr(7));
-    if (starts_with(text, "PRIS") && has_only_lengths(member.sect_name))
-        return numbers_between_x(text.substr(4));
-    return {};
+    return family != STAAD::General && family != STAAD::Prismatic;
 }
 
 const char* family_words(STAAD::UsrDefineSectionType family)
@@ -102,7 +91,8 @@ void look_up_in_table(const SdReader& model, section_summary& section)
     try {
         const auto [family, text] = model.GetSectionFromUsrTable(section.text);
         section.family = family_words(family);
-        section.dimensions = numbers_between_x(text);
+        if (is_of_lengths(family))
+            section.dimensions = numbers_between_x(text);
         if (text.empty())
             section.trouble = "not found in the user tables";
     } catch (const std::out_of_range&) {
@@ -110,26 +100,37 @@ void look_up_in_table(const SdReader& model, section_summary& section)
     }
 }
 
-section_summary describe_section(const SdReader& model, const SdBeam& member)
+section_summary describe_section(const SdReader& model, const SdBeam& member, bool with_dimensions)
 {
     section_summary section;
     section.country = member.sect_country;
     section.text = member.sect_text;
-    if (starts_with(section.text, "UPTABLE"))
+    if (section.text.starts_with("UPTABLE"))
         look_up_in_table(model, section);
-    else
-        section.dimensions = dimensions_in_text(member);
+    else if (with_dimensions)
+        section.dimensions = dimensions_in(section.text);
     return section;
 }
 
+bool is_one_name(const std::vector<std::string>& words)
+{
+    double number = 0.0;
+    return words.size() == 1 && !is_number(words.front(), number);
+}
+
+bool begins_with_number(const std::vector<std::string>& words)
+{
+    double number = 0.0;
+    return !words.empty() && is_number(words.front(), number);
+}
+
 /// Rows that a section can name: one word, with a line of numbers after it. The lines of numbers
-/// stand in the table as names, too, and are none.
+/// stand in the table as names, too, and are none, not even those of a single number.
 std::size_t count_rows(const STAAD::SdUserSectionTable& table)
 {
     const auto is_row = [](const auto& record) {
-        const std::vector<std::string_view> numbers = words_of(record.second);
-        double number = 0.0;
-        return words_of(record.first).size() == 1 && !numbers.empty() && is_number(numbers.front(), number);
+        return is_one_name(STAAD::SplitString(record.first, " ")) &&
+               begins_with_number(STAAD::SplitString(record.second, "X "));
     };
     return static_cast<std::size_t>(std::count_if(table.records.begin(), table.records.end(), is_row));
 }
@@ -138,15 +139,17 @@ std::size_t count_rows(const STAAD::SdUserSectionTable& table)
 
 void summarise_sections(const SdReader& model, model_summary& summary)
 {
-    std::map<std::pair<std::string_view, std::string_view>, section_summary> sections;
+    // Different properties may have the same text, and only of some of them is it one of lengths.
+    std::map<std::tuple<std::string_view, std::string_view, bool>, section_summary> sections;
     for (const SdBeam& member : model.beams) {
         if (member.sect_text.empty() && member.sect_name.empty()) {
             ++summary.members_without_section;
             continue;
         }
-        const auto [entry, is_new] = sections.try_emplace({member.sect_country, member.sect_text});
+        const bool with_dimensions = has_dimensions(member);
+        const auto [entry, is_new] = sections.try_emplace({member.sect_country, member.sect_text, with_dimensions});
         if (is_new)
-            entry->second = describe_section(model, member);
+            entry->second = describe_section(model, member, with_dimensions);
         ++entry->second.members;
     }
     for (auto& [key, section] : sections)

@@ -23,7 +23,10 @@ void std_output::put(std::string_view text)
 {
     if (buffer_.size() + text.size() > buffer_size)
         flush();
-    buffer_.append(text);
+    if (text.size() > buffer_size)
+        write(text);
+    else
+        buffer_.append(text);
 }
 
 void std_output::put(char c)
@@ -35,11 +38,16 @@ void std_output::put(char c)
 
 void std_output::flush()
 {
-    if (!failed_ && std::fwrite(buffer_.data(), 1, buffer_.size(), stdout) != buffer_.size()) {
+    write(buffer_);
+    buffer_.clear();
+}
+
+void std_output::write(std::string_view text)
+{
+    if (!failed_ && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
         error_ = errno;
         failed_ = true;
     }
-    buffer_.clear();
 }
 
 exit_code std_output::close(exit_code so_far)

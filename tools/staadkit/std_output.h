@@ -25,6 +25,7 @@ public:
 
 private:
     void flush();
+    void write(std::string_view text);
 
     std::string buffer_;
     int error_ = 0;

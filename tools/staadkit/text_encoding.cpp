@@ -25,11 +25,6 @@ std::uint32_t byte_at(std::string_view text, std::size_t index) noexcept
     return static_cast<unsigned char>(text[index]);
 }
 
-bool is_ascii(std::string_view text) noexcept
-{
-    return std::none_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
-}
-
 std::size_t length_by_first_byte(std::uint32_t byte) noexcept
 {
     if (byte < 0x80)
@@ -64,12 +59,37 @@ bool is_control(std::uint32_t code) noexcept
     return code < 0x20 || (code >= 0x7F && code < 0xA0);
 }
 
+bool is_control_byte(std::uint32_t byte) noexcept
+{
+    return byte < 0x20 || byte == 0x7F;
+}
+
 bool is_wide(std::uint32_t code) noexcept
 {
     return (code >= 0x1100 && code <= 0x115F) || (code >= 0x2E80 && code <= 0xA4CF) ||
            (code >= 0xAC00 && code <= 0xD7A3) || (code >= 0xF900 && code <= 0xFAFF) ||
            (code >= 0xFE30 && code <= 0xFE6F) || (code >= 0xFF00 && code <= 0xFF60) ||
            (code >= 0xFFE0 && code <= 0xFFE6) || (code >= 0x20000 && code <= 0x3FFFD);
+}
+
+/// The longest beginning of a text that takes no more than so many cells.
+struct beginning {
+    std::size_t bytes = 0;
+    std::size_t width = 0;
+};
+
+beginning first_cells(std::string_view text, std::size_t most) noexcept
+{
+    beginning taken;
+    while (taken.bytes < text.size()) {
+        const utf8_character character = first_character(text.substr(taken.bytes));
+        const std::size_t width = is_wide(character.code) ? 2 : 1;
+        if (taken.width + width > most)
+            break;
+        taken.bytes += std::max<std::size_t>(character.length, 1);
+        taken.width += width;
+    }
+    return taken;
 }
 
 void append_hex_escape(std::string& out, std::uint32_t code)
@@ -94,12 +114,13 @@ std::string escape_controls(std::string_view utf8)
     return out;
 }
 
-std::string escape_all_but_ascii(std::string_view bytes)
+template<class IsEscaped>
+std::string escape_bytes(std::string_view bytes, IsEscaped is_escaped)
 {
     std::string out;
     for (std::size_t i = 0; i < bytes.size(); ++i) {
         const std::uint32_t byte = byte_at(bytes, i);
-        if (byte >= 0x80 || is_control(byte))
+        if (is_escaped(byte))
             append_hex_escape(out, byte);
         else
             out += bytes[i];
@@ -147,6 +168,11 @@ private:
 #endif
 
 } // namespace
+
+bool is_ascii(std::string_view text) noexcept
+{
+    return std::none_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x80; });
+}
 
 bool is_utf8(std::string_view text) noexcept
 {
@@ -201,18 +227,28 @@ std::string printable_text(std::string_view text)
     if (is_utf8(text))
         return escape_controls(text);
     const std::optional<std::string> decoded = utf8_from_gbk(text);
-    return decoded ? escape_controls(*decoded) : escape_all_but_ascii(text);
+    if (decoded)
+        return escape_controls(*decoded);
+    return escape_bytes(text, [](std::uint32_t byte) { return byte >= 0x80 || is_control_byte(byte); });
+}
+
+std::string printable_name(std::string_view name)
+{
+    return is_utf8(name) ? escape_controls(name) : escape_bytes(name, is_control_byte);
 }
 
 std::size_t display_width(std::string_view text) noexcept
 {
-    std::size_t width = 0;
-    while (!text.empty()) {
-        const utf8_character character = first_character(text);
-        width += is_wide(character.code) ? std::size_t{2} : std::size_t{1};
-        text.remove_prefix(std::max<std::size_t>(character.length, 1));
-    }
-    return width;
+    return first_cells(text, text.size() * 2).width;
+}
+
+std::string clipped(std::string_view text, std::size_t most)
+{
+    if (first_cells(text, most).bytes == text.size())
+        return std::string(text);
+    constexpr std::string_view dots = "...";
+    std::string cut(text.substr(0, first_cells(text, most - dots.size()).bytes));
+    return cut.append(dots);
 }
 
 } // namespace tool

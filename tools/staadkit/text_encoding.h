@@ -8,6 +8,8 @@
 
 namespace tool {
 
+bool is_ascii(std::string_view text) noexcept;
+
 /// True for well-formed UTF-8, plain ASCII included; surrogates and overlong forms are not.
 bool is_utf8(std::string_view text) noexcept;
 
@@ -25,8 +27,15 @@ std::string utf8_text(std::string_view text);
 /// thus cannot drive the terminal on which its texts are shown.
 std::string printable_text(std::string_view text);
 
+/// The name of a file for a terminal: control characters as "\x1B", every other byte as it stands, so
+/// that the name can be copied back.
+std::string printable_name(std::string_view name);
+
 /// Terminal cells that UTF-8 `text` takes, Chinese, Japanese and Korean characters two each.
 std::size_t display_width(std::string_view text) noexcept;
+
+/// UTF-8 `text` as it stands if it takes at most `most` cells, else cut to that many, "..." included.
+std::string clipped(std::string_view text, std::size_t most);
 
 } // namespace tool
 

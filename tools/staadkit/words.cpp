@@ -1,7 +1,5 @@
 #include "words.h"
 
-#include "text_encoding.h"
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -44,17 +42,6 @@ std::string storey_terms(const std::vector<double>& levels)
     return text;
 }
 
-std::vector<std::size_t> column_widths(const std::vector<std::vector<std::string>>& rows)
-{
-    std::vector<std::size_t> widths;
-    for (const std::vector<std::string>& row : rows) {
-        widths.resize(std::max(widths.size(), row.size()));
-        for (std::size_t column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], display_width(row[column]));
-    }
-    return widths;
-}
-
 } // namespace
 
 std::string count_of(std::size_t count, std::string_view noun)
@@ -94,26 +81,12 @@ std::string storeys_in_words(const std::vector<double>& levels)
 {
     if (levels.empty())
         return "none (no upright and no level member)";
+    if (!std::all_of(levels.begin(), levels.end(), [](double level) { return std::isfinite(level); }))
+        return "not finite";
     if (levels.size() == 1)
         return "none (one level, at " + storey_metres(levels.front()) + " m)";
     return std::to_string(levels.size() - 1) + " (" + storey_terms(levels) + " m), base at " +
            storey_metres(levels.front()) + " m";
-}
-
-std::string aligned_rows(const std::vector<std::vector<std::string>>& rows)
-{
-    const std::vector<std::size_t> widths = column_widths(rows);
-    std::string text;
-    for (const std::vector<std::string>& row : rows) {
-        std::string line;
-        for (std::size_t column = 0; column < row.size(); ++column) {
-            line += "  " + row[column];
-            line.append(widths[column] - display_width(row[column]), ' ');
-        }
-        line.erase(line.find_last_not_of(' ') + 1);
-        text += line + '\n';
-    }
-    return text;
 }
 
 } // namespace tool

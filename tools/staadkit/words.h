@@ -24,9 +24,6 @@ std::string metres(double length);
 /// terms.
 std::string storeys_in_words(const std::vector<double>& levels);
 
-/// Rows of cells as lines, indented by two, columns wide enough for their widest cell.
-std::string aligned_rows(const std::vector<std::vector<std::string>>& rows);
-
 } // namespace tool
 
 #endif

@@ -1,0 +1,37 @@
+#include "table.h"
+
+#include "text_encoding.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tool {
+namespace {
+
+constexpr std::size_t most_padded = 40;
+
+} // namespace
+
+void table::add_row(std::vector<std::string> cells)
+{
+    widths_.resize(std::max(widths_.size(), cells.size()));
+    for (std::size_t column = 0; column < cells.size(); ++column)
+        widths_[column] = std::max(widths_[column], std::min(display_width(cells[column]), most_padded));
+    rows_.push_back(std::move(cells));
+}
+
+void table::put(std_output& out) const
+{
+    for (const std::vector<std::string>& row : rows_) {
+        std::string line;
+        for (std::size_t column = 0; column < row.size(); ++column) {
+            const std::size_t width = display_width(row[column]);
+            line += "  " + row[column];
+            line.append(widths_[column] - std::min(width, widths_[column]), ' ');
+        }
+        line.erase(line.find_last_not_of(' ') + 1);
+        out.put(line += '\n');
+    }
+}
+
+} // namespace tool

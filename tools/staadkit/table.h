@@ -1,0 +1,30 @@
+/// Rows of cells as lines of text.
+#ifndef TOOLS_STAADKIT_TABLE_H
+#define TOOLS_STAADKIT_TABLE_H
+
+#include "std_output.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// Cells of printable UTF-8, columns aligned, lines indented by two.
+///
+/// A column is as wide as its widest cell, up to a bound: one long text must not pad every other
+/// line with blanks. Cells beyond the bound push the rest of their own line to the right.
+class table {
+public:
+    void add_row(std::vector<std::string> cells);
+    std::size_t size() const noexcept { return rows_.size(); }
+    void put(std_output& out) const;
+
+private:
+    std::vector<std::vector<std::string>> rows_;
+    std::vector<std::size_t> widths_;
+};
+
+} // namespace tool
+
+#endif
