@@ -44,7 +44,7 @@ enum BeamType : int {
 /// different objects may be used in different threads at the same time.
 class STAAD_API SdReader {
 public:
-    /// Density of the isotropic concrete, kN/m3 as written in the file.
+    /// Density of the isotropic concrete: 23.5615 kN/m3, or a number of the file as written there.
     double concrete_density = 23.5615;
     WindLoadParam wl_param;                                ///< for the generated wind loads
     SeismicParam eq_param;                                 ///< for the generated seismic loads
@@ -89,15 +89,18 @@ public:
     /// Numbers:  joint references in members and shells become 1-based positions in `nodes`;
     ///           0 stands for a joint that the file does not define.
     /// Tolerant: unknown commands are skipped and unreadable numbers count as 0.
-    /// Returns:  true if a model was read. False if the file cannot be opened for reading and writing,
-    ///           has no UNIT line with a line after it, no JOINT COORDINATES line after that, or no
-    ///           MEMBER INCIDENCES line after the joints; what was read by then stays in the model.
+    /// Returns:  true if a model was read. False if `path` is null, if the file cannot be opened for
+    ///           reading and writing, has no UNIT line with a line after it, no JOINT COORDINATES line
+    ///           after that, or no MEMBER INCIDENCES line after the joints; what was read by then stays
+    ///           in the model.
     /// Throws:   ReadLimitError, a std::bad_alloc, if lists grow past the limits of a reading (see
     ///           reader/read_limit.h); other std::bad_alloc pass through. The model may then be
     ///           incomplete and can be read into again.
-    /// Cost:     the text is held in memory once; time grows linearly with its length.
+    /// Cost:     the text is held in memory once; time grows linearly with its length and with the
+    ///           numbers that its stored lists and the references to its loads come to.
     bool ReadSDDataFromStdFile(const char* path);
-    /// The same, and tells what is worth knowing about the text. The model is the same either way.
+    /// The same, and tells what is worth knowing about the text. The model is the same either way. The
+    /// report is emptied first; after an exception it holds what was found by then.
     bool ReadSDDataFromStdFile(const char* path, ReadReport& report);
     /// Reads the text of a ".std" file from memory; everything else as ReadSDDataFromStdFile.
     bool ReadSDDataFromText(std::string_view text);

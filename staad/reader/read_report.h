@@ -15,7 +15,7 @@ struct STAAD_API Finding {
     enum Severity : int { Note = 0, Warning = 1, Error = 2 };
 
     Severity severity = Note;
-    std::string code;           ///< short and fixed, for programs: "unit-word"
+    std::string code;           ///< short and fixed, for programs: "unit-word"; docs/reading.md has them all
     std::size_t first_line = 0; ///< first physical line it is about, from 1; 0: the text as a whole
     std::size_t last_line = 0;  ///< last physical line it is about
     std::string text;           ///< for people, without place and severity, in English
