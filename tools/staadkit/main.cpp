@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <exception>
 #include <new>
 #include <string>
 #include <vector>
@@ -133,12 +134,16 @@ exit_code run(int argc, const char* const* argv)
 } // namespace
 } // namespace tool
 
-int main(int argc, char** argv)
+// What is left to throw here is a message that memory does not suffice for: the run ends all the same.
+int main(int argc, char** argv) // NOLINT(bugprone-exception-escape)
 {
     try {
         return tool::run(argc, argv);
     } catch (const std::bad_alloc&) {
         tool::print_error("not enough memory");
+        return tool::no_model;
+    } catch (const std::exception& error) {
+        tool::print_error(error.what());
         return tool::no_model;
     }
 }

@@ -14,7 +14,7 @@ void print_line(std::string line)
 {
     line += '\n';
     // A lost message has nobody left to be told to.
-    std::fwrite(line.data(), 1, line.size(), stderr);
+    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
 /// What a finding that stands for several adds to its text, which is that of the first of them.
