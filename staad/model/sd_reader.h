@@ -17,6 +17,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -27,7 +28,9 @@ struct ReadReport;
 namespace detail {
 class line_list;
 class reading;
+class text_output;
 struct sd_reader_access;
+struct written_loads;
 } // namespace detail
 
 /// What a member is, by its declaration and its geometry.
@@ -106,6 +109,27 @@ public:
     bool ReadSDDataFromText(std::string_view text);
     bool ReadSDDataFromText(std::string_view text, ReadReport& report);
 
+    /// Writes the model as normalised ".std", replacing a file of that name; reports nothing.
+    ///
+    /// Text:     lengths in metres, Y up, lines of at most 79 characters. Joints are numbered by their
+    ///           position; load directions and values, and the numbers in groups, supports and releases,
+    ///           are written as the model holds them. The wind and seismic loads of `wl_param` and
+    ///           `eq_param` follow the load cases. Offsets, and loads on joints, areas, floors and by
+    ///           self weight, are not written.
+    /// Changes:  members become numbers 1 to M in list order, shells M + 1 and on; `brace_ids` becomes
+    ///           the members whose `kind_code` is Brace or HorizontalBrace; the user tables with keys 1
+    ///           to 10 get the family word of their key. Also where `path` cannot be opened.
+    /// Threads:  different models may be written at the same time.
+    /// Throws:   std::bad_alloc; what was written by then stays in the file.
+    /// Cost:     linear in the model, beside the sorting of distinct texts and of unsorted lists.
+    void WriteDataToFile(const char* path);
+    /// The same, and tells how it went: true if every byte was written; else `error` is the first
+    /// failure of the system. A null path is std::errc::invalid_argument.
+    bool WriteDataToFile(const char* path, std::error_code& error);
+    /// The same text in memory, lines ended by a line feed on every platform. Cost: as above, and up to
+    /// three times the text while it grows.
+    std::string WriteDataToText();
+
     /// Adds the members that "MEMBER TRUSS", "MEMBER COMPRESSION" and "MEMBER TENSION" lines declare
     /// to `brace_ids`. `lines` are logical lines; the one line after each keyword is its list.
     /// Throws ReadLimitError as ReadSDDataFromStdFile does.
@@ -161,6 +185,25 @@ private:
     bool IsBrace(const SdBeam& member) const;
     bool IsHBrace(const SdBeam& member) const;
     void reset_member_id();
+
+    void write_blocks(detail::text_output& out);
+    void write_std_head(detail::text_output& out) const;
+    void write_std_node(detail::text_output& out) const;
+    void write_std_beam(detail::text_output& out) const;
+    void write_std_board(detail::text_output& out) const;
+    void write_std_usrSectTable(detail::text_output& out);
+    void write_std_group(detail::text_output& out) const;
+    void write_std_thickness(detail::text_output& out) const;
+    void write_std_material(detail::text_output& out) const;
+    void write_std_truss(detail::text_output& out);
+    void write_std_section(detail::text_output& out) const;
+    void write_std_mat_table(detail::text_output& out) const;
+    void write_std_beta(detail::text_output& out) const;
+    void write_std_support(detail::text_output& out) const;
+    void write_std_release(detail::text_output& out) const;
+    void write_std_load(detail::text_output& out, detail::written_loads& loads) const;
+    void write_std_WL(detail::text_output& out, detail::written_loads& loads) const;
+    void write_std_EQ(detail::text_output& out, detail::written_loads& loads) const;
 };
 
 } // namespace STAAD

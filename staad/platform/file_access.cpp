@@ -90,4 +90,45 @@ file_bytes read_updatable_file(const char* path)
     return result;
 }
 
+output_file::output_file(const char* path)
+{
+    if (path == nullptr) {
+        error_ = std::make_error_code(std::errc::invalid_argument);
+        return;
+    }
+    errno = 0;
+    file_ = std::fopen(path, "w");
+    if (file_ == nullptr)
+        fail();
+}
+
+output_file::~output_file()
+{
+    static_cast<void>(close());
+}
+
+void output_file::write(std::string_view text) noexcept
+{
+    if (error_)
+        return;
+    errno = 0;
+    if (std::fwrite(text.data(), 1, text.size(), file_) != text.size())
+        fail();
+}
+
+std::error_code output_file::close() noexcept
+{
+    if (file_ != nullptr) {
+        errno = 0;
+        if (std::fclose(std::exchange(file_, nullptr)) != 0 && !error_)
+            fail();
+    }
+    return error_;
+}
+
+void output_file::fail() noexcept
+{
+    error_ = errno != 0 ? std::error_code(errno, std::generic_category()) : std::make_error_code(std::errc::io_error);
+}
+
 } // namespace STAAD::detail

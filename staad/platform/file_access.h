@@ -1,9 +1,12 @@
-/// Reading files, behind one small interface. Knows neither texts nor models.
+/// Reading and writing files, behind one small interface. Knows neither texts nor models.
 #ifndef STAAD_PLATFORM_FILE_ACCESS_H
 #define STAAD_PLATFORM_FILE_ACCESS_H
 
 #include <cstddef>
+#include <cstdio>
 #include <memory>
+#include <string_view>
+#include <system_error>
 
 namespace STAAD::detail {
 
@@ -19,6 +22,28 @@ struct file_bytes {
 /// Reads the whole of `path`, opened for reading and writing although nothing is written: a file that
 /// is missing or write-protected is refused. A null path is missing.
 file_bytes read_updatable_file(const char* path);
+
+/// A text file written from its beginning: what stood in it is gone. Line feeds become the line ends of
+/// the platform. After the first failure it takes everything and writes nothing.
+class output_file {
+public:
+    /// A null path cannot be opened.
+    explicit output_file(const char* path);
+    ~output_file();
+    output_file(const output_file&) = delete;
+    output_file& operator=(const output_file&) = delete;
+
+    void write(std::string_view text) noexcept;
+
+    /// Closes the file. No error if every byte was written, else the first that was met.
+    std::error_code close() noexcept;
+
+private:
+    void fail() noexcept;
+
+    std::FILE* file_ = nullptr;
+    std::error_code error_;
+};
 
 } // namespace STAAD::detail
 
