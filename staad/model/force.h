@@ -5,6 +5,7 @@
 #define STAAD_MODEL_FORCE_H
 
 #include "staad/model/export.h"
+#include "staad/model/load.h"
 
 #include <map>
 #include <vector>
@@ -27,12 +28,12 @@ struct STAAD_API BeamLoadCaseRecord {
     int load_case = 0;                   ///< load case number as printed
     std::vector<ForcePoint> points;      ///< stations as printed
     std::vector<ForcePoint> pkpm_points; ///< resampled at nine stations; empty until then
-};
 
-/// Forces of one member under every load case of the listing.
-struct STAAD_API BeamForceAndMOM {
-    int beam = 0;                              ///< 1-based position in SdReader::beams
-    std::map<int, BeamLoadCaseRecord> records; ///< by load case number
+    /// Sorts `points` by position, drops all but the first of stations closer than 0.0001 mm, and
+    /// fills `pkpm_points` with nine stations: nine as they stand, else the first, seven at eighths of
+    /// the last position (linear between neighbours), the last. Fewer than two points leave
+    /// `pkpm_points` as it was. Cost: n log n for n points.
+    void sort_pkpm_format();
 };
 
 /// One station of the list that the downstream design program takes: a point for each kind of
@@ -42,6 +43,24 @@ struct STAAD_API BeamLoadList {
     ForcePoint live;
     ForcePoint wind;
     ForcePoint seismic;
+};
+
+/// Forces of one member under every load case of the listing.
+struct STAAD_API BeamForceAndMOM {
+    int beam = 0;                              ///< 1-based position in SdReader::beams
+    std::map<int, BeamLoadCaseRecord> records; ///< by load case number
+
+    /// Stores `record`, or appends its `points` to the record of the same load case.
+    void add_loadCase_record(const BeamLoadCaseRecord& record);
+    /// Adds every record of `other` if it is of the same member; else nothing happens.
+    void merge(const BeamForceAndMOM& other);
+    /// Resamples every record.
+    void sort_pkpm_format();
+
+    /// The list that the downstream design program takes: station i has the i-th `pkpm_points` of the
+    /// dead, live, wind and seismic load case. Of several cases of one kind the highest number counts;
+    /// nothing is added up. Empty if no record has a kind and stations.
+    std::vector<BeamLoadList> get_pkpm_load_on_section(const std::map<int, LoadCase>& load_cases) const;
 };
 
 } // namespace STAAD

@@ -29,6 +29,8 @@ namespace detail {
 class line_list;
 class reading;
 class text_output;
+struct force_section;
+struct member_tally;
 struct sd_reader_access;
 struct written_loads;
 } // namespace detail
@@ -144,6 +146,28 @@ public:
     /// Throws std::out_of_range if the row is blank.
     std::pair<UsrDefineSectionType, std::string> GetSectionFromUsrTable(const std::string& text) const;
 
+    /// Reads the beam forces that the analysis printed, and makes them the content of `beam_forces`,
+    /// each load case resampled at nine stations.
+    ///
+    /// Listing:  sections under a Chinese title line, in GBK or UTF-8, each with its own units; see
+    ///           docs/forces.md. Members are found by their number in `beam_index`; those that the
+    ///           model does not have are skipped. The last load case of a section's last member is
+    ///           left out.
+    /// Units:    afterwards positions are mm, forces kN, moments kN*mm. `unit_text` and the factors
+    ///           stay as the last section set them: ask for sections of user tables before.
+    /// Messages: a model without members shows a message box (platform_services.h) and changes nothing.
+    /// Tolerant: a file that cannot be opened for reading and writing, or has no title, empties
+    ///           `beam_forces`; a null path as well.
+    /// Cost:     the text is held in memory once; two walks over it, and n log n in the stations of a
+    ///           record.
+    void ReadForceMomentFromTxtFile(const char* path);
+    /// The same, and tells what is worth knowing about the listing. The report is emptied first.
+    void ReadForceMomentFromTxtFile(const char* path, ReadReport& report);
+    /// Reads the text of a listing from memory, which must not be a text of this model; everything else
+    /// as ReadForceMomentFromTxtFile.
+    void ReadForceMomentFromText(std::string_view text);
+    void ReadForceMomentFromText(std::string_view text, ReadReport& report);
+
     /// What `member` is. Its joints are looked up by position; a position outside `nodes` makes it
     /// neither column nor horizontal brace. Cost: one look-up in `brace_ids`.
     BeamType GetBeamType(const SdBeam& member) const;
@@ -180,6 +204,13 @@ private:
     void read_load(const detail::line_list& lines, detail::reading& run);
     LoadDefination get_load_defnination_from_string(const LoadDef_raw& raw);
     std::string ConvertSectionParamByUnit(const std::string& text) const;
+
+    void read_forces_file(const char* path, detail::reading run);
+    void read_forces_text(std::string_view text, detail::reading run);
+    bool start_forces(detail::reading& run);
+    void read_forces(std::string_view text, detail::reading& run);
+    void read_force_section(const detail::force_section& section, detail::member_tally& tally, detail::reading& run);
+    void add_beam_force_moment(const BeamForceAndMOM& forces);
 
     bool IsColumn(const SdBeam& member) const;
     bool IsBrace(const SdBeam& member) const;

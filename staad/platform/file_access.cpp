@@ -7,6 +7,12 @@
 #include <system_error>
 #include <utility>
 
+#ifdef _WIN32
+#    include <io.h>
+#else
+#    include <unistd.h>
+#endif
+
 namespace STAAD::detail {
 namespace {
 
@@ -88,6 +94,15 @@ file_bytes read_updatable_file(const char* path)
     read_to_end(file.get(), result);
     result.outcome = std::ferror(file.get()) != 0 ? file_bytes::state::unreadable : file_bytes::state::read;
     return result;
+}
+
+bool can_read(const char* path) noexcept
+{
+#ifdef _WIN32
+    return path != nullptr && _access(path, 4) == 0;
+#else
+    return path != nullptr && access(path, R_OK) == 0;
+#endif
 }
 
 output_file::output_file(const char* path)

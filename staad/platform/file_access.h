@@ -23,6 +23,9 @@ struct file_bytes {
 /// is missing or write-protected is refused. A null path is missing.
 file_bytes read_updatable_file(const char* path);
 
+/// Whether a file of that name is there and may be read; false for a null path.
+bool can_read(const char* path) noexcept;
+
 /// A text file written from its beginning: what stood in it is gone. Line feeds become the line ends of
 /// the platform. After the first failure it takes everything and writes nothing.
 class output_file {

@@ -2,6 +2,7 @@
 
 #include "staad/reader/near_keyword.h"
 #include "staad/reader/words.h"
+#include "staad/units/unit_factors.h"
 
 #include <algorithm>
 #include <map>
@@ -191,6 +192,36 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
                    (only_blanks ? ": mind the blanks, tabs and words around it" : "");
         });
     }
+}
+
+void tell_file_trouble(file_bytes::state outcome, reading& run)
+{
+    using state = file_bytes::state;
+    constexpr line_place whole_file{0, 0};
+    if (outcome == state::missing)
+        run.findings.fail("file-missing", whole_file, "the file does not exist");
+    else if (outcome == state::not_accessible)
+        run.findings.fail("file-access", whole_file, "the file cannot be opened for reading and writing");
+    else if (outcome == state::unreadable)
+        run.findings.fail("file-unreadable", whole_file, "the file cannot be read to its end");
+}
+
+void tell_unit_words(std::string_view unit_line, line_place place, reading& run)
+{
+    if (!run.findings.listening())
+        return;
+    const unit_factors factors = factors_of_unit_line(unit_line);
+    if (factors.is_short)
+        run.findings.warn("unit-short", place,
+                          [&] { return quote(unit_line) + " has no force word: lengths count as mm, forces as kN"; });
+    const auto tell = [&](const std::string& word, const char* what, const char* counts_as) {
+        if (!word.empty())
+            run.findings.warn("unit-word", place,
+                              [&] { return quote(word) + " is not a known " + what + " unit: " + counts_as; });
+    };
+    tell(factors.unknown_length, "length", "lengths count as mm");
+    tell(factors.unknown_force, "force", "forces count as kN");
+    tell(factors.unknown_moment, "moment", "printed moments count as kN*mm");
 }
 
 void tell_skipped(const line_list& lines, reading& run)

@@ -2,6 +2,7 @@
 #ifndef STAAD_READER_FINDINGS_H
 #define STAAD_READER_FINDINGS_H
 
+#include "staad/platform/file_access.h"
 #include "staad/reader/id_list.h"
 #include "staad/reader/lines.h"
 #include "staad/reader/reading.h"
@@ -39,6 +40,12 @@ void tell_block_open(const line_list& lines, std::size_t begin, std::string_view
 /// Lines that are nearly keywords. `missing` names the keyword for want of which no model was read;
 /// empty if one was.
 void tell_near_keywords(const line_list& lines, std::string_view missing, reading& run);
+
+/// A file that gives no text: why.
+void tell_file_trouble(file_bytes::state outcome, reading& run);
+
+/// One finding per word of a UNIT line that the tables do not know; one if it is short of words.
+void tell_unit_words(std::string_view unit_line, line_place place, reading& run);
 
 /// What no block has understood, by command words. Comments do not count.
 void tell_skipped(const line_list& lines, reading& run);

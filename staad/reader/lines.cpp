@@ -27,11 +27,6 @@ std::string_view without_carriage_return(std::string_view line) noexcept
     return line;
 }
 
-bool is_blank(std::string_view line) noexcept
-{
-    return line.find_first_not_of(" \t") == std::string_view::npos;
-}
-
 bool is_continued(std::string_view line) noexcept
 {
     return line.back() == '-' && !is_comment(line);
@@ -46,17 +41,27 @@ void count_up(std::uint32_t& number) noexcept
 
 } // namespace
 
+line_cursor::line_cursor(std::string_view text) noexcept : rest_(without_marks(text)) {}
+
+bool line_cursor::next(text_line& line) noexcept
+{
+    if (rest_.empty())
+        return false;
+    count_up(number_);
+    const std::size_t end = std::min(rest_.find('\n'), rest_.size());
+    line = {without_carriage_return(rest_.substr(0, end)), {number_, number_}};
+    rest_.remove_prefix(std::min(end + 1, rest_.size()));
+    return true;
+}
+
 line_list::line_list(std::unique_ptr<char[]> buffer, std::size_t size, std::string_view skip_prefix)
     : buffer_(std::move(buffer))
 {
-    std::string_view rest = without_marks({buffer_.get(), size});
-    lines_.reserve(static_cast<std::size_t>(std::count(rest.begin(), rest.end(), '\n')) + 1);
-    for (std::uint32_t number = 1; !rest.empty(); count_up(number)) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size());
-        const std::string_view line = without_carriage_return(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-        if (skip_prefix.empty() || !starts_with(line, skip_prefix))
-            lines_.push_back({line, {number, number}});
+    line_cursor cursor({buffer_.get(), size});
+    lines_.reserve(static_cast<std::size_t>(std::count(cursor.rest().begin(), cursor.rest().end(), '\n')) + 1);
+    for (text_line line; cursor.next(line);) {
+        if (skip_prefix.empty() || !starts_with(line.text, skip_prefix))
+            lines_.push_back(line);
     }
 }
 
@@ -84,7 +89,7 @@ void line_list::join_continued() noexcept
     std::size_t kept = 0;
     bool continues = false;
     for (const text_line& line : lines_) {
-        if (is_blank(line.text))
+        if (trim_blanks(line.text).empty())
             continue;
         if (continues) {
             text_line& open = lines_[kept - 1];

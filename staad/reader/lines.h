@@ -22,14 +22,30 @@ struct text_line {
     line_place place;
 };
 
+/// Walks the physical lines of a text in place. Drops a byte order mark at the start, a run of 0x1A at
+/// the end, one CR before each LF and one at the end of an unterminated last line; keeps everything
+/// else. A copy goes on from where the original stood.
+class line_cursor {
+public:
+    explicit line_cursor(std::string_view text) noexcept;
+
+    /// Takes the next line; false at the end.
+    bool next(text_line& line) noexcept;
+
+    /// What has not been walked yet.
+    std::string_view rest() const noexcept { return rest_; }
+
+private:
+    std::string_view rest_;
+    std::uint32_t number_ = 0; // of the line taken last
+};
+
 /// The lines of one text, which it owns. Moves keep every view valid; there are no copies.
 class line_list {
 public:
     line_list() = default;
-    /// Cuts `size` characters of `buffer` into lines. Drops a byte order mark at the start, a run of
-    /// 0x1A at the end, one CR before each LF and one at the end of an unterminated last line, and
-    /// every line that begins with `skip_prefix` unless that is empty. Keeps everything else, empty
-    /// lines included.
+    /// Cuts `size` characters of `buffer` into lines as line_cursor does. Drops every line that begins
+    /// with `skip_prefix` unless that is empty; keeps empty lines.
     line_list(std::unique_ptr<char[]> buffer, std::size_t size, std::string_view skip_prefix);
 
     /// Copies the text.

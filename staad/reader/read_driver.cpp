@@ -6,7 +6,6 @@
 #include "staad/reader/read_geometry.h"
 #include "staad/reader/read_materials.h"
 #include "staad/reader/read_properties.h"
-#include "staad/units/unit_factors.h"
 
 #include <algorithm>
 #include <utility>
@@ -22,17 +21,6 @@ constexpr const char* generated_comment = "*{";
 
 constexpr detail::line_place whole_text{0, 0};
 
-void tell_file_trouble(detail::file_bytes::state outcome, reading& run)
-{
-    using state = detail::file_bytes::state;
-    if (outcome == state::missing)
-        run.findings.fail("file-missing", whole_text, "the file does not exist");
-    else if (outcome == state::not_accessible)
-        run.findings.fail("file-access", whole_text, "the file cannot be opened for reading and writing");
-    else if (outcome == state::unreadable)
-        run.findings.fail("file-unreadable", whole_text, "the file cannot be read to its end");
-}
-
 /// The unit words of a UNIT line, lower-cased and without hyphens: the three behind UNIT, as far as they
 /// are there.
 std::vector<std::string> unit_words(std::string_view line)
@@ -42,24 +30,6 @@ std::vector<std::string> unit_words(std::string_view line)
     std::string three = detail::to_lower_ascii(detail::join_words(words, 3));
     three.erase(std::remove(three.begin(), three.end(), '-'), three.end());
     return SplitString(three, " ");
-}
-
-/// One finding per word of the governing UNIT line that the tables do not know.
-void tell_unit_words(const detail::text_line& line, reading& run)
-{
-    const detail::unit_factors factors = detail::factors_of_unit_line(line.text);
-    if (factors.is_short)
-        run.findings.warn("unit-short", line.place, [&] {
-            return detail::quote(line.text) + " has no force word: lengths count as mm, forces as kN";
-        });
-    const auto tell = [&](const std::string& word, const char* what, const char* counts_as) {
-        if (!word.empty())
-            run.findings.warn("unit-word", line.place,
-                              [&] { return detail::quote(word) + " is not a known " + what + " unit: " + counts_as; });
-    };
-    tell(factors.unknown_length, "length", "lengths count as mm");
-    tell(factors.unknown_force, "force", "forces count as kN");
-    tell(factors.unknown_moment, "moment", "printed moments count as kN*mm");
 }
 
 /// Later UNIT lines change nothing; one with words that the first does not have means trouble.
@@ -86,7 +56,7 @@ void tell_units(const line_list& lines, std::size_t governing, reading& run)
     run.used.mark(governing);
     if (!run.findings.listening())
         return;
-    tell_unit_words(lines[governing], run);
+    detail::tell_unit_words(lines[governing].text, lines[governing].place, run);
     tell_later_units(lines, governing, run);
 }
 
@@ -106,7 +76,7 @@ line_list SdReader::get_all_lines_from_file(const char* path, const std::string&
     detail::file_bytes file = detail::read_updatable_file(path);
     if (file.outcome == detail::file_bytes::state::read)
         return {std::move(file.bytes), file.size, skip_prefix};
-    tell_file_trouble(file.outcome, run);
+    detail::tell_file_trouble(file.outcome, run);
     return {};
 }
 

@@ -1,0 +1,55 @@
+/// Where a listing has its sections of beam forces, and the lines of one. Knows no model.
+#ifndef STAAD_FORCES_FORCE_SECTIONS_H
+#define STAAD_FORCES_FORCE_SECTIONS_H
+
+#include "staad/reader/lines.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace STAAD::detail {
+
+/// A section's title line, and the walk that goes on behind it.
+struct force_section {
+    line_place title;
+    line_cursor behind;
+};
+
+/// The sections of a listing in file order: those under the title of element forces if it has one, else
+/// those under the title of member forces.
+std::vector<force_section> find_force_sections(std::string_view listing);
+
+/// Walks one section: heading, units, data.
+class section_lines {
+public:
+    explicit section_lines(const force_section& section) : cursor_(section.behind) { read_heading(); }
+
+    /// False for a section that ends before its unit line.
+    bool has_units() const noexcept { return state_ == state::data; }
+    const text_line& unit_line() const noexcept { return unit_line_; }
+
+    /// Takes the next data line; false at the section's end.
+    bool next(text_line& line) noexcept;
+
+    /// After the end: nothing stands behind the section, not even the empty line that closes one.
+    bool ended_with_the_text() const noexcept { return at_end_of_text_; }
+
+private:
+    enum class state { heading, units, data, outside };
+
+    void read_heading() noexcept;
+
+    line_cursor cursor_;
+    state state_ = state::heading;
+    text_line unit_line_;
+    bool at_end_of_text_ = false;
+};
+
+/// "UNIT length force moment" of a section's unit line: its first, second and last word without the
+/// brackets around them.
+std::string force_unit_text(std::string_view unit_line);
+
+} // namespace STAAD::detail
+
+#endif
