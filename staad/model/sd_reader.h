@@ -128,8 +128,8 @@ public:
     /// The same, and tells how it went: true if every byte was written; else `error` is the first
     /// failure of the system. A null path is std::errc::invalid_argument.
     bool WriteDataToFile(const char* path, std::error_code& error);
-    /// The same text in memory, lines ended by a line feed on every platform. Cost: as above, and up to
-    /// three times the text while it grows.
+    /// The same text in memory, lines ended by a line feed on every platform. Cost: as above, and room
+    /// for the text once more.
     std::string WriteDataToText();
 
     /// Adds the members that "MEMBER TRUSS", "MEMBER COMPRESSION" and "MEMBER TENSION" lines declare

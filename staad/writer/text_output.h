@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
+#include <vector>
 
 namespace STAAD::detail {
 
@@ -29,8 +29,8 @@ public:
     void put(const Parts&... parts)
     {
         (add(parts), ...);
-        if (file_ != nullptr && text_.size() >= block_size)
-            hand_over();
+        if (text_.size() >= block_size)
+            end_block();
     }
 
     /// The parts as one line.
@@ -41,10 +41,10 @@ public:
     }
 
     /// The text kept.
-    std::string take() { return std::exchange(text_, {}); }
+    std::string take();
 
 private:
-    static constexpr std::size_t block_size = std::size_t{1} << 16U;
+    static constexpr std::size_t block_size = std::size_t{1} << 20U;
 
     void add(std::string_view part) { text_ += part; }
     void add(char part) { text_ += part; }
@@ -54,15 +54,11 @@ private:
         append(text_, part);
     }
 
-    void hand_over() noexcept
-    {
-        if (file_ == nullptr)
-            return;
-        file_->write(text_);
-        text_.clear();
-    }
+    void end_block();
+    void hand_over() noexcept;
 
     output_file* file_ = nullptr;
+    std::vector<std::string> blocks_; // kept so far: one string of them all would be moved as it grows
     std::string text_;
 };
 
