@@ -3,6 +3,7 @@
 /// Every figure that a bar speaks of is processor time of one thread, user and system, the best of
 /// five warm rounds in which reading, number pass and copy take turns; so a busy neighbour on the
 /// machine is not counted. Memory is measured in a process of its own, which also does the cold run.
+#include "bars.h"
 #include "frame_deck.h"
 #include "measure.h"
 
@@ -18,7 +19,6 @@
 #include <string>
 
 #include <fcntl.h>
-#include <malloc.h> // mallopt, malloc_trim: what the allocator does with memory that is given back
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -28,23 +28,6 @@ using namespace STAAD::bench;
 using STAAD::SdReader;
 
 constexpr int rounds = 5;
-
-struct stopwatch {
-    double processor = processor_seconds();
-    double wall = wall_seconds();
-};
-
-/// Best of several takes; processor time and wall time each for itself.
-struct best_time {
-    double processor = std::numeric_limits<double>::infinity();
-    double wall = std::numeric_limits<double>::infinity();
-
-    void take(const stopwatch& since)
-    {
-        processor = std::min(processor, processor_seconds() - since.processor);
-        wall = std::min(wall, wall_seconds() - since.wall);
-    }
-};
 
 [[noreturn]] void give_up(const std::string& what)
 {
@@ -87,22 +70,6 @@ deck_times time_deck(const std::string& deck)
     return times;
 }
 
-/// Where a reading finds its memory. Left alone, the allocator keeps what a small model gave back and
-/// returns what a large one did, so that only large models pay the system for fresh pages; growth is
-/// measured with both sizes in the same state.
-enum class memory_state {
-    kept, ///< the pages of earlier readings are still there
-    fresh ///< every page comes from the system
-};
-
-void set_memory_state(memory_state state)
-{
-    const bool keep = state == memory_state::kept;
-    mallopt(M_MMAP_THRESHOLD, keep ? 1 << 30 : 128 << 10);
-    mallopt(M_TRIM_THRESHOLD, keep ? std::numeric_limits<int>::max() : 128 << 10);
-    malloc_trim(0);
-}
-
 /// Processor time per member of a warm reading: best of five rounds of at least 0.2 s each.
 double seconds_per_member(const frame_options& options, memory_state state)
 {
@@ -114,7 +81,7 @@ double seconds_per_member(const frame_options& options, memory_state state)
         int readings = 0;
         do {
             if (state == memory_state::fresh)
-                malloc_trim(0);
+                give_back_free_memory();
             SdReader model;
             const stopwatch read;
             model.ReadSDDataFromText(deck);
@@ -203,25 +170,6 @@ memory_figures memory_of(const std::string& deck)
     if (!complete || status != 0)
         give_up("the memory measurement failed");
     return figures;
-}
-
-/// Prints a figure beside its bars; true if the hard bar is kept.
-bool judge(const char* what, double value, double hard, double aim)
-{
-    const char* verdict = value <= aim ? "aim met" : value <= hard ? "bar kept, aim missed" : "BAR MISSED";
-    std::printf("  %-34s %8.2f   bar %5.2f   aim %5.2f   %s\n", what, value, hard, aim, verdict);
-    return value <= hard;
-}
-
-void print_time(const char* what, const best_time& time, std::size_t bytes)
-{
-    std::printf("  %-34s %8.3f s processor, %8.3f s wall, %8.1f MB/s\n", what, time.processor, time.wall,
-                1e-6 * static_cast<double>(bytes) / time.processor);
-}
-
-double megabytes(std::size_t bytes)
-{
-    return 1e-6 * static_cast<double>(bytes);
 }
 
 bool judge_memory(const memory_figures& memory, std::size_t file)

@@ -3,9 +3,10 @@
 #include <charconv>
 #include <chrono>
 #include <fstream>
+#include <limits>
 #include <string>
 
-#include <malloc.h> // mallinfo2: the allocator's own account of live memory
+#include <malloc.h> // mallinfo2: the allocator's own account of live memory; mallopt, malloc_trim
 #include <time.h>   // clock_gettime: processor time of the process, which std::clock rounds
 
 namespace STAAD::bench {
@@ -84,6 +85,26 @@ std::size_t resident_bytes()
 std::size_t peak_resident_bytes()
 {
     return status_bytes("VmHWM:");
+}
+
+bool restart_peak_resident_bytes()
+{
+    std::ofstream file("/proc/self/clear_refs");
+    file << '5';
+    return static_cast<bool>(file.flush());
+}
+
+void set_memory_state(memory_state state)
+{
+    const bool keep = state == memory_state::kept;
+    mallopt(M_MMAP_THRESHOLD, keep ? 1 << 30 : 128 << 10);
+    mallopt(M_TRIM_THRESHOLD, keep ? std::numeric_limits<int>::max() : 128 << 10);
+    malloc_trim(0);
+}
+
+void give_back_free_memory()
+{
+    malloc_trim(0);
 }
 
 } // namespace STAAD::bench

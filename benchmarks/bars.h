@@ -1,0 +1,34 @@
+/// Times taken side by side, and their verdicts.
+#ifndef STAADKIT_BENCHMARKS_BARS_H
+#define STAADKIT_BENCHMARKS_BARS_H
+
+#include "measure.h"
+
+#include <cstddef>
+#include <limits>
+
+namespace STAAD::bench {
+
+struct stopwatch {
+    double processor = processor_seconds();
+    double wall = wall_seconds();
+};
+
+/// Best of several takes; processor time and wall time each for itself.
+struct best_time {
+    double processor = std::numeric_limits<double>::infinity();
+    double wall = std::numeric_limits<double>::infinity();
+
+    void take(const stopwatch& since);
+};
+
+/// Prints a figure beside its bars; true if the hard bar is kept.
+bool judge(const char* what, double value, double hard, double aim);
+/// Prints times, and how many bytes a second they come to.
+void print_time(const char* what, const best_time& time, std::size_t bytes);
+
+double megabytes(std::size_t bytes);
+
+} // namespace STAAD::bench
+
+#endif

@@ -1,0 +1,189 @@
+/// Two models in two threads at the same time give what they give one after the other. Under
+/// ThreadSanitizer these tests also fail on anything that the two threads share without a lock.
+
+#include "tests/support/model_equal.h"
+#include "tests/support/random_deck.h"
+#include "tests/support/temporary_file.h"
+#include "tests/threads/full_row.h"
+
+#include "staad/reader/read_report.h"
+
+#include <gtest/gtest.h>
+
+#include <barrier>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+constexpr int rounds = 10;
+
+/// Runs both, the second in a thread of its own; neither begins before both threads are there.
+template<class First, class Second>
+void at_once(First first, Second second)
+{
+    std::barrier<> start(2);
+    const std::jthread other([&] {
+        start.arrive_and_wait();
+        second();
+    });
+    start.arrive_and_wait();
+    first();
+}
+
+/// Writing renumbers the model, so that a copy is written.
+std::string written_text(SdReader model)
+{
+    return model.WriteDataToText();
+}
+
+std::string written_file(SdReader model)
+{
+    const temporary_file file("");
+    std::error_code error;
+    return model.WriteDataToFile(file.path(), error) ? file.content() : error.message();
+}
+
+/// Two models whose texts differ in load numbers, running load number and lists.
+struct two_rows {
+    SdReader small = make_full_row(150, 3);
+    SdReader large = make_full_row(400, 21);
+};
+
+TEST(TwoModels, RowsHaveEveryBlock)
+{
+    const two_rows rows;
+    const std::string small = written_text(rows.small);
+    const std::string large = written_text(rows.large);
+    for (const std::string& text : {small, large}) {
+        for (const char* line : {"TABLE 2", "START GROUP DEFINITION", "ELEMENT PROPERTY", "MEMBER TRUSS ",
+                                 "MEMBER PROPERTY SJIJOIST", "CONSTANTS", "SUPPORTS", "MEMBER RELEASE", "MEMBER LOAD",
+                                 "DEFINE WIND LOAD", "SPECTRUM CQC X", "SPECTRUM CQC Y", "SPECTRUM CQC Z"})
+            EXPECT_NE(text.find('\n' + std::string(line) + '\n'), std::string::npos) << line;
+    }
+    // The generated cases take the numbers 4 and 5 past the last one: 6 and 24.
+    EXPECT_NE(small.find("\nLOAD 10 WL AUTO WIND LOAD\n"), std::string::npos);
+    EXPECT_NE(small.find("\nLOAD 11 EX AUTO RESPONSE SPECTRUM\n"), std::string::npos);
+    EXPECT_NE(large.find("\nLOAD 28 WL AUTO WIND LOAD\n"), std::string::npos);
+    EXPECT_NE(large.find("\nLOAD 29 EX AUTO RESPONSE SPECTRUM\n"), std::string::npos);
+    EXPECT_NE(small.find("\n*{ 0.2500 * LOAD 3\n"), std::string::npos);
+    EXPECT_NE(large.find("\n*{ 0.2500 * LOAD 21\n"), std::string::npos);
+}
+
+TEST(TwoModels, WriteTheSameTextsAtOnceAsOneAfterTheOther)
+{
+    const two_rows rows;
+    const std::string small = written_text(rows.small);
+    const std::string large = written_text(rows.large);
+    for (int round = 0; round < rounds; ++round) {
+        std::string small_at_once;
+        std::string large_at_once;
+        at_once([&] { small_at_once = written_text(rows.small); }, [&] { large_at_once = written_text(rows.large); });
+        EXPECT_EQ(small_at_once, small);
+        EXPECT_EQ(large_at_once, large);
+    }
+}
+
+TEST(TwoModels, WriteTheSameFilesAtOnceAsOneAfterTheOther)
+{
+    const two_rows rows;
+    const std::string small = written_file(rows.small);
+    const std::string large = written_file(rows.large);
+    for (int round = 0; round < rounds; ++round) {
+        std::string small_at_once;
+        std::string large_at_once;
+        at_once([&] { small_at_once = written_file(rows.small); }, [&] { large_at_once = written_file(rows.large); });
+        EXPECT_EQ(small_at_once, small);
+        EXPECT_EQ(large_at_once, large);
+    }
+}
+
+/// A reading with everything that it gives.
+struct reading_result {
+    SdReader model;
+    ReadReport report;
+    bool read = false;
+};
+
+reading_result read_text(const std::string& text)
+{
+    reading_result result;
+    result.read = result.model.ReadSDDataFromText(text, result.report);
+    return result;
+}
+
+reading_result read_file(const std::string& text)
+{
+    const temporary_file file(text);
+    reading_result result;
+    result.read = result.model.ReadSDDataFromStdFile(file.path(), result.report);
+    return result;
+}
+
+std::vector<std::string> finding_lines(const ReadReport& report)
+{
+    std::vector<std::string> lines;
+    for (const Finding& finding : report.findings)
+        lines.push_back(std::to_string(finding.first_line) + ' ' + std::to_string(finding.last_line) + ' ' +
+                        finding.code + ' ' + finding.text + ' ' + std::to_string(finding.count));
+    return lines;
+}
+
+/// The model that the deck was made from, and the findings of a reading without company.
+void expect_reading(const reading_result& result, const decks::random_deck& deck, std::uint64_t seed)
+{
+    EXPECT_TRUE(result.read) << "seed " << seed;
+    EXPECT_EQ(model_differences(result.model, deck.model), std::vector<std::string>{}) << "seed " << seed;
+    EXPECT_EQ(finding_lines(result.report), finding_lines(read_text(deck.text).report)) << "seed " << seed;
+}
+
+constexpr std::uint64_t decks_of_a_test = 20; // with every block in one or another of them
+constexpr int members_of_a_deck = 120;
+
+TEST(TwoModels, AreReadAtOnceAsOneAfterTheOther)
+{
+    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
+        const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
+        const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
+        reading_result first_read;
+        reading_result second_read;
+        at_once([&] { first_read = read_text(first.text); }, [&] { second_read = read_text(second.text); });
+        expect_reading(first_read, first, seed);
+        expect_reading(second_read, second, seed + 100);
+    }
+}
+
+TEST(TwoModels, AreReadFromFilesAtOnceAsOneAfterTheOther)
+{
+    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
+        const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
+        const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
+        reading_result first_read;
+        reading_result second_read;
+        at_once([&] { first_read = read_file(first.text); }, [&] { second_read = read_file(second.text); });
+        expect_reading(first_read, first, seed);
+        expect_reading(second_read, second, seed + 100);
+    }
+}
+
+TEST(TwoModels, OneIsReadWhileTheOtherIsWritten)
+{
+    const SdReader row = make_full_row(400, 21);
+    const std::string text = written_text(row);
+    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
+        const decks::random_deck deck = decks::make_random_deck(seed, members_of_a_deck);
+        std::string written;
+        reading_result result;
+        at_once([&] { written = written_text(row); }, [&] { result = read_text(deck.text); });
+        EXPECT_EQ(written, text);
+        expect_reading(result, deck, seed);
+    }
+}
+
+} // namespace
+} // namespace STAAD
