@@ -1,0 +1,159 @@
+#include "tests/support/written_text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+#include <utility>
+
+namespace STAAD::written {
+namespace {
+
+/// Where the line `wanted` begins, searched from the line beginning at `from`; npos: nowhere.
+std::size_t line_position(const std::string& text, std::string_view wanted, std::size_t from)
+{
+    while (from < text.size()) {
+        const std::size_t end = std::min(text.find('\n', from), text.size());
+        if (std::string_view(text).substr(from, end - from) == wanted)
+            return from;
+        from = end + 1;
+    }
+    return std::string::npos;
+}
+
+std::string no_line(const std::string& line)
+{
+    ADD_FAILURE() << "no line \"" << line << '"';
+    return "no line \"" + line + '"';
+}
+
+/// The first line that ends so.
+std::string line_ending_in(const std::string& text, std::string_view end)
+{
+    for (std::string& line : lines_of(text)) {
+        if (line.size() >= end.size() && std::string_view(line).substr(line.size() - end.size()) == end)
+            return std::move(line);
+    }
+    return std::string(end);
+}
+
+std::string seismic_header(const std::string& text)
+{
+    return line_ending_in(text, " EX AUTO RESPONSE SPECTRUM");
+}
+
+} // namespace
+
+std::string between(const std::string& text, const std::string& first, const std::string& last)
+{
+    const std::size_t at = line_position(text, first, 0);
+    if (at == std::string::npos)
+        return no_line(first);
+    const std::size_t begin = std::min(at + first.size() + 1, text.size());
+    const std::size_t end = line_position(text, last, begin);
+    if (end == std::string::npos)
+        return no_line(last);
+    return text.substr(begin, end - begin);
+}
+
+std::string between(SdReader model, const std::string& first, const std::string& last)
+{
+    return between(model.WriteDataToText(), first, last);
+}
+
+std::string joints(const SdReader& model)
+{
+    return between(model, "JOINT COORDINATES", "MEMBER INCIDENCES");
+}
+
+std::string members(const SdReader& model)
+{
+    return between(model, "MEMBER INCIDENCES", "ELEMENT INCIDENCES SHELL");
+}
+
+std::string shells_tables_groups(const SdReader& model)
+{
+    return between(model, "ELEMENT INCIDENCES SHELL", "DEFINE MATERIAL START");
+}
+
+std::string truss_and_properties(const SdReader& model)
+{
+    return between(model, "END DEFINE MATERIAL", "CONSTANTS");
+}
+
+std::string constants_to_loads(const SdReader& model)
+{
+    return between(model, "CONSTANTS", "DEFINE WIND LOAD");
+}
+
+std::string supports_to_loads(const SdReader& model)
+{
+    return between(model, std::string("MATERIAL ") + one_material + " ALL", "DEFINE WIND LOAD");
+}
+
+std::string wind(const SdReader& model)
+{
+    SdReader copy = model;
+    const std::string text = copy.WriteDataToText();
+    return "DEFINE WIND LOAD\n" + between(text, "DEFINE WIND LOAD", seismic_header(text));
+}
+
+std::string seismic(const SdReader& model)
+{
+    SdReader copy = model;
+    const std::string text = copy.WriteDataToText();
+    const std::string header = seismic_header(text);
+    return header + "\n" + between(text, header, "FINISH");
+}
+
+std::vector<std::string> lines_of(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::size_t from = 0;
+    while (from < text.size()) {
+        const std::size_t end = std::min(text.find('\n', from), text.size());
+        lines.push_back(text.substr(from, end - from));
+        from = end + 1;
+    }
+    return lines;
+}
+
+SdReader row_of_members(int members)
+{
+    SdReader model;
+    for (int number = 1; number <= members + 1; ++number) {
+        SdNode joint;
+        joint.id = number;
+        joint.y = 1000.0 * (number - 1);
+        model.nodes.push_back(joint);
+    }
+    for (int number = 1; number <= members; ++number) {
+        SdBeam member;
+        member.id = number;
+        member.node_start = number;
+        member.node_end = number + 1;
+        member.material = one_material;
+        model.beams.push_back(member);
+    }
+    return model;
+}
+
+SdShell shell(int thickness)
+{
+    SdShell element;
+    element.node_ids = {1, 2, 3};
+    element.thickness = thickness;
+    element.material = one_material;
+    return element;
+}
+
+std::vector<int> every_second(int first, int count)
+{
+    std::vector<int> numbers;
+    for (int i = 0; i < count; ++i)
+        numbers.push_back(first + 2 * i);
+    return numbers;
+}
+
+} // namespace STAAD::written

@@ -1,0 +1,232 @@
+/// The generated response-spectrum case: its parameters and its spectra.
+
+#include "staad/model/sd_reader.h"
+#include "tests/support/chinese_texts.h"
+#include "tests/support/written_loads.h"
+#include "tests/support/written_text.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <climits>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+using lines = std::vector<std::string>;
+
+std::string joined(const lines& parts)
+{
+    std::string text;
+    for (const std::string& part : parts)
+        text.append(part).push_back('\n');
+    return text;
+}
+
+SdReader with(const SeismicParam& parameters)
+{
+    SdReader model;
+    model.eq_param = parameters;
+    return model;
+}
+
+SeismicParam filled_parameters()
+{
+    SeismicParam filled;
+    filled.dir_active = {true, false, true};
+    filled.dir_factor = {1, 7, -2};
+    filled.y_freedom = true;
+    filled.eq_type = chinese::frequent.gbk;
+    filled.post_method = true;
+    filled.force_type = true;
+    filled.eq_intensity = 8;
+    filled.eq_group = chinese::second_group.gbk;
+    filled.special_accelerate = true;
+    filled.point_number = 30;
+    filled.damping_factor = 0.05;
+    filled.proportion_factor = 9.8;
+    filled.loadno_count = 2;
+    filled.loadno = {1, 2};
+    filled.loadno_factor = {1, 0.5};
+    return filled;
+}
+
+TEST(WriteSeismic, HasEveryParameterUnderItsComment)
+{
+    const lines want = {
+        "LOAD 5 EX AUTO RESPONSE SPECTRUM",
+        "*{ THE FIRST AUTO BUILD RESSPEC LOAD",
+        chinese::direction_factor,
+        "*{ DIRECTION FACTOR : 1 1 0 1.00 1 -2",
+        chinese::y_freedom,
+        "*{ Y FREEDOM : 1",
+        chinese::code_type,
+        "*{ CODE TYPE : 1",
+        chinese::eq_type,
+        "*{ EQ TYPE : 3",
+        chinese::post_method,
+        "*{ POST METHOD : 1",
+        chinese::force_type,
+        "*{ FORCE TYPE : 1",
+        chinese::eq_intensity,
+        "*{ EQ INTENSITY : 8",
+        chinese::eq_group,
+        "*{ EQ GROUP : 2",
+        chinese::special_accelerate,
+        "*{ SPECIAL ACCELERATE : 1",
+        chinese::point_number,
+        "*{ POINT NUMBER : 30",
+        chinese::damping_factor,
+        "*{ DAMPING FACTOR : 0.05",
+        chinese::proportion_factor,
+        "*{ PROPORTION FACTOR : 9.8",
+        chinese::loadno_factor,
+        "*{ LOADNO FACTOR : 1 1.0000 2 0.5000 ",
+        "", // no X spectrum
+        "", // no Z spectrum
+    };
+    EXPECT_EQ(written::seismic(with(filled_parameters())), joined(want));
+}
+
+TEST(WriteSeismic, IsWellFormedWithoutParameters)
+{
+    const lines want = {
+        "LOAD 5 EX AUTO RESPONSE SPECTRUM",
+        "*{ THE FIRST AUTO BUILD RESSPEC LOAD",
+        chinese::direction_factor,
+        "*{ DIRECTION FACTOR : 0 1.00 0 1.00 0 1.00",
+        chinese::y_freedom,
+        "*{ Y FREEDOM : 0",
+        chinese::code_type,
+        "*{ CODE TYPE : 1",
+        chinese::eq_type, // of no known type: no line follows
+        chinese::post_method,
+        "*{ POST METHOD : 2",
+        chinese::force_type,
+        "*{ FORCE TYPE : 2",
+        chinese::eq_intensity,
+        "*{ EQ INTENSITY : 0",
+        chinese::eq_group, // of no known group
+        chinese::special_accelerate,
+        "*{ SPECIAL ACCELERATE : 0",
+        chinese::point_number,
+        "*{ POINT NUMBER : 0",
+        chinese::damping_factor,
+        "*{ DAMPING FACTOR : 0",
+        chinese::proportion_factor,
+        "*{ PROPORTION FACTOR : 0",
+        chinese::loadno_factor,
+        "*{ LOADNO FACTOR : ",
+        "",
+        "",
+    };
+    EXPECT_EQ(written::seismic(SdReader()), joined(want));
+}
+
+/// What stands between two lines of the case.
+std::string between(const SeismicParam& parameters, const std::string& first, const std::string& last)
+{
+    return written::between(written::seismic(with(parameters)), first, last);
+}
+
+TEST(WriteSeismic, KnowsTheEarthquakeTypeInBothEncodings)
+{
+    using chinese::encoded;
+    const std::vector<std::pair<encoded, std::string>> types = {
+        {chinese::far, "*{ EQ TYPE : 1\n"},
+        {chinese::near, "*{ EQ TYPE : 2\n"},
+        {chinese::frequent, "*{ EQ TYPE : 3\n"},
+        {chinese::rare, "*{ EQ TYPE : 4\n"},
+        {{"", "FAR"}, ""},
+        {{" \xD4\xB6", "\xD4\xB6 "}, ""},           // a blank beside the word
+        {{"\xB6\xE0", "\xB6\xE0\xD3\xF6\xD3"}, ""}, // half a word, and more than one
+        {chinese::first_group, ""},
+    };
+    for (const auto& [text, want] : types) {
+        for (const char* const bytes : {text.gbk, text.utf8}) {
+            SeismicParam parameters;
+            parameters.eq_type = bytes;
+            EXPECT_EQ(between(parameters, chinese::eq_type, chinese::post_method), want) << bytes;
+        }
+    }
+}
+
+TEST(WriteSeismic, KnowsTheDesignGroupInBothEncodings)
+{
+    using chinese::encoded;
+    const std::vector<std::pair<encoded, std::string>> groups = {
+        {chinese::first_group, "*{ EQ GROUP : 1\n"},
+        {chinese::second_group, "*{ EQ GROUP : 2\n"},
+        {chinese::third_group, "*{ EQ GROUP : 3\n"},
+        {{"", "1"}, ""},
+        {chinese::far, ""},
+    };
+    for (const auto& [text, want] : groups) {
+        for (const char* const bytes : {text.gbk, text.utf8}) {
+            SeismicParam parameters;
+            parameters.eq_group = bytes;
+            EXPECT_EQ(between(parameters, chinese::eq_group, chinese::special_accelerate), want) << bytes;
+        }
+    }
+}
+
+TEST(WriteSeismic, HasAFactorOrTheNeutralOneForEachDirection)
+{
+    struct row {
+        std::array<bool, 3> active;
+        std::array<int, 3> factor;
+        const char* want;
+    };
+    const row rows[] = {
+        {{false, true, false}, {9, 1, 9}, "*{ DIRECTION FACTOR : 0 1.00 1 1 0 1.00\n"},
+        {{true, true, true}, {1, 2, 3}, "*{ DIRECTION FACTOR : 1 1 1 2 1 3\n"},
+        {{true, false, false}, {INT_MIN, 1, 1}, "*{ DIRECTION FACTOR : 1 -2147483648 0 1.00 0 1.00\n"},
+        {{false, false, true}, {1, 1, INT_MAX}, "*{ DIRECTION FACTOR : 0 1.00 0 1.00 1 2147483647\n"},
+    };
+    for (const row& c : rows) {
+        SeismicParam parameters;
+        parameters.dir_active = c.active;
+        parameters.dir_factor = c.factor;
+        EXPECT_EQ(between(parameters, chinese::direction_factor, chinese::y_freedom), c.want);
+    }
+}
+
+TEST(WriteSeismic, WritesNumbersOfAnySize)
+{
+    SeismicParam large;
+    large.eq_intensity = INT_MIN;
+    large.point_number = -1;
+    large.damping_factor = 1.23456789e-5;
+    large.proportion_factor = 1e300;
+    EXPECT_EQ(between(large, chinese::eq_intensity, chinese::eq_group), "*{ EQ INTENSITY : -2147483648\n");
+    EXPECT_EQ(between(large, chinese::point_number, chinese::damping_factor), "*{ POINT NUMBER : -1\n");
+    EXPECT_EQ(between(large, chinese::damping_factor, chinese::proportion_factor), "*{ DAMPING FACTOR : 1.23457e-05\n");
+    EXPECT_EQ(between(large, chinese::proportion_factor, chinese::loadno_factor), "*{ PROPORTION FACTOR : 1e+300\n");
+}
+
+TEST(WriteSeismic, NumbersItsCaseBehindTheWindCases)
+{
+    struct row {
+        int highest;
+        const char* wind;
+        const char* seismic;
+    };
+    const row rows[] = {
+        {3, "LOAD 7 WL AUTO WIND LOAD", "LOAD 8 EX AUTO RESPONSE SPECTRUM"},
+        {INT_MAX - 4, "LOAD 2147483647 WL AUTO WIND LOAD", "LOAD -2147483648 EX AUTO RESPONSE SPECTRUM"},
+        {INT_MAX, "LOAD -2147483645 WL AUTO WIND LOAD", "LOAD -2147483644 EX AUTO RESPONSE SPECTRUM"},
+    };
+    for (const row& c : rows) {
+        SdReader model = written::row_of_members(1);
+        written::add_case(model, c.highest);
+        written::add_load(model, {"SELFWEIGHT", "Z", {-1}, c.highest}, {1});
+        EXPECT_NE(written::wind(model).find(std::string("\n") + c.wind + '\n'), std::string::npos) << c.wind;
+        EXPECT_EQ(written::lines_of(written::seismic(model)).front(), c.seismic);
+    }
+}
+
+} // namespace
+} // namespace STAAD
