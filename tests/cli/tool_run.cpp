@@ -1,5 +1,6 @@
 #include "tool_run.h"
 
+#include <algorithm>
 #include <fcntl.h>
 #include <fstream>
 #include <spawn.h>
@@ -12,13 +13,6 @@ extern char** environ;
 
 namespace cli_test {
 namespace {
-
-std::string read_file(const std::string& path)
-{
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
 
 /// The three streams of the process to be, each a file.
 class redirections {
@@ -112,9 +106,31 @@ tool_result tool_run::from(const std::string& in_path, const std::vector<std::st
 
 tool_result tool_run::within(std::size_t megabytes, const std::vector<std::string>& arguments) const
 {
-    const std::string limited = "ulimit -v " + std::to_string(megabytes * 1024) + " && exec \"$0\" \"$@\"";
+    return limited("-v " + std::to_string(megabytes * 1024), arguments);
+}
+
+tool_result tool_run::with_small_files(const std::vector<std::string>& arguments) const
+{
+    return limited("-f 8", arguments);
+}
+
+std::vector<std::string> tool_run::names() const
+{
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        const std::string name = entry.path().filename().string();
+        if (name != "stdin" && name != "stdout" && name != "stderr")
+            found.push_back(name);
+    }
+    std::sort(found.begin(), found.end());
+    return found;
+}
+
+tool_result tool_run::limited(const std::string& limit, const std::vector<std::string>& arguments) const
+{
+    const std::string command = "ulimit " + limit + " && exec \"$0\" \"$@\"";
     const std::string out = missing("stdout");
-    tool_result result = run(call_of({"/bin/sh", "-c", limited}, arguments), "/dev/null", out);
+    tool_result result = run(call_of({"/bin/sh", "-c", command}, arguments), "/dev/null", out);
     result.out = read_file(out);
     return result;
 }
@@ -207,6 +223,13 @@ std::string small_deck(std::string_view more_lines)
            "MEMBER INCIDENCES\n"
            "1 1 2;\n" +
            std::string(more_lines) + "FINISH\n";
+}
+
+std::string read_file(const std::string& path)
+{
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
 }
 
 bool contains(std::string_view text, std::string_view part)

@@ -37,10 +37,15 @@ public:
     tool_result from(const std::string& in_path, const std::vector<std::string>& arguments) const;
     /// The same with no more than so much memory to take.
     tool_result within(std::size_t megabytes, const std::vector<std::string>& arguments) const;
+    /// The same with no file that is written growing larger than 4 or 8 KB, as the shell counts.
+    tool_result with_small_files(const std::vector<std::string>& arguments) const;
 
     std::string folder() const { return folder_.string(); }
+    /// The names of all that stands in the folder, streams of the tool excepted, ascending.
+    std::vector<std::string> names() const;
 
 private:
+    tool_result limited(const std::string& limit, const std::vector<std::string>& arguments) const;
     tool_result run(const std::vector<std::string>& command, const std::string& in_path,
                     const std::string& out_path) const;
 
@@ -51,6 +56,9 @@ private:
 std::string tower_deck();
 /// The least deck that is a model, with `more_lines` before its end.
 std::string small_deck(std::string_view more_lines = {});
+
+/// All the bytes of a file; empty if there is none.
+std::string read_file(const std::string& path);
 
 bool contains(std::string_view text, std::string_view part);
 /// True if one of the lines of `text` is exactly `line`.

@@ -7,7 +7,8 @@
 namespace cli_test {
 namespace {
 
-constexpr const char* help_calls[][2] = {{"--help", ""}, {"-h", ""}, {"info", "--help"}, {"dump", "-h"}};
+constexpr const char* help_calls[][2] = {
+    {"--help", ""}, {"-h", ""}, {"info", "--help"}, {"dump", "-h"}, {"convert", "-h"}};
 
 TEST(Usage, HelpNamesEveryExitCode)
 {
@@ -30,9 +31,14 @@ TEST(Usage, HelpNamesTheVerbsAndTheirOptions)
     const std::string help = tool({"--help"}).out;
     EXPECT_TRUE(contains(help, "\nVerbs:\n  info "));
     EXPECT_TRUE(contains(help, "\n  dump "));
+    EXPECT_TRUE(contains(help, "\n  convert "));
     EXPECT_TRUE(contains(tool({"info", "--help"}).out, "--json"));
     EXPECT_TRUE(contains(tool({"info", "--help"}).out, "Usage: staadkit info [OPTIONS] FILE..."));
     EXPECT_TRUE(contains(tool({"dump", "--help"}).out, "Usage: staadkit dump [OPTIONS] FILE\n"));
+    const std::string convert_help = tool({"convert", "--help"}).out;
+    EXPECT_TRUE(contains(convert_help, "Usage: staadkit convert [OPTIONS] IN OUT\n"));
+    for (const char* option : {"--wind FILE ", "--seismic FILE ", "--force ", "--template NAME ", "--notes "})
+        EXPECT_TRUE(contains(convert_help, std::string("\n  ") + option)) << option;
 }
 
 TEST(Usage, Version)
@@ -66,6 +72,28 @@ const slip slips[] = {
     {"nothing like it: no guess", {"frobnicate"}, "unknown verb 'frobnicate'\n", "staadkit --help"},
     {"one file at a time", {"dump", "a.std", "b.std"}, "one argument too many: 'b.std'", "staadkit dump --help"},
     {"no file", {"info"}, "FILE is required", "staadkit info --help"},
+    {"nothing to convert", {"convert"}, "IN is required", "staadkit convert --help"},
+    {"nowhere to write to", {"convert", "a.std"}, "OUT is required", "staadkit convert --help"},
+    {"two outputs",
+     {"convert", "a.std", "b.std", "c.std"},
+     "one argument too many: 'c.std'",
+     "staadkit convert --help"},
+    {"an option of convert",
+     {"convert", "--forse", "a.std", "b.std"},
+     "unknown option '--forse'; did you mean '--force'?",
+     "staadkit convert --help"},
+    {"no file behind --wind",
+     {"convert", "a.std", "b.std", "--wind"},
+     "--wind: 1 required FILE missing",
+     "staadkit convert --help"},
+    {"no such example",
+     {"convert", "--template", "winds"},
+     "--template: 'winds' is neither wind nor seismic",
+     "staadkit convert --help"},
+    {"an example needs no file",
+     {"convert", "--template", "wind", "a.std"},
+     "IN excludes --template",
+     "staadkit convert --help"},
     {"no verb", {}, "no verb given", "staadkit --help"},
 };
 
@@ -88,7 +116,8 @@ TEST(Usage, OutputThatCannotBeWrittenIsAnError)
     const tool_run tool;
     const std::string deck = tool.write("tower.std", tower_deck());
     const std::vector<std::string> calls[] = {
-        {"--help"}, {"--version"}, {"info", deck}, {"info", "--json", deck}, {"info", deck, deck}, {"dump", deck}};
+        {"--help"},           {"--version"},  {"info", deck},         {"info", "--json", deck},
+        {"info", deck, deck}, {"dump", deck}, {"convert", deck, "-"}, {"convert", "--template", "wind"}};
     for (const auto& call : calls) {
         const tool_result result = tool.into("/dev/full", call);
         EXPECT_EQ(result.exit_code, 4) << call.front();

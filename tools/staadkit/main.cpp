@@ -1,4 +1,4 @@
-// staadkit: shows what .std files hold.
+// staadkit: shows what .std files hold, and writes them anew.
 
 #include "messages.h"
 #include "std_output.h"
@@ -9,6 +9,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <csignal>
 #include <exception>
 #include <new>
 #include <string>
@@ -20,6 +21,7 @@ namespace {
 constexpr verb verbs[] = {
     {"info", "Show what files hold: joints, members, storeys, sections, supports, loads", set_up_info},
     {"dump", "Print every field of a model as JSON, numbers exact to the last bit", set_up_dump},
+    {"convert", "Write a model as normalised .std, with generated wind and seismic loads", set_up_convert},
 };
 
 constexpr const char* exit_code_help = "Exit codes:\n"
@@ -108,7 +110,7 @@ void set_up_app(CLI::App& app, verb_action& action)
 
 exit_code run(int argc, const char* const* argv)
 {
-    CLI::App app("Reads STAAD .std files and shows what they hold.", "staadkit");
+    CLI::App app("Reads STAAD .std files, shows what they hold and writes them anew.", "staadkit");
     verb_action action;
     set_up_app(app, action);
     const std::vector<std::string> arguments(argv + std::min(argc, 1), argv + argc);
@@ -134,9 +136,18 @@ exit_code run(int argc, const char* const* argv)
 } // namespace
 } // namespace tool
 
+/// A limit on the size of files is to show as a failed write, not to end the process halfway.
+static void ignore_size_signal()
+{
+#ifdef SIGXFSZ
+    static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+#endif
+}
+
 // What is left to throw here is a message that memory does not suffice for: the run ends all the same.
 int main(int argc, char** argv) // NOLINT(bugprone-exception-escape)
 {
+    ignore_size_signal();
     try {
         return tool::run(argc, argv);
     } catch (const std::bad_alloc&) {

@@ -69,6 +69,12 @@ void print_finding(std::string_view file, const STAAD::Finding& finding)
     print_line(message_line(file, finding));
 }
 
+void print_example(std::string_view line)
+{
+    constexpr std::size_t most_shown = 120;
+    print_line("    " + clipped(printable_text(line), most_shown));
+}
+
 void print_findings(std::string_view file, const STAAD::ReadReport& report, STAAD::Finding::Severity least,
                     std::string_view without)
 {

@@ -27,6 +27,9 @@ STAAD::Finding::Severity least_severity(bool with_notes);
 
 void print_finding(std::string_view file, const STAAD::Finding& finding);
 
+/// A line of a file that shows what the message before it means: indented, and cut if it is long.
+void print_example(std::string_view line);
+
 /// Prints the findings that are at least as grave as `least` in the order of their lines, those
 /// about the text as a whole first. `without` names a code to leave out, because the results tell
 /// it already; empty: none.

@@ -1,19 +1,22 @@
 /// The public fields of every record of a model: names and values in declaration order.
 ///
 /// Each record is taken apart by a structured binding, which compiles only as long as it names
-/// every field there is: a field added to a record cannot be forgotten here.
+/// every field there is: a field added to a record cannot be forgotten here. The parameter records
+/// are taken apart for reading and for filling alike.
 #ifndef TOOLS_STAADKIT_MODEL_FIELDS_H
 #define TOOLS_STAADKIT_MODEL_FIELDS_H
 
 #include "staad/model/sd_reader.h"
 
+#include <concepts>
 #include <cstddef>
+#include <type_traits>
 
 namespace tool {
 
 /// Calls `visit(name, field)` for each pair; there are as many names as fields.
 template<class Visit, std::size_t Count, class... Fields>
-void name_fields(Visit& visit, const char* const (&names)[Count], const Fields&... fields)
+void name_fields(Visit& visit, const char* const (&names)[Count], Fields&... fields)
 {
     static_assert(Count == sizeof...(fields));
     std::size_t index = 0;
@@ -121,11 +124,12 @@ void each_field(const STAAD::OldProjMaps& record, Visit visit)
                 shells_old_to_new);
 }
 
-template<class Visit>
-void each_field(const STAAD::WindLoadParam& record, Visit visit)
+template<class Record, class Visit>
+requires std::same_as<std::remove_const_t<Record>, STAAD::WindLoadParam>
+void each_field(Record& record, Visit visit)
 {
-    const auto& [title, base_press, soil_type, structure_high, is_betaz, base_period, aweather_width, mius,
-                 intensity_number, intensity_isometry, intensity_floor, heights, intensities] = record;
+    auto& [title, base_press, soil_type, structure_high, is_betaz, base_period, aweather_width, mius, intensity_number,
+           intensity_isometry, intensity_floor, heights, intensities] = record;
     name_fields(visit,
                 {"title", "base_press", "soil_type", "structure_high", "is_betaz", "base_period", "aweather_width",
                  "mius", "intensity_number", "intensity_isometry", "intensity_floor", "heights", "intensities"},
@@ -133,13 +137,13 @@ void each_field(const STAAD::WindLoadParam& record, Visit visit)
                 intensity_number, intensity_isometry, intensity_floor, heights, intensities);
 }
 
-template<class Visit>
-void each_field(const STAAD::SeismicParam& record, Visit visit)
+template<class Record, class Visit>
+requires std::same_as<std::remove_const_t<Record>, STAAD::SeismicParam>
+void each_field(Record& record, Visit visit)
 {
-    const auto& [dir_active, dir_factor, y_freedom, eq_type, post_method, force_type, eq_intensity, eq_group,
-                 special_accelerate, point_number, damping_factor, proportion_factor, loadno_count, loadno,
-                 loadno_factor, periods, spectrum_title_x, spectrum_title_y, spectrum_title_z, spectrum_x, spectrum_y,
-                 spectrum_z] = record;
+    auto& [dir_active, dir_factor, y_freedom, eq_type, post_method, force_type, eq_intensity, eq_group,
+           special_accelerate, point_number, damping_factor, proportion_factor, loadno_count, loadno, loadno_factor,
+           periods, spectrum_title_x, spectrum_title_y, spectrum_title_z, spectrum_x, spectrum_y, spectrum_z] = record;
     name_fields(visit, {"dir_active",         "dir_factor",       "y_freedom",        "eq_type",
                         "post_method",        "force_type",       "eq_intensity",     "eq_group",
                         "special_accelerate", "point_number",     "damping_factor",   "proportion_factor",

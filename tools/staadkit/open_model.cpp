@@ -1,8 +1,8 @@
 #include "open_model.h"
 
+#include "read_stream.h"
 #include "staad/reader/read_limit.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -36,12 +36,7 @@ bool read_standard_input(std::string& text)
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
-    std::array<char, 1U << 16U> block;
-    for (std::size_t count = block.size(); count == block.size();) {
-        count = std::fread(block.data(), 1, block.size(), stdin);
-        text.append(block.data(), count);
-    }
-    return std::ferror(stdin) == 0;
+    return read_to_end(stdin, text);
 }
 
 bool read_model(const std::string& path, opened_model& opened)

@@ -130,22 +130,22 @@ std::string escape_bytes(std::string_view bytes, IsEscaped is_escaped)
 
 #if STAADKIT_HAS_ICONV
 /// Opened once: opening loads the conversion tables.
-class gbk_decoder {
+class converter {
 public:
-    gbk_decoder() : handle_(iconv_open("UTF-8", "GBK")) {}
-    gbk_decoder(const gbk_decoder&) = delete;
-    gbk_decoder& operator=(const gbk_decoder&) = delete;
-    ~gbk_decoder()
+    converter(const char* to, const char* from) : handle_(iconv_open(to, from)) {}
+    converter(const converter&) = delete;
+    converter& operator=(const converter&) = delete;
+    ~converter()
     {
         if (is_open())
             iconv_close(handle_);
     }
 
-    std::optional<std::string> decode(std::string_view text)
+    std::optional<std::string> convert(std::string_view text)
     {
         if (!is_open())
             return std::nullopt;
-        // Two bytes of GBK are at most three of UTF-8, an ASCII byte is one.
+        // Two bytes of GBK are at most three of UTF-8, an ASCII byte is one; the other way nothing grows.
         std::string in(text);
         std::string out(2 * in.size(), '\0');
         char* from = in.data();
@@ -190,10 +190,22 @@ bool is_utf8(std::string_view text) noexcept
 std::optional<std::string> utf8_from_gbk(std::string_view text)
 {
 #if STAADKIT_HAS_ICONV
-    static gbk_decoder decoder; // the tool has one thread
-    return decoder.decode(text);
+    static converter decoder("UTF-8", "GBK"); // the tool has one thread
+    return decoder.convert(text);
 #else
     static_cast<void>(text);
+    return std::nullopt;
+#endif
+}
+
+std::optional<std::string> gbk_from_utf8(std::string_view text)
+{
+    if (is_ascii(text))
+        return std::string(text);
+#if STAADKIT_HAS_ICONV
+    static converter encoder("GBK", "UTF-8");
+    return encoder.convert(text);
+#else
     return std::nullopt;
 #endif
 }

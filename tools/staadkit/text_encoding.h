@@ -1,4 +1,4 @@
-/// The 8-bit texts of a file, whose encoding nothing declares, as UTF-8.
+/// The 8-bit texts of a file, whose encoding nothing declares, as UTF-8, and the way back to GBK.
 #ifndef TOOLS_STAADKIT_TEXT_ENCODING_H
 #define TOOLS_STAADKIT_TEXT_ENCODING_H
 
@@ -15,6 +15,9 @@ bool is_utf8(std::string_view text) noexcept;
 
 /// `text` decoded from GBK; nothing if it is no GBK, or the platform cannot tell.
 std::optional<std::string> utf8_from_gbk(std::string_view text);
+
+/// UTF-8 `text` in GBK; nothing if GBK lacks one of its characters, or the platform cannot tell.
+std::optional<std::string> gbk_from_utf8(std::string_view text);
 
 /// Every byte taken for the code point of its number: the last resort for bytes of no known
 /// encoding, which loses none of them.

@@ -31,6 +31,7 @@ struct verb {
 
 verb_action set_up_info(CLI::App& command);
 verb_action set_up_dump(CLI::App& command);
+verb_action set_up_convert(CLI::App& command);
 
 } // namespace tool
 

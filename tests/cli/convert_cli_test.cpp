@@ -1,0 +1,152 @@
+// The verb "convert": what is written where, and when it is refused.
+
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+
+namespace cli_test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(Convert, WritesTheNormalisedFileAndNothingElse)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck());
+    const std::string out = tool.missing("out.std");
+    const tool_result result = tool({"convert", in, out});
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    EXPECT_EQ(result.out, "");
+    const std::string text = read_file(out);
+    EXPECT_EQ(text.rfind("STAAD SPACE\n"
+                         "START JOB INFORMATION\n"
+                         "ENGINEER DATE 04-Jun-14\n"
+                         "END JOB INFORMATION\n"
+                         "INPUT WIDTH 79\n"
+                         "UNIT METER KN\n"
+                         "JOINT COORDINATES\n"
+                         "1 0 0 0; 2 0 3 0;\n"
+                         "MEMBER INCIDENCES\n"
+                         "1 1 2;\n"
+                         "ELEMENT INCIDENCES SHELL\n"
+                         "DEFINE MATERIAL START\n",
+                         0),
+              0U)
+        << text;
+    EXPECT_EQ(text.substr(text.size() - 7), "\nFINISH");
+    EXPECT_EQ(tool.names(), (std::vector<std::string>{"in.std", "out.std"}));
+}
+
+TEST(Convert, LoadsAreTheModels)
+{
+    const tool_run tool;
+    const tool_result result = tool({"convert", tool.write("in.std", tower_deck()), "-"});
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    // -5 kN/m along GY, and -10 kN at 3 m.
+    EXPECT_TRUE(has_line(result.out, "7 TO 9 UNI GZ -0.005000")) << result.out;
+    EXPECT_TRUE(has_line(result.out, "7 CON GZ -10.000000 3000.000000")) << result.out;
+}
+
+TEST(Convert, StreamsGiveTheSameBytes)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", tower_deck());
+    const std::string out = tool.missing("out.std");
+    ASSERT_EQ(tool({"convert", in, out}).exit_code, 0);
+    const std::string text = read_file(out);
+    ASSERT_FALSE(text.empty());
+    EXPECT_EQ(tool({"convert", in, "-"}).out, text);
+    EXPECT_EQ(tool({"convert", "-", "-"}, tower_deck()).out, text);
+}
+
+TEST(Convert, WhatItWroteIsAModelAgain)
+{
+    const tool_run tool;
+    const std::string once = tool.missing("once.std");
+    ASSERT_EQ(tool({"convert", tool.write("in.std", tower_deck()), once}).exit_code, 0);
+    // The surface is an element now, and the wind and seismic cases have come.
+    EXPECT_TRUE(has_line(tool({"info", once, once}).out,
+                         once + ": 9 joints, 12 members, 2 elements, 0 surfaces, 4 load cases"));
+}
+
+TEST(Convert, AnExistingFileIsKept)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck());
+    const std::string out = tool.write("out.std", "precious");
+    const tool_result result = tool({"convert", in, out});
+    EXPECT_EQ(result.exit_code, 4);
+    EXPECT_EQ(result.err, "staadkit: error: " + out + ": is there already; --force overwrites it\n");
+    EXPECT_EQ(read_file(out), "precious");
+}
+
+TEST(Convert, AnExistingFileIsReplacedOnRequest)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck());
+    const std::string out = tool.write("out.std", std::string(100000, 'x'));
+    EXPECT_EQ(tool({"convert", in, out, "--force"}).exit_code, 0);
+    EXPECT_EQ(read_file(out), tool({"convert", in, "-"}).out);
+}
+
+TEST(Convert, TheInputIsKeptUnderAnyOfItsNames)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck());
+    fs::create_symlink("in.std", tool.missing("link.std"));
+    fs::create_hard_link(in, tool.missing("twin.std"));
+    for (const std::string& name :
+         {in, tool.folder() + "/./in.std", tool.missing("link.std"), tool.missing("twin.std")}) {
+        const tool_result result = tool({"convert", in, name});
+        EXPECT_EQ(result.exit_code, 4) << name;
+        EXPECT_EQ(result.err, "staadkit: error: " + name + ": is the input; --force overwrites it\n");
+        EXPECT_EQ(read_file(in), small_deck()) << name;
+    }
+}
+
+TEST(Convert, TheInputIsReplacedOnRequest)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", tower_deck());
+    const std::string want = tool({"convert", in, "-"}).out;
+    EXPECT_EQ(tool({"convert", "--force", in, in}).exit_code, 0);
+    EXPECT_EQ(read_file(in), want);
+}
+
+TEST(Convert, WithoutAModelNothingIsWritten)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", "STAAD SPACE\n");
+    const std::string old = tool.write("old.std", "precious");
+    const tool_result result = tool({"convert", "--force", in, old});
+    EXPECT_EQ(result.exit_code, 3);
+    EXPECT_EQ(result.err.rfind(in + ": error no-unit: ", 0), 0U) << result.err;
+    EXPECT_EQ(read_file(old), "precious");
+    EXPECT_EQ(tool({"convert", in, tool.missing("new.std")}).exit_code, 3);
+    EXPECT_EQ(tool({"convert", tool.missing("nowhere.std"), tool.missing("new.std")}).exit_code, 3);
+    EXPECT_EQ(tool.names(), (std::vector<std::string>{"in.std", "old.std"}));
+}
+
+TEST(Convert, WarningsOfTheReadingStandBehindTheNotes)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck("UNIT FEET KIP\n"));
+    const tool_result result = tool({"convert", in, "-"});
+    EXPECT_EQ(result.exit_code, 0);
+    const std::size_t warning = result.err.find(in + ":7: warning unit-later: ");
+    ASSERT_NE(warning, std::string::npos) << result.err;
+    EXPECT_EQ(result.err.find("<stdout>:", warning), std::string::npos) << result.err;
+    EXPECT_EQ(result.err.rfind("<stdout>:", 0), 0U) << result.err;
+}
+
+TEST(Convert, NotesOfTheReadingOnRequest)
+{
+    const tool_run tool;
+    const std::string in = tool.write("in.std", small_deck("PERFORM ANALYSIS\n"));
+    const std::string note = in + ":7: note skipped: PERFORM ANALYSIS (1 line)";
+    EXPECT_TRUE(has_line(tool({"convert", "--notes", in, "-"}).err, note));
+    EXPECT_FALSE(contains(tool({"convert", in, "-"}).err, "note skipped"));
+}
+
+} // namespace
+} // namespace cli_test

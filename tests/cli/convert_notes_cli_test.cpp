@@ -1,0 +1,298 @@
+// What "convert" tells about the file it writes: each note once, only where it applies, with a line of
+// that file.
+
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+
+#include <iterator>
+#include <sstream>
+
+namespace cli_test {
+namespace {
+
+/// One note: "NAME:LINE: note CODE: TEXT" and the example behind it.
+struct told {
+    std::size_t line = 0;
+    std::string code;
+    std::string text;
+    std::string example;
+};
+
+std::vector<told> notes_in(const std::string& err)
+{
+    const std::string head = "<stdout>:";
+    const std::string word = ": note ";
+    std::vector<told> notes;
+    std::istringstream lines(err);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.rfind(head, 0) != 0)
+            continue;
+        const std::size_t code = line.find(word) + word.size();
+        const std::size_t colon = line.find(": ", code);
+        told note{std::stoul(line.substr(head.size())), line.substr(code, colon - code), line.substr(colon + 2), {}};
+        std::getline(lines, note.example);
+        notes.push_back(note);
+    }
+    return notes;
+}
+
+std::vector<std::string> lines_of(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
+tool_result convert(const tool_run& tool, const std::string& deck)
+{
+    const tool_result result = tool({"convert", "-", "-"}, deck);
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    return result;
+}
+
+/// The note of that code; an empty one if there is none.
+told note_of(const tool_run& tool, const std::string& deck, const std::string& code)
+{
+    told found;
+    for (const told& note : notes_in(convert(tool, deck).err)) {
+        if (note.code == code)
+            found = note;
+    }
+    return found;
+}
+
+/// A member with a section and a material that the written file says as well as the input did.
+const std::string sound = "MEMBER PROPERTY CHINESE\n1 TABLE ST HN400X200X8X13\nCONSTANTS\nMATERIAL STEEL ALL\n";
+
+TEST(ConvertNotes, WhereNothingIsLostOnlyTheGeneratedLoadsAreTold)
+{
+    const tool_run tool;
+    // Line 82: 11 of head and geometry, 32 of materials, 4 of section and material, 34 of wind types.
+    EXPECT_EQ(convert(tool, small_deck(sound)).err,
+              "<stdout>:82: note generated: four wind cases of one number and a seismic case are always written; "
+              "without --wind and --seismic they hold no values\n"
+              "    LOAD 4 WL AUTO WIND LOAD\n");
+}
+
+struct expected_note {
+    const char* code;
+    const char* text;
+    const char* example;
+};
+
+/// Of the tower: members 1 to 12, element 101 and a surface behind them.
+const expected_note tower_notes[] = {
+    {"loads",
+     "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is written as GZ)",
+     "    7 TO 9 UNI GZ -0.005000"},
+    {"loads-left-out",
+     "not written: 3 joint loads, 1 self-weight load, load combinations (2 lines) and 2 titles of load cases",
+     "    LOAD 1 LOADTYPE Dead TITLE LOAD CASE 1"},
+    {"numbers", "elements have new numbers (element 101 is 13)", "    13 3 4 6 5; 14 5 6 8 7;"},
+    {"offsets", "the offsets of 1 member are not written",
+     "    1 1 3; 2 2 4; 3 3 5; 4 4 6; 5 5 7; 6 6 8; 7 3 4; 8 5 6; 9 7 8; 10 1 4; 11 3 4;"},
+    {"trusses", "written as plain members: 2 truss, tension-only or compression-only members",
+     "    1 1 3; 2 2 4; 3 3 5; 4 4 6; 5 5 7; 6 6 8; 7 3 4; 8 5 6; 9 7 8; 10 1 4; 11 3 4;"},
+    {"surfaces", "written as elements from 14 on: 1 surface", "    13 3 4 6 5; 14 5 6 8 7;"},
+    {"sections", "sections of 8 members are bare mm, which the analysis program cannot read",
+     "    3 TO 4 TABLE ST PIP200X10"},
+    {"no-section", "the list of 1 member without a section has nothing behind it", "    12 "},
+    {"user-tables", "user tables cannot be read: rows are sorted, lines of numbers stand among their names",
+     "    0.3 0.15 0.0065 0.009"},
+    {"generated",
+     "four wind cases of one number and a seismic case are always written; without --wind and --seismic they hold no "
+     "values",
+     "    LOAD 6 WL AUTO WIND LOAD"},
+};
+
+TEST(ConvertNotes, AllThatHappensToTheTower)
+{
+    const tool_run tool;
+    const std::vector<told> notes = notes_in(convert(tool, tower_deck()).err);
+    ASSERT_EQ(notes.size(), std::size(tower_notes));
+    for (std::size_t i = 0; i < notes.size(); ++i) {
+        EXPECT_EQ(notes[i].code, tower_notes[i].code);
+        EXPECT_EQ(notes[i].text, tower_notes[i].text);
+        EXPECT_EQ(notes[i].example, tower_notes[i].example) << notes[i].code;
+    }
+}
+
+TEST(ConvertNotes, ExamplesStandWhereTheNotesSay)
+{
+    const tool_run tool;
+    const tool_result result = convert(tool, tower_deck());
+    const std::vector<std::string> lines = lines_of(result.out);
+    for (const told& note : notes_in(result.err)) {
+        ASSERT_GE(note.line, 1U) << note.code;
+        ASSERT_LE(note.line, lines.size()) << note.code;
+        EXPECT_EQ(note.example, "    " + lines[note.line - 1]) << note.code;
+    }
+}
+
+TEST(ConvertNotes, TheFileIsNamedAsGiven)
+{
+    const tool_run tool;
+    const std::string out = tool.missing("out.std");
+    const tool_result result = tool({"convert", tool.write("in.std", small_deck(sound)), out});
+    EXPECT_EQ(result.err.rfind(out + ":82: note generated: ", 0), 0U) << result.err;
+}
+
+std::string frame(const char* joints, const char* members, const std::string& more)
+{
+    return std::string("UNIT METER KN\nJOINT COORDINATES\n") + joints + "\nMEMBER INCIDENCES\n" + members + '\n' +
+           more + "FINISH\n";
+}
+
+struct numbers_case {
+    const char* why;
+    std::string deck;
+    const char* text;
+    const char* example;
+};
+
+const numbers_case numbers_cases[] = {
+    {"joints 10 20 30, nothing that lists them", frame("10 0 0 0; 20 0 3 0; 30 4 3 0", "1 10 20; 2 20 30", {}),
+     "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0; 3 4 3 0;"},
+    {"joint 3 stands before joint 2: the example is the first list that misleads",
+     frame("1 0 0 0; 3 0 3 0; 2 4 3 0", "1 1 3; 2 3 2", "SUPPORTS\n1 FIXED\n2 PINNED\n"),
+     "joints have new numbers (joint 3 is 2); supports still name the old ones", "    2 PINNED"},
+    {"a number that nothing had and something has now", frame("10 0 0 0; 20 0 3 0", "1 10 20", "SUPPORTS\n2 FIXED\n"),
+     "joints have new numbers (joint 10 is 1); supports still name the old ones", "    2 FIXED"},
+    {"a number that nothing had and nothing has", frame("10 0 0 0; 20 0 3 0", "1 10 20", "SUPPORTS\n3 FIXED\n"),
+     "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0;"},
+    {"members: releases and groups, supports are right as they are",
+     frame("1 0 0 0; 2 0 3 0; 3 4 3 0", "7 1 2; 8 2 3",
+           "START GROUP DEFINITION\nJOINT\n_TOP 2 3\nMEMBER\n_BEAM 8\nEND GROUP DEFINITION\n"
+           "SUPPORTS\n1 FIXED\nMEMBER RELEASE\n8 START MY MZ\n"),
+     "members have new numbers (member 7 is 1); releases and groups still name the old ones", "    8 START MY MZ"},
+    {"elements: a group of elements",
+     frame("1 0 0 0; 2 0 3 0; 3 4 3 0", "1 1 2",
+           "ELEMENT INCIDENCES SHELL\n1 1 2 3\nSTART GROUP DEFINITION\nELEMENT\n_WALL 1\nEND GROUP DEFINITION\n"),
+     "elements have new numbers (element 1 is 2); groups still name the old ones", "    _WALL 1"},
+    {"all three", frame("2 0 0 0; 3 0 3 0; 4 4 3 0", "2 2 3; 3 3 4", "ELEMENT INCIDENCES SHELL\n9 2 3 4\n"),
+     "joints, members and elements have new numbers (joint 2 is 1, member 2 is 1 and element 9 is 3)",
+     "    1 0 0 0; 2 0 3 0; 3 4 3 0;"},
+    {"nothing changes", frame("1 0 0 0; 2 0 3 0", "1 1 2", "SUPPORTS\n1 FIXED\n"), "", ""},
+};
+
+TEST(ConvertNotes, NewNumbers)
+{
+    const tool_run tool;
+    for (const numbers_case& each : numbers_cases) {
+        const told note = note_of(tool, each.deck, "numbers");
+        EXPECT_EQ(note.text, each.text) << each.why;
+        EXPECT_EQ(note.example, each.example) << each.why;
+    }
+}
+
+TEST(ConvertNotes, LoadsThatAreLeftOut)
+{
+    const tool_run tool;
+    const told note = note_of(tool,
+                              small_deck("LOAD 4 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 UNI GY -5\n"
+                                         "LOAD 5 LOADTYPE Live\nAREA LOAD\n1 ALOAD -0.5\n1 ALOAD -0.7\n"
+                                         "FLOOR LOAD\nYRANGE 3 3 FLOAD -2\n"
+                                         "LOAD 6 LOADTYPE Live\nELEMENT LOAD\n1 PR GY -2\nPERFORM ANALYSIS\n"),
+                              "loads-left-out");
+    EXPECT_EQ(note.text, "not written: 2 area loads, 1 other load, floor loads by range (1 line) and 1 title of load "
+                         "cases");
+    EXPECT_EQ(note.example, "    LOAD 5 LOADTYPE  TITLE LOAD CASE 5");
+}
+
+TEST(ConvertNotes, CasesWithoutLoads)
+{
+    const tool_run tool;
+    const told note =
+        note_of(tool, small_deck("LOAD 1 LOADTYPE Dead TITLE DL\nLOAD 2\nPERFORM ANALYSIS\n"), "loads-left-out");
+    EXPECT_EQ(note.text, "not written: 1 title of load cases and 2 load cases without loads");
+    EXPECT_EQ(note.example, "    LOAD 4 WL AUTO WIND LOAD");
+}
+
+TEST(ConvertNotes, ALineLoadIsTheBestExample)
+{
+    const tool_run tool;
+    const std::string loads = "LOAD 1 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 CON GY -7 1\n1 UNI GX 2\n";
+    // Load texts in the order of their bytes: CON, UNI GY, UNI GZ.
+    EXPECT_EQ(note_of(tool, small_deck(loads + "PERFORM ANALYSIS\n"), "loads").example,
+              "    1 CON GZ -7.000000 1000.000000");
+    EXPECT_EQ(note_of(tool, small_deck(loads + "1 UNI GY -3\nPERFORM ANALYSIS\n"), "loads").example,
+              "    1 UNI GZ -0.003000");
+}
+
+TEST(ConvertNotes, UserTablesThatChangeFamilyOrLoseTheirUnit)
+{
+    const tool_run tool;
+    const std::string tables = "START USER TABLE\n"
+                               "TABLE 1\nUNIT METER KN\nWIDE FLANGE\nH300\n0.3 0.15 0.0065 0.009\n"
+                               "TABLE 2\nUNIT FEET KIP\nPIPE\nP1\n0.5 0.4\n"
+                               "TABLE 12\nUNIT METER KN\nPIPE\nP2\n0.5 0.4\n"
+                               "END\n";
+    EXPECT_EQ(note_of(tool, small_deck(tables), "user-tables").text,
+              "user tables cannot be read: rows are sorted, lines of numbers stand among their names; TABLE 2 is "
+              "CHANNEL and was PIPE; TABLE 2 has lost its UNIT FEET KIP");
+}
+
+TEST(ConvertNotes, MaterialsThatTheWrittenLibraryLacks)
+{
+    const tool_run tool;
+    const std::string property = "MEMBER PROPERTY\n1 TABLE ST H400\nCONSTANTS\n";
+    for (const char* known : {"STEEL", "C1", "CONCRETE", "STAINLESSSTEEL", "ALUMINUM"})
+        EXPECT_EQ(note_of(tool, small_deck(property + "MATERIAL " + known + " ALL\n"), "materials").text, "") << known;
+    const told note = note_of(tool, small_deck(property + "MATERIAL C30 ALL\n"), "materials");
+    EXPECT_EQ(note.text, "not in the material library that is written: C30");
+    EXPECT_EQ(note.example, "    MATERIAL C30 ALL");
+    const told nameless = note_of(tool, small_deck(), "materials");
+    EXPECT_EQ(nameless.text, "not in the material library that is written: (no name)");
+    EXPECT_EQ(nameless.example, "    MATERIAL  ALL");
+}
+
+TEST(ConvertNotes, NumbersInDescriptionsKeepTheUnitsOfTheInput)
+{
+    const tool_run tool;
+    const auto deck = [](const std::string& unit, const std::string& more) {
+        return unit + "\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\n" + more + "FINISH\n";
+    };
+    const std::string spring = "SUPPORTS\n1 FIXED BUT MZ\n2 FIXED BUT KFY 100\n";
+    const told note = note_of(tool, deck("UNIT FEET KIP", spring), "kept-units");
+    EXPECT_EQ(note.text, "numbers in sections, supports and releases keep the units of the input, UNIT FEET KIP");
+    EXPECT_EQ(note.example, "    2 FIXED BUT KFY 100");
+    EXPECT_EQ(note_of(tool, deck("UNIT METER KN", spring), "kept-units").text, "") << "they are what the file says";
+    EXPECT_EQ(note_of(tool, deck("UNIT METER KIP", spring), "kept-units").example, "    2 FIXED BUT KFY 100");
+    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", "MEMBER RELEASE\n1 START MZ 0.5\n"), "kept-units").example,
+              "    1 START MZ 0.5");
+    const std::string gap = "MEMBER PROPERTY\n1 TABLE LD L303 SP 0.25\nCONSTANTS\n";
+    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", gap), "kept-units").example, "    1 TABLE LD L303 SP 0.25");
+    const std::string no_number = "MEMBER PROPERTY\n1 TABLE ST W14X22\nCONSTANTS\nSUPPORTS\n1 FIXED BUT MZ\n";
+    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", no_number), "kept-units").text, "");
+}
+
+TEST(ConvertNotes, TextsOfTheFileCannotDriveTheTerminal)
+{
+    const tool_run tool;
+    const std::string deck = small_deck("MEMBER PROPERTY\n1 TABLE ST H400\nCONSTANTS\nMATERIAL \x1B[31m ALL\n");
+    EXPECT_FALSE(contains(convert(tool, deck).err, "\x1B"));
+    EXPECT_EQ(note_of(tool, deck, "materials").example, "    MATERIAL \\x1B[31m ALL");
+}
+
+TEST(ConvertNotes, TheDocumentationShowsThemAsTheyAre)
+{
+    const tool_run tool;
+    const std::string source = STAADKIT_SOURCE_DIR;
+    std::string err = tool({"convert", source + "/examples/steel-portal.std", tool.missing("portal.std")}).err;
+    const std::string folder = tool.folder() + '/';
+    for (std::size_t at = err.find(folder); at != std::string::npos; at = err.find(folder, at))
+        err.erase(at, folder.size());
+    EXPECT_TRUE(contains(read_file(source + "/docs/tool.md"),
+                         "```text\n$ staadkit convert examples/steel-portal.std portal.std\n" + err + "```\n"))
+        << err;
+    const tool_result frame = tool({"convert", source + "/examples/concrete-frame.std", tool.missing("out.std")});
+    std::string first = frame.err.substr(0, frame.err.find("note loads-left-out"));
+    first = first.substr(folder.size(), first.rfind('\n') + 1 - folder.size());
+    EXPECT_TRUE(contains(read_file(source + "/README.md"), "```text\n" + first + "```\n")) << first;
+}
+
+} // namespace
+} // namespace cli_test

@@ -1,0 +1,166 @@
+// The verb "convert": a model as normalised .std.
+
+#include "conversion_notes.h"
+#include "messages.h"
+#include "open_model.h"
+#include "parameter_file.h"
+#include "parameter_template.h"
+#include "std_output.h"
+#include "text_encoding.h"
+#include "verbs.h"
+#include "whole_file.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <memory>
+#include <new>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+namespace tool {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct convert_options {
+    std::string in;
+    std::string out;
+    std::string wind;
+    std::string seismic;
+    std::string template_name;
+    bool force = false;
+    bool with_notes = false;
+};
+
+std::string why_no_template(const std::string& name)
+{
+    if (name == wind_template || name == seismic_template)
+        return {};
+    return '\'' + name + "' is neither wind nor seismic";
+}
+
+exit_code fail_to_write(const std::string& path, const std::string& reason)
+{
+    print_error(printable_name(path) + ": " + reason);
+    return not_written;
+}
+
+bool is_same_file(const std::string& one, const std::string& other)
+{
+    std::error_code not_both;
+    return fs::equivalent(one, other, not_both);
+}
+
+/// Why the output must not be written where it is wanted; empty if it may.
+std::string why_not_there(const convert_options& options)
+{
+    std::error_code no_file;
+    if (options.force || options.out == "-" || !fs::is_regular_file(options.out, no_file))
+        return {};
+    return is_same_file(options.in, options.out) ? "is the input; --force overwrites it"
+                                                 : "is there already; --force overwrites it";
+}
+
+/// One of the two parameter files, and what its reading had to tell.
+template<class Record>
+struct parameters {
+    explicit parameters(const std::string& file) : path(file)
+    {
+        if (is_given())
+            report = read_parameters(path, record);
+    }
+
+    bool is_given() const { return !path.empty(); }
+    bool failed() const { return report.worst() == STAAD::Finding::Error; }
+    void tell() const { print_findings(path, report, STAAD::Finding::Warning, {}); }
+
+    const std::string& path;
+    Record record;
+    STAAD::ReadReport report;
+};
+
+exit_code write_output(const std::string& path, std::string_view text)
+{
+    if (path == "-")
+        return print_result(text, done);
+    const std::error_code error = write_whole_file(path, text);
+    return error ? fail_to_write(path, error.message()) : done;
+}
+
+using wind_parameters = parameters<STAAD::WindLoadParam>;
+using seismic_parameters = parameters<STAAD::SeismicParam>;
+
+exit_code write_model(opened_model& opened, const wind_parameters& wind, const seismic_parameters& seismic,
+                      const convert_options& options)
+{
+    const conversion_notes notes = notes_on(opened.model, opened.report, {wind.is_given(), seismic.is_given()});
+    opened.model.wl_param = wind.record;
+    opened.model.eq_param = seismic.record;
+    const std::string text = opened.model.WriteDataToText();
+    // What the file means comes first: it is easily missed behind the warnings on a large model.
+    print_notes(options.out == "-" ? "<stdout>" : options.out, text, notes);
+    print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
+    wind.tell();
+    seismic.tell();
+    return write_output(options.out, text);
+}
+
+exit_code run_convert(const convert_options& options)
+{
+    if (!options.template_name.empty())
+        return print_template(options.template_name);
+    if (const std::string reason = why_not_there(options); !reason.empty())
+        return fail_to_write(options.out, reason);
+    const wind_parameters wind(options.wind);
+    const seismic_parameters seismic(options.seismic);
+    if (wind.failed() || seismic.failed()) {
+        wind.tell();
+        seismic.tell();
+        return wrong_usage;
+    }
+    opened_model opened = open_model(options.in);
+    if (!opened.was_read) {
+        print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
+        return no_model;
+    }
+    try {
+        return write_model(opened, wind, seismic, options);
+    } catch (const std::bad_alloc&) {
+        return fail_to_write(options.out, "not enough memory to write it");
+    }
+}
+
+} // namespace
+
+verb_action set_up_convert(CLI::App& command)
+{
+    const auto options = std::make_shared<convert_options>();
+    CLI::Option* const in = command.add_option("IN", options->in, "The .std file to read; - reads standard input");
+    CLI::Option* const out = command.add_option("OUT", options->out, "The .std file to write; - is standard output");
+    in->required()->option_text(" ");
+    out->required()->option_text(" ");
+    command.add_option("--wind", options->wind, "JSON file with the parameters of the generated wind loads")
+        ->type_name("FILE");
+    command.add_option("--seismic", options->seismic, "JSON file with the parameters of the generated seismic case")
+        ->type_name("FILE");
+    command.add_flag("--force", options->force, "Overwrite OUT if it is there, even if it is IN");
+    command.add_flag("--notes", options->with_notes, "Also print notes of the reading, not only warnings and errors");
+    const auto choose_template = [options, in, out](const std::string& name) {
+        options->template_name = name;
+        in->required(false);
+        out->required(false);
+    };
+    command
+        .add_option_function<std::string>("--template", choose_template,
+                                          "Print an example of a parameter file, wind or seismic, and exit")
+        ->check(why_no_template)
+        ->type_name("NAME")   // in messages
+        ->option_text("NAME") // in the help
+        ->excludes(in, out);
+    return [options] { return run_convert(*options); };
+}
+
+} // namespace tool
