@@ -168,6 +168,30 @@ public:
     void ReadForceMomentFromText(std::string_view text);
     void ReadForceMomentFromText(std::string_view text, ReadReport& report);
 
+    /// Finds the counterparts of this model's joints, members and shells in `old`, and makes them the
+    /// content of `old_proj_maps`.
+    ///
+    /// Joints:  the first earlier joint in list order that differs by less than 0.1 mm in each
+    ///          coordinate and is nobody's counterpart yet.
+    /// Members: the first earlier member between the counterparts of both ends, in either direction.
+    /// Shells:  the first earlier shell with the counterparts of all corners in the same order.
+    /// Cost:    linear in both models; joints crowded within half a millimetre are compared one by one.
+    void MakeMap(const SdReader& old);
+
+    /// Offers to take groups, supports and releases over from an earlier project file: nothing happens
+    /// unless the file can be read, a yes/no question (platform_services.h) is answered yes, and the file
+    /// gives a model. Then as TakeOverFrom. A null path is none.
+    void compWithOldProj(const char* path);
+
+    /// Takes groups, supports and releases over from `earlier`, told in this model's numbers: those of
+    /// the counterparts that MakeMap finds. What has none is left out.
+    ///
+    /// Groups:   replaced; one that would be empty is left out. Element groups go by joints, like joint
+    ///           groups.
+    /// Supports: replaced, empty lists included.
+    /// Releases: added to; the same description is replaced.
+    void TakeOverFrom(const SdReader& earlier);
+
     /// What `member` is. Its joints are looked up by position; a position outside `nodes` makes it
     /// neither column nor horizontal brace. Cost: one look-up in `brace_ids`.
     BeamType GetBeamType(const SdBeam& member) const;

@@ -105,6 +105,14 @@ bool can_read(const char* path) noexcept
 #endif
 }
 
+bool can_be_opened(const char* path)
+{
+    std::error_code error;
+    if (path == nullptr || std::filesystem::is_directory(std::filesystem::path(path), error))
+        return false;
+    return open_file(std::fopen(path, "r")) != nullptr;
+}
+
 output_file::output_file(const char* path)
 {
     if (path == nullptr) {

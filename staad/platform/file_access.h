@@ -26,6 +26,9 @@ file_bytes read_updatable_file(const char* path);
 /// Whether a file of that name is there and may be read; false for a null path.
 bool can_read(const char* path) noexcept;
 
+/// Whether `path` can be opened for reading as a file.
+bool can_be_opened(const char* path);
+
 /// A text file written from its beginning: what stood in it is gone. Line feeds become the line ends of
 /// the platform. After the first failure it takes everything and writes nothing.
 class output_file {

@@ -3,7 +3,9 @@
 #define STAAD_PROJECT_LEVELS_H
 
 #include "staad/model/sd_reader.h"
+#include "staad/model/storey_layer.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace STAAD::detail {
@@ -15,6 +17,16 @@ namespace STAAD::detail {
 /// with an end that is no joint give none either.
 /// Cost: n log n in the number of members, memory for two heights of each.
 std::vector<double> storey_levels(const SdReader& model);
+
+/// Where everything of a model stands among its levels.
+struct level_assignment {
+    std::vector<double> levels;             ///< as storey_levels
+    std::vector<NodeLevel> joint_levels;    ///< one per joint; `levels.size()` for one above every level
+    std::vector<std::size_t> member_levels; ///< that of the higher end; 0 if no end is a joint
+    std::vector<std::size_t> shell_levels;  ///< that of the highest corner; 0 if no corner is a joint
+};
+
+level_assignment assign_levels(const SdReader& model);
 
 } // namespace STAAD::detail
 
