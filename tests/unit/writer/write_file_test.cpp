@@ -51,6 +51,21 @@ TEST(WriteFile, HasTheBytesOfTheText)
     EXPECT_EQ(file.content(), as_in_a_file(same.WriteDataToText()));
 }
 
+TEST(WriteFile, HasEveryByteOfALongText)
+{
+    constexpr int members = 300000; // some 12 MB: more than any buffer
+    const temporary_file file("");
+    SdReader model = old_numbers(members);
+    const std::string text = model.WriteDataToText();
+    EXPECT_EQ(std::count(text.begin(), text.end(), ';'), 2 * members + 1) << "an item for each joint and member";
+    EXPECT_EQ(text.rfind("STAAD SPACE\n", 0), 0U);
+    EXPECT_NE(text.find("300000 300000 300001;\nELEMENT INCIDENCES SHELL\n"), std::string::npos);
+    EXPECT_EQ(text.substr(text.size() - 7), "\nFINISH");
+    std::error_code error;
+    ASSERT_TRUE(model.WriteDataToFile(file.path(), error)) << error.message();
+    EXPECT_TRUE(file.content() == as_in_a_file(text)) << "text and file differ";
+}
+
 TEST(WriteFile, EndsInFinishWithoutALineEnd)
 {
     const temporary_file file("");

@@ -6,8 +6,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <climits>
 #include <cstddef>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -131,6 +133,24 @@ TEST(WriteGravity, JoinsEqualDefinitionsAndNoOthers)
                                         "*{ 1.0000 * LOAD 1\nMEMBER LOAD\n"
                                         "3 UNI GX -5.00 \n3 UNI GZ -5.00 \n"
                                         "1 1 TO 2 4 UNI GX -5.00 \n1 1 TO 2 4 UNI GZ -5.00 \n");
+}
+
+TEST(WriteGravity, WritesLoadsThatAreNoNumbersLikeAnyOther)
+{
+    constexpr double none = std::numeric_limits<double>::quiet_NaN();
+    SdReader model = with_cases(40, {1});
+    for (int member = 1; member <= 40; ++member) {
+        const double first = member % 3 == 0 ? none : static_cast<double>(41 - member);
+        add_load(model, {"MEMBER LOAD CON", "GZ", {first, static_cast<double>(member)}, 1}, {member});
+    }
+    const std::string text = gravity(model, {{1, 1}});
+    for (int member = 1; member <= 40; ++member) {
+        const std::string number = std::to_string(member);
+        const std::string first = member % 3 == 0 ? "nan" : std::to_string(41 - member) + ".00";
+        const std::string line = "\n" + number + " CON GX " + first + ' ' + number + ".00 \n";
+        EXPECT_NE(text.find(line), std::string::npos) << line;
+    }
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3 + 2 * 40);
 }
 
 TEST(WriteGravity, KeepsLinesToSeventyNineCharacters)
