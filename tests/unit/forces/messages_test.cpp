@@ -1,0 +1,175 @@
+/// The message box of an import without a model, and the services that show it.
+
+#include "staad/platform/platform_services.h"
+#include "staad/reader/read_report.h"
+#include "tests/support/force_listing.h"
+#include "tests/support/model_equal.h"
+#include "tests/support/scripted_services.h"
+#include "tests/support/temporary_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+const std::string listing = listings::section({"101 1:A @0", "2:B @0"});
+
+/// Error--Velkor, and the word for software.
+const std::u16string caption = u"Error--Velkor\u8F6F\u4EF6";
+/// No model has been read! Read the model first, then the internal forces.
+const std::u16string text = u"\u6CA1\u6709\u8BFB\u53D6\u5DE5\u7A0B\u4FE1\u606F! "
+                            u"\u8BFB\u53D6\u5DE5\u7A0B\u4FE1\u606F\u540E\u518D\u6765"
+                            u"\u8BFB\u53D6\u5185\u529B\u4FE1\u606F.";
+
+void expect_no_model(const scripted_services& desktop)
+{
+    ASSERT_EQ(desktop.messages.size(), 1U);
+    const PlatformServices::Message& message = desktop.messages.front();
+    EXPECT_TRUE(message.caption == caption);
+    EXPECT_TRUE(message.text == text);
+    EXPECT_EQ(message.buttons, PlatformServices::Buttons::Ok);
+    EXPECT_EQ(message.icon, PlatformServices::Icon::Exclamation);
+    EXPECT_TRUE(desktop.questions.empty());
+}
+
+TEST(ForceMessages, AModelWithoutMembersIsTold)
+{
+    scripted_services desktop;
+    SdReader model;
+    model.ReadForceMomentFromText(listing);
+    expect_no_model(desktop);
+}
+
+TEST(ForceMessages, ComeBeforeTheFileIsOpened)
+{
+    const temporary_file file(listing);
+    const std::string missing = std::string(file.path()) + ".missing";
+    for (const char* const path : {file.path(), missing.c_str(), static_cast<const char*>(nullptr)}) {
+        scripted_services desktop;
+        SdReader model;
+        model.ReadForceMomentFromTxtFile(path);
+        expect_no_model(desktop);
+    }
+}
+
+TEST(ForceMessages, ComeOncePerCall)
+{
+    scripted_services desktop;
+    SdReader model;
+    model.ReadForceMomentFromText(listing + listing);
+    model.ReadForceMomentFromText("");
+    ReadReport report;
+    model.ReadForceMomentFromText(listing, report);
+    EXPECT_EQ(desktop.messages.size(), 3U);
+}
+
+/// A model with something in every field that the import could touch, and no members.
+SdReader without_members()
+{
+    SdReader model = listings::frame();
+    model.ReadForceMomentFromText(listing);
+    model.beams.clear(); // the index still knows them
+    model.unit_text = "UNIT FEET KIP";
+    model.length_factor = 7;
+    model.force_factor = 8;
+    model.force_length_factor = 9;
+    return model;
+}
+
+TEST(ForceMessages, LeaveTheModelAsItWas)
+{
+    scripted_services desktop;
+    const SdReader before = without_members();
+    ASSERT_FALSE(before.beam_forces.empty());
+    const temporary_file file(listing);
+    SdReader model = before;
+    model.ReadForceMomentFromText(listings::section({"102 1:A @0", "2:B @0"}, "(m) (MN) (kN-m)"));
+    EXPECT_EQ(model_differences(model, before), std::vector<std::string>());
+    model.ReadForceMomentFromTxtFile(file.path());
+    EXPECT_EQ(model_differences(model, before), std::vector<std::string>());
+    model.ReadForceMomentFromTxtFile(nullptr);
+    EXPECT_EQ(model_differences(model, before), std::vector<std::string>());
+    EXPECT_EQ(desktop.messages.size(), 3U);
+}
+
+TEST(ForceMessages, AreAllThatIsEverShown)
+{
+    scripted_services desktop;
+    SdReader model = listings::frame();
+    model.ReadForceMomentFromText(listing);
+    model.ReadForceMomentFromText("");
+    model.ReadForceMomentFromText(std::string(listings::element_forces.gbk) + "\n");
+    model.ReadForceMomentFromText(listings::section({"999 1:A @0", "x", "2:B @0"}, "(rod)"));
+    model.ReadForceMomentFromTxtFile("no such folder/no such file.txt");
+    model.ReadForceMomentFromTxtFile(nullptr);
+    EXPECT_TRUE(desktop.messages.empty()) << "no other trouble gives a message";
+    EXPECT_TRUE(desktop.questions.empty());
+}
+
+TEST(PlatformServicesInUse, AreTheOnesPutThere)
+{
+    PlatformServices* const usual = &GetPlatformServices();
+    {
+        scripted_services first;
+        EXPECT_EQ(&GetPlatformServices(), &first);
+        {
+            scripted_services second;
+            EXPECT_EQ(&GetPlatformServices(), &second);
+        }
+        EXPECT_EQ(&GetPlatformServices(), usual) << "null brings back the default ones, not the ones before";
+        SetPlatformServices(&first);
+        EXPECT_EQ(&GetPlatformServices(), &first);
+    }
+    EXPECT_EQ(&GetPlatformServices(), usual);
+    SetPlatformServices(nullptr);
+    EXPECT_EQ(&GetPlatformServices(), usual);
+}
+
+TEST(PlatformServicesInUse, NoLongerHearOfAnythingOnceReplaced)
+{
+    scripted_services desktop;
+    SetPlatformServices(nullptr);
+    scripted_services other;
+    SdReader model;
+    model.ReadForceMomentFromText(listing);
+    EXPECT_TRUE(desktop.messages.empty());
+    EXPECT_EQ(other.messages.size(), 1U);
+}
+
+#ifndef _WIN32
+TEST(DefaultPlatformServices, AnswerAtOnceAndSayNo)
+{
+    SetPlatformServices(nullptr);
+    PlatformServices& services = GetPlatformServices();
+    EXPECT_EQ(services.ShowMessage({caption, text, PlatformServices::Buttons::Ok, PlatformServices::Icon::Exclamation}),
+              PlatformServices::Answer::Ok);
+    EXPECT_EQ(services.ShowMessage({{}, u"?", PlatformServices::Buttons::YesNo, PlatformServices::Icon::None}),
+              PlatformServices::Answer::No);
+    EXPECT_EQ(services.AskForFile({u"text (*.txt)|*.txt||", 0}), "");
+}
+
+TEST(DefaultPlatformServices, TestFilesForReal)
+{
+    SetPlatformServices(nullptr);
+    const temporary_file file("");
+    EXPECT_TRUE(GetPlatformServices().CanRead(file.path()));
+    EXPECT_FALSE(GetPlatformServices().CanRead((std::string(file.path()) + ".missing").c_str()));
+    EXPECT_FALSE(GetPlatformServices().CanRead(""));
+    EXPECT_FALSE(GetPlatformServices().CanRead(nullptr));
+}
+
+TEST(DefaultPlatformServices, KeepAnImportWithoutAModelQuiet)
+{
+    SetPlatformServices(nullptr);
+    SdReader model;
+    EXPECT_NO_THROW(model.ReadForceMomentFromText(listing));
+    EXPECT_TRUE(model.beam_forces.empty());
+}
+#endif
+
+} // namespace
+} // namespace STAAD
