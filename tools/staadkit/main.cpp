@@ -3,6 +3,7 @@
 #include "messages.h"
 #include "std_output.h"
 #include "suggest.h"
+#include "terminal_services.h"
 #include "text_encoding.h"
 #include "verbs.h"
 
@@ -148,6 +149,8 @@ static void ignore_size_signal()
 int main(int argc, char** argv) // NOLINT(bugprone-exception-escape)
 {
     ignore_size_signal();
+    tool::terminal_services services(STAAD::GetPlatformServices());
+    STAAD::SetPlatformServices(&services);
     try {
         return tool::run(argc, argv);
     } catch (const std::bad_alloc&) {

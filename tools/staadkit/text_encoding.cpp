@@ -128,6 +128,34 @@ std::string escape_bytes(std::string_view bytes, IsEscaped is_escaped)
     return out;
 }
 
+char byte_of(std::uint32_t code) noexcept
+{
+    return static_cast<char>(static_cast<unsigned char>(code));
+}
+
+void append_utf8(std::string& out, std::uint32_t code)
+{
+    if (code < 0x80) {
+        out += byte_of(code);
+        return;
+    }
+    const std::uint32_t tails = code < 0x800 ? 1 : code < 0x10000 ? 2 : 3; // bytes behind the first
+    constexpr std::uint32_t first_bytes[] = {0, 0xC0, 0xE0, 0xF0};
+    out += byte_of(first_bytes[tails] | (code >> (6 * tails)));
+    for (std::uint32_t left = tails; left-- > 0;)
+        out += byte_of(0x80U | ((code >> (6 * left)) & 0x3FU));
+}
+
+bool is_high_surrogate(char16_t unit) noexcept
+{
+    return unit >= 0xD800 && unit < 0xDC00;
+}
+
+bool is_low_surrogate(char16_t unit) noexcept
+{
+    return unit >= 0xDC00 && unit < 0xE000;
+}
+
 #if STAADKIT_HAS_ICONV
 /// Opened once: opening loads the conversion tables.
 class converter {
@@ -210,18 +238,28 @@ std::optional<std::string> gbk_from_utf8(std::string_view text)
 #endif
 }
 
+std::string utf8_from_utf16(std::u16string_view text)
+{
+    constexpr std::uint32_t unknown = 0xFFFD;
+    std::string out;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        std::uint32_t code = text[i];
+        if (is_high_surrogate(text[i]) && i + 1 < text.size() && is_low_surrogate(text[i + 1])) {
+            code = 0x10000U + ((code & 0x3FFU) << 10U) + (text[i + 1] & 0x3FFU);
+            ++i;
+        } else if (is_high_surrogate(text[i]) || is_low_surrogate(text[i])) {
+            code = unknown;
+        }
+        append_utf8(out, code);
+    }
+    return out;
+}
+
 std::string utf8_from_bytes(std::string_view text)
 {
     std::string out;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::uint32_t byte = byte_at(text, i);
-        if (byte >= 0x80) {
-            out += static_cast<char>(0xC0U | (byte >> 6U));
-            out += static_cast<char>(0x80U | (byte & 0x3FU));
-        } else {
-            out += text[i];
-        }
-    }
+    for (std::size_t i = 0; i < text.size(); ++i)
+        append_utf8(out, byte_at(text, i));
     return out;
 }
 

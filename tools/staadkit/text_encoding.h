@@ -19,6 +19,9 @@ std::optional<std::string> utf8_from_gbk(std::string_view text);
 /// UTF-8 `text` in GBK; nothing if GBK lacks one of its characters, or the platform cannot tell.
 std::optional<std::string> gbk_from_utf8(std::string_view text);
 
+/// UTF-16 text of the library as UTF-8; half a pair of surrogates becomes U+FFFD.
+std::string utf8_from_utf16(std::u16string_view text);
+
 /// Every byte taken for the code point of its number: the last resort for bytes of no known
 /// encoding, which loses none of them.
 std::string utf8_from_bytes(std::string_view text);
