@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace STAAD::bench {
 
@@ -27,6 +28,12 @@ void print_time(const char* what, const best_time& time, std::size_t bytes)
 double megabytes(std::size_t bytes)
 {
     return 1e-6 * static_cast<double>(bytes);
+}
+
+void give_up(const std::string& what)
+{
+    std::fprintf(stderr, "error: %s\n", what.c_str());
+    std::exit(2);
 }
 
 } // namespace STAAD::bench

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <limits>
+#include <string>
 
 namespace STAAD::bench {
 
@@ -28,6 +29,21 @@ bool judge(const char* what, double value, double hard, double aim);
 void print_time(const char* what, const best_time& time, std::size_t bytes);
 
 double megabytes(std::size_t bytes);
+
+/// Tells what makes measuring impossible, and ends the program.
+[[noreturn]] void give_up(const std::string& what);
+
+/// Memory resident while `work` runs, beyond what was there before.
+template<class Work>
+std::size_t peak_bytes(Work work)
+{
+    give_back_free_memory();
+    if (!restart_peak_resident_bytes())
+        give_up("the system does not let us measure the peak of resident memory");
+    const std::size_t before = resident_bytes();
+    work();
+    return peak_resident_bytes() - before;
+}
 
 } // namespace STAAD::bench
 

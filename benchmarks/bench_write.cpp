@@ -34,12 +34,6 @@ constexpr std::size_t bytes_for_all = 64'000'000;
 
 constexpr const char* nowhere = "/dev/null";
 
-[[noreturn]] void give_up(const std::string& what)
-{
-    std::fprintf(stderr, "bench_write: error: %s\n", what.c_str());
-    std::exit(2);
-}
-
 /// Results go here, so that no optimiser can drop the work.
 volatile std::size_t sink = 0;
 
@@ -75,18 +69,6 @@ write_times time_writing(SdReader& model, const written_numbers& numbers)
             times.numbers.take(formatting);
     }
     return times;
-}
-
-/// Memory resident while `work` runs, beyond what was there before.
-template<class Work>
-std::size_t peak_bytes(Work work)
-{
-    give_back_free_memory();
-    if (!restart_peak_resident_bytes())
-        give_up("the system does not let us measure the peak of resident memory");
-    const std::size_t before = resident_bytes();
-    work();
-    return peak_resident_bytes() - before;
 }
 
 struct memory_figures {

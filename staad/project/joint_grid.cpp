@@ -59,42 +59,36 @@ bool is_same_place(const SdNode& left, const SdNode& right) noexcept
 }
 
 joint_grid::joint_grid(const std::vector<SdNode>& joints)
-    : joints_(joints), cells_(joints.size()), heads_(joints.size(), no_index), nexts_(joints.size(), no_index),
-      taken_(joints.size(), false)
+    : joints_(joints), cells_(joints.size()), nexts_(joints.size(), no_index), taken_(joints.size(), false)
 {
     // Backward, so that every cell lists its joints in list order.
     for (std::size_t i = joints.size(); i-- > 0;) {
         if (!has_place(joints[i]))
             continue;
-        const auto index = static_cast<std::int32_t>(i);
-        const cell key = cell_of(joints[i]);
-        std::int32_t& owner = cells_.at(
-            hash_of(key), [&](std::int32_t other) { return cell_of(joints_[static_cast<std::size_t>(other)]) == key; });
-        if (owner == no_index)
-            owner = index;
-        std::int32_t& head = heads_[static_cast<std::size_t>(owner)];
+        std::int32_t& head = head_of(cell_of(joints[i]));
         nexts_[i] = head;
-        head = index;
+        head = static_cast<std::int32_t>(i);
     }
 }
 
-std::int32_t* joint_grid::head_of(const cell& key)
+/// The first joint of a cell, `no_index` if the cell has none.
+std::int32_t& joint_grid::head_of(const cell& key)
 {
-    const std::int32_t owner = cells_.find(
-        hash_of(key), [&](std::int32_t other) { return cell_of(joints_[static_cast<std::size_t>(other)]) == key; });
-    return owner == no_index ? nullptr : &heads_[static_cast<std::size_t>(owner)];
+    return cells_.at(hash_of(key),
+                     [&](std::int32_t other) { return cell_of(joints_[static_cast<std::size_t>(other)]) == key; });
 }
 
-/// Walks a cell, and takes joints out of it that have been matched since the last walk.
-std::int32_t joint_grid::first_match(std::int32_t* head, const SdNode& joint)
+/// Walks a cell, and takes joints out of it that have been matched since the last walk. The last one stays,
+/// matched or not: a cell that once had joints keeps one to be known by.
+std::int32_t joint_grid::first_match(std::int32_t& head, const SdNode& joint)
 {
-    for (std::int32_t* link = head; *link != no_index;) {
+    for (std::int32_t* link = &head; *link != no_index;) {
         const auto index = static_cast<std::size_t>(*link);
-        if (taken_[index]) {
+        if (taken_[index] && nexts_[index] != no_index) {
             *link = nexts_[index];
             continue;
         }
-        if (is_same_place(joint, joints_[index]))
+        if (!taken_[index] && is_same_place(joint, joints_[index]))
             return *link;
         link = &nexts_[index];
     }
@@ -112,8 +106,7 @@ std::int32_t joint_grid::take_match(const SdNode& joint)
     for (std::size_t x = 0; x < xs.count; ++x) {
         for (std::size_t y = 0; y < ys.count; ++y) {
             for (std::size_t z = 0; z < zs.count; ++z) {
-                std::int32_t* const head = head_of({xs.cells[x], ys.cells[y], zs.cells[z]});
-                const std::int32_t match = head == nullptr ? no_index : first_match(head, joint);
+                const std::int32_t match = first_match(head_of({xs.cells[x], ys.cells[y], zs.cells[z]}), joint);
                 if (match != no_index && (best == no_index || match < best))
                     best = match;
             }

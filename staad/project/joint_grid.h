@@ -30,12 +30,11 @@ public:
 private:
     using cell = std::array<double, 3>;
 
-    std::int32_t* head_of(const cell& key);
-    std::int32_t first_match(std::int32_t* head, const SdNode& joint);
+    std::int32_t& head_of(const cell& key);
+    std::int32_t first_match(std::int32_t& head, const SdNode& joint);
 
     const std::vector<SdNode>& joints_;
-    hash_table cells_;                // first joint put into each cell
-    std::vector<std::int32_t> heads_; // by that joint: the first free joint of the cell
+    hash_table cells_;                // the first joint of each cell
     std::vector<std::int32_t> nexts_; // the next one of the same cell
     std::vector<bool> taken_;
 };

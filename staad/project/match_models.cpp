@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -25,98 +26,106 @@ counterparts match_joints(const std::vector<SdNode>& joints, const std::vector<S
     return matches;
 }
 
-/// Positions of the joints that a member or shell stands on, in the order that makes two the same.
-using joint_list = std::vector<int>;
+/// The counterpart of a joint of this model, 0 if it has none or is no joint.
+int counterpart_of(int position, const counterparts& joint_matches)
+{
+    const bool is_joint = position > 0 && static_cast<std::size_t>(position) <= joint_matches.size();
+    return is_joint ? joint_matches[static_cast<std::size_t>(position) - 1] : 0;
+}
 
-/// A member is the same in either direction.
-struct member_shape {
-    static void list_joints(const SdBeam& member, joint_list& joints)
+std::uint64_t mixed(std::uint64_t hash, int position) noexcept
+{
+    return detail::mixed(hash, static_cast<std::uint64_t>(position));
+}
+
+/// The joints that a member stands on; it is the same in either direction.
+struct member_joints {
+    explicit member_joints(const SdBeam& member) : low(member.node_start), high(member.node_end) { put_in_order(); }
+
+    /// Into those of the earlier model; false if one has no counterpart.
+    bool translate(const counterparts& joint_matches)
     {
-        joints.assign({member.node_start, member.node_end});
+        low = counterpart_of(low, joint_matches);
+        high = counterpart_of(high, joint_matches);
+        put_in_order();
+        return low != 0;
     }
-    static void put_in_order(joint_list& joints)
+    std::uint64_t hash() const noexcept { return mixed(mixed(0, low), high); }
+    bool operator==(const member_joints& other) const noexcept { return low == other.low && high == other.high; }
+
+    int low;
+    int high;
+
+private:
+    void put_in_order() noexcept
     {
-        if (joints[1] < joints[0])
-            std::swap(joints[0], joints[1]);
+        if (high < low)
+            std::swap(low, high);
     }
 };
 
-/// A shell with another first corner, or listed the other way round, is another one.
-struct shell_shape {
-    static void list_joints(const SdShell& shell, joint_list& joints) { joints = shell.node_ids; }
-    static void put_in_order(joint_list&) {}
+/// The corners of a shell in order: with another first corner, or the other way round, it is another one.
+struct shell_joints {
+    explicit shell_joints(const SdShell& shell) : corners(shell.node_ids) {}
+
+    bool translate(const counterparts& joint_matches)
+    {
+        for (int& corner : corners) {
+            corner = counterpart_of(corner, joint_matches);
+            if (corner == 0)
+                return false;
+        }
+        return true;
+    }
+    std::uint64_t hash() const noexcept { return std::accumulate(corners.begin(), corners.end(), seed(), mixed); }
+    bool operator==(const shell_joints& other) const noexcept { return corners == other.corners; }
+
+    std::vector<int> corners;
+
+private:
+    std::uint64_t seed() const noexcept { return corners.size(); }
 };
 
-/// Turns joints of this model into their counterparts; false if one has none.
-bool translate(joint_list& joints, const counterparts& joint_matches)
-{
-    for (int& position : joints) {
-        const bool is_joint = position > 0 && static_cast<std::size_t>(position) <= joint_matches.size();
-        position = is_joint ? joint_matches[static_cast<std::size_t>(position) - 1] : 0;
-        if (position == 0)
-            return false;
-    }
-    return true;
-}
-
-std::uint64_t hash_of(const joint_list& joints) noexcept
-{
-    std::uint64_t hash = joints.size();
-    for (const int position : joints)
-        hash = detail::mixed(hash, static_cast<std::uint64_t>(position));
-    return hash;
-}
-
-/// Finds records of an earlier model by the joints they stand on: the first of several.
-template<class Shape, class Record>
-class shape_index {
+/// Finds records of an earlier model by the joints they stand on: the first of several. Keeps the joints
+/// of every record beside each other: records are large, and far apart in memory.
+template<class Joints>
+class joints_index {
 public:
-    explicit shape_index(const std::vector<Record>& records) : records_(records), table_(records.size())
+    template<class Record>
+    explicit joints_index(const std::vector<Record>& records)
+        : joints_(records.begin(), records.end()), table_(records.size())
     {
-        for (std::size_t i = 0; i < records.size(); ++i) {
-            Shape::list_joints(records[i], wanted_);
-            Shape::put_in_order(wanted_);
-            std::int32_t& first = table_.at(hash_of(wanted_), is_wanted());
+        for (std::size_t i = 0; i < joints_.size(); ++i) {
+            std::int32_t& first = table_.at(joints_[i].hash(), is(joints_[i]));
             if (first == detail::no_index)
                 first = static_cast<std::int32_t>(i);
         }
     }
 
-    /// 1-based position of the counterpart of `record`, 0 if it has none.
-    int match(const Record& record, const counterparts& joint_matches)
-    {
-        Shape::list_joints(record, wanted_);
-        if (!translate(wanted_, joint_matches))
-            return 0;
-        Shape::put_in_order(wanted_);
-        return table_.find(hash_of(wanted_), is_wanted()) + 1;
-    }
+    /// 1-based position of the first record on these joints, 0 if there is none.
+    int position(const Joints& joints) const { return table_.find(joints.hash(), is(joints)) + 1; }
 
 private:
-    auto is_wanted()
+    auto is(const Joints& joints) const
     {
-        return [this](std::int32_t index) {
-            Shape::list_joints(records_[static_cast<std::size_t>(index)], met_);
-            Shape::put_in_order(met_);
-            return met_ == wanted_;
-        };
+        return [this, &joints](std::int32_t index) { return joints_[static_cast<std::size_t>(index)] == joints; };
     }
 
-    const std::vector<Record>& records_;
+    std::vector<Joints> joints_; // by record
     detail::hash_table table_;
-    joint_list wanted_;
-    joint_list met_;
 };
 
-template<class Shape, class Record>
-counterparts match_shapes(const std::vector<Record>& records, const std::vector<Record>& earlier,
-                          const counterparts& joint_matches)
+template<class Joints, class Record>
+counterparts match_by_joints(const std::vector<Record>& records, const std::vector<Record>& earlier,
+                             const counterparts& joint_matches)
 {
-    shape_index<Shape, Record> index(earlier);
+    const joints_index<Joints> index(earlier);
     counterparts matches;
     matches.reserve(records.size());
-    for (const Record& record : records)
-        matches.push_back(index.match(record, joint_matches));
+    for (const Record& record : records) {
+        Joints joints(record);
+        matches.push_back(joints.translate(joint_matches) ? index.position(joints) : 0);
+    }
     return matches;
 }
 
@@ -145,8 +154,8 @@ void fill(std::map<int, int>& new_to_old, std::map<int, int>& old_to_new, const 
 void SdReader::MakeMap(const SdReader& old)
 {
     const counterparts joints = match_joints(nodes, old.nodes);
-    const counterparts members = match_shapes<member_shape>(beams, old.beams, joints);
-    const counterparts elements = match_shapes<shell_shape>(shells, old.shells, joints);
+    const counterparts members = match_by_joints<member_joints>(beams, old.beams, joints);
+    const counterparts elements = match_by_joints<shell_joints>(shells, old.shells, joints);
     OldProjMaps& maps = old_proj_maps;
     fill(maps.joints_new_to_old, maps.joints_old_to_new, joints, old.nodes.size());
     fill(maps.members_new_to_old, maps.members_old_to_new, members, old.beams.size());
