@@ -13,7 +13,7 @@ namespace STAAD {
 
 /// A member of a storey with what belongs to it.
 struct STAAD_API LayerMember {
-    SdBeam member;
+    SdBeam member;          ///< its ends are 1-based positions in SdReader::nodes of the model that was read
     Section section;        ///< from the member's material and property text; `tag` numbers the property
     BeamForceAndMOM forces; ///< imported forces; empty if there are none
 };
@@ -22,8 +22,8 @@ struct STAAD_API LayerMember {
 struct STAAD_API StoreyLayer {
     double base = 0.0;                ///< mm, height of the lower level
     double height = 0.0;              ///< mm to the next level; 3000 if the model has but one level
-    std::vector<LayerMember> members; ///< members whose higher end is at the upper level
-    std::vector<SdShell> shells;      ///< elements whose highest corner is at the upper level
+    std::vector<LayerMember> members; ///< those that rise to the upper level; of a single level those on it or below
+    std::vector<SdShell> shells;      ///< the same of elements
 };
 
 /// A joint and the level that it belongs to.

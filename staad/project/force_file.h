@@ -2,17 +2,19 @@
 #ifndef STAAD_PROJECT_FORCE_FILE_H
 #define STAAD_PROJECT_FORCE_FILE_H
 
+#include "staad/model/export.h"
+
 #include <string>
 #include <string_view>
 
 namespace STAAD {
 
 /// `path` with its last four characters replaced by ".txt"; they are not dropped if it has fewer.
-std::string force_file_beside(std::string_view path);
+STAAD_API std::string force_file_beside(std::string_view path);
 
 /// The ".txt" file beside the model `path` if it can be opened, else the one that the user chooses in a
 /// file dialog; empty if none was chosen.
-std::string find_force_file(std::string_view path);
+STAAD_API std::string find_force_file(std::string_view path);
 
 } // namespace STAAD
 

@@ -2,6 +2,7 @@
 
 #include "staad/project/force_file.h"
 #include "staad/project/levels.h"
+#include "staad/reader/read_report.h"
 
 #include <cstddef>
 #include <string>
@@ -19,8 +20,8 @@ public:
     Section numbered(const SdBeam& member)
     {
         Section section(member.material, member.sect_text);
-        section.tag = static_cast<int>(sections_.size()) + 1;
-        const auto [known, is_new] = tags_.try_emplace(section.property, section.tag);
+        const int next_tag = static_cast<int>(sections_.size()) + 1;
+        const auto [known, is_new] = tags_.try_emplace(section.property, next_tag);
         section.tag = known->second;
         if (is_new)
             sections_.push_back(section);
@@ -87,28 +88,28 @@ std::vector<StoreyLayer> storeys_between(const std::vector<double>& levels, std:
     return layers;
 }
 
-/// Reads with or without a report.
-template<class... Report>
-bool build(StaadProProject_layered& project, const char* path, int with_forces, Report&... report)
-{
-    SdReader model;
-    if (!model.ReadSDDataFromStdFile(path, report...))
-        return false;
-    if (with_forces != 0)
-        model.ReadForceMomentFromTxtFile(find_force_file(path).c_str());
-    return project.BuildFromModel(std::move(model));
-}
-
 } // namespace
 
 bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces)
 {
-    return build(*this, path, with_forces);
+    SdReader model;
+    if (!model.ReadSDDataFromStdFile(path))
+        return false;
+    if (with_forces != 0)
+        model.ReadForceMomentFromTxtFile(find_force_file(path).c_str());
+    return BuildFromModel(std::move(model));
 }
 
-bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces, ReadReport& report)
+bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces, ReadReport& of_model,
+                                           ReadReport& of_forces)
 {
-    return build(*this, path, with_forces, report);
+    of_forces = {};
+    SdReader model;
+    if (!model.ReadSDDataFromStdFile(path, of_model))
+        return false;
+    if (with_forces != 0)
+        model.ReadForceMomentFromTxtFile(find_force_file(path).c_str(), of_forces);
+    return BuildFromModel(std::move(model));
 }
 
 bool StaadProProject_layered::BuildFromModel(SdReader model)
