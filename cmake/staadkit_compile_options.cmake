@@ -32,3 +32,12 @@ function(staadkit_compile_options target)
         endif()
     endif()
 endfunction()
+
+# The same for test programs. They are large and run for seconds: what takes time is their compilation,
+# so it does not optimise. The library under test is compiled as for everything else.
+function(staadkit_test_options target)
+    staadkit_compile_options(${target})
+    if(NOT MSVC)
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
+endfunction()
