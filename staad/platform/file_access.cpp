@@ -8,6 +8,8 @@
 #include <utility>
 
 #ifdef _WIN32
+#    include "staad/platform/windows_path.h"
+
 #    include <io.h>
 #else
 #    include <unistd.h>
@@ -15,6 +17,29 @@
 
 namespace STAAD::detail {
 namespace {
+
+#ifdef _WIN32
+/// Windows has wide names for files: narrow ones stop at 260 characters.
+std::FILE* open(const char* path, const char* mode)
+{
+    return _wfopen(wide_path(path).c_str(), wide_text(mode).c_str());
+}
+
+std::filesystem::path system_path(const char* path)
+{
+    return wide_path(path);
+}
+#else
+std::FILE* open(const char* path, const char* mode)
+{
+    return std::fopen(path, mode);
+}
+
+std::filesystem::path system_path(const char* path)
+{
+    return path;
+}
+#endif
 
 struct close_file {
     void operator()(std::FILE* file) const noexcept
@@ -29,13 +54,8 @@ constexpr std::size_t first_guess = 1 << 16;
 /// A named pipe opened for reading and writing never ends: this program itself could still write to it.
 bool is_pipe(const char* path)
 {
-#ifdef _WIN32
-    static_cast<void>(path); // pipes there have names of their own, which are no paths
-    return false;
-#else
     std::error_code error;
-    return std::filesystem::is_fifo(std::filesystem::path(path), error);
-#endif
+    return std::filesystem::is_fifo(system_path(path), error);
 }
 
 /// Size of a file that can be measured, 0 of one that cannot (a device).
@@ -85,7 +105,7 @@ file_bytes read_updatable_file(const char* path)
         return result;
     }
     errno = 0;
-    const open_file file(std::fopen(path, "r+b"));
+    const open_file file(open(path, "r+b"));
     if (!file) {
         result.outcome = errno == ENOENT ? file_bytes::state::missing : file_bytes::state::not_accessible;
         return result;
@@ -99,7 +119,8 @@ file_bytes read_updatable_file(const char* path)
 bool can_read(const char* path) noexcept
 {
 #ifdef _WIN32
-    return path != nullptr && _access(path, 4) == 0;
+    constexpr int for_reading = 4;
+    return path != nullptr && _waccess(wide_path(path).c_str(), for_reading) == 0;
 #else
     return path != nullptr && access(path, R_OK) == 0;
 #endif
@@ -108,9 +129,9 @@ bool can_read(const char* path) noexcept
 bool can_be_opened(const char* path)
 {
     std::error_code error;
-    if (path == nullptr || std::filesystem::is_directory(std::filesystem::path(path), error))
+    if (path == nullptr || std::filesystem::is_directory(system_path(path), error))
         return false;
-    return open_file(std::fopen(path, "r")) != nullptr;
+    return open_file(open(path, "r")) != nullptr;
 }
 
 output_file::output_file(const char* path)
@@ -120,7 +141,7 @@ output_file::output_file(const char* path)
         return;
     }
     errno = 0;
-    file_ = std::fopen(path, "w");
+    file_ = open(path, "w");
     if (file_ == nullptr)
         fail();
 }

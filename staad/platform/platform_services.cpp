@@ -1,12 +1,19 @@
 #include "staad/platform/platform_services.h"
 
-#include "staad/platform/file_access.h"
-
 #include <atomic>
+
+#ifdef _WIN32
+#    include "staad/platform/windows_services.h"
+#else
+#    include "staad/platform/file_access.h"
+#endif
 
 namespace STAAD {
 namespace {
 
+#ifdef _WIN32
+using default_services_type = detail::windows_services;
+#else
 /// For a machine without a desktop.
 class silent_services final : public PlatformServices {
 public:
@@ -17,10 +24,12 @@ public:
     std::string AskForFile(const FileQuestion&) override { return {}; }
     bool CanRead(const char* path) override { return detail::can_read(path); }
 };
+using default_services_type = silent_services;
+#endif
 
 PlatformServices& default_services() noexcept
 {
-    static silent_services services;
+    static default_services_type services;
     return services;
 }
 

@@ -53,8 +53,8 @@ protected:
 /// it. Safe in any thread.
 STAAD_API void SetPlatformServices(PlatformServices* services) noexcept;
 
-/// The services in use. The default ones show nothing: a message is gone at once, a question is
-/// answered no, a dialog cancelled. The access test is real.
+/// The services in use. The default ones are those of the desktop on Windows. Elsewhere they show nothing: a
+/// message is gone at once, a question is answered no, a dialog cancelled; the access test is real.
 STAAD_API PlatformServices& GetPlatformServices() noexcept;
 
 } // namespace STAAD

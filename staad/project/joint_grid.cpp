@@ -15,11 +15,10 @@ constexpr double cells_per_mm = 2.0;
 // A little wider than the tolerance: the sums below round.
 constexpr double reach = 0.1001;
 
-/// The cell of a coordinate. Never falls where the coordinate rises, as far as cells are searched side by
-/// side: at 1e300 the next double is far outside of the tolerance.
+/// The cell of a coordinate. Never falls where the coordinate rises.
 double cell_of(double coordinate) noexcept
 {
-    return std::abs(coordinate) < 1e300 ? std::floor(coordinate * cells_per_mm + 0.5) : coordinate;
+    return std::floor(coordinate * cells_per_mm + 0.5);
 }
 
 std::array<double, 3> cell_of(const SdNode& joint) noexcept
@@ -31,7 +30,7 @@ std::uint64_t hash_of(const std::array<double, 3>& cell) noexcept
 {
     std::uint64_t hash = 0;
     for (const double part : cell)
-        hash = mixed(hash, std::bit_cast<std::uint64_t>(part + 0.0)); // -0 and 0 are one cell
+        hash = mixed(hash, std::bit_cast<std::uint64_t>(part)); // never -0
     return hash;
 }
 

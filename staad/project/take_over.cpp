@@ -45,6 +45,16 @@ private:
     const std::map<int, int>& old_to_new_;
 };
 
+/// The lists under every description, also those that end empty.
+template<class Lists, class Translation>
+Lists translated(const Lists& lists, const Translation& translate)
+{
+    Lists result;
+    for (const auto& [description, numbers] : lists)
+        result.emplace_hint(result.end(), description, translate(numbers));
+    return result;
+}
+
 } // namespace
 
 void SdReader::compWithOldProj(const char* path)
@@ -71,18 +81,20 @@ void SdReader::TakeOverFrom(const SdReader& earlier)
     const number_translation joints(earlier.nodes, nodes, old_proj_maps.joints_old_to_new);
     const number_translation members(earlier.beams, beams, old_proj_maps.members_old_to_new);
 
-    groups.clear();
+    // Complete before any of it replaces what is here: `earlier` may be this very model.
+    std::vector<SdGroup> taken_groups;
     for (SdGroup group : earlier.groups) {
         // Element groups go by joints, too: the numbers in them are taken for those of joints.
         group.ids = group.GetIdType() == SdGroup::MemberId ? members(group.ids) : joints(group.ids);
         if (!group.ids.empty())
-            groups.push_back(std::move(group));
+            taken_groups.push_back(std::move(group));
     }
-    supports.clear();
-    for (const auto& [description, numbers] : earlier.supports)
-        supports[description] = joints(numbers);
-    for (const auto& [description, numbers] : earlier.releases)
-        releases[description] = members(numbers);
+    auto taken_supports = translated(earlier.supports, joints);
+    auto taken_releases = translated(earlier.releases, members);
+    groups = std::move(taken_groups);
+    supports = std::move(taken_supports);
+    for (auto& [description, numbers] : taken_releases)
+        releases[description] = std::move(numbers);
 }
 
 } // namespace STAAD
