@@ -7,8 +7,8 @@
 namespace cli_test {
 namespace {
 
-constexpr const char* help_calls[][2] = {
-    {"--help", ""}, {"-h", ""}, {"info", "--help"}, {"dump", "-h"}, {"convert", "-h"}};
+constexpr const char* help_calls[][2] = {{"--help", ""},    {"-h", ""},        {"info", "--help"}, {"dump", "-h"},
+                                         {"convert", "-h"}, {"storeys", "-h"}, {"compare", "-h"}};
 
 TEST(Usage, HelpNamesEveryExitCode)
 {
@@ -39,6 +39,19 @@ TEST(Usage, HelpNamesTheVerbsAndTheirOptions)
     EXPECT_TRUE(contains(convert_help, "Usage: staadkit convert [OPTIONS] IN OUT\n"));
     for (const char* option : {"--wind FILE ", "--seismic FILE ", "--force ", "--template NAME ", "--notes "})
         EXPECT_TRUE(contains(convert_help, std::string("\n  ") + option)) << option;
+}
+
+TEST(Usage, HelpOfStoreysAndCompare)
+{
+    const tool_run tool;
+    const std::string storeys_help = tool({"storeys", "--help"}).out;
+    EXPECT_TRUE(contains(storeys_help, "Usage: staadkit storeys [OPTIONS] FILE\n")) << storeys_help;
+    for (const char* option : {"--forces [LISTING] ", "--json ", "--notes "})
+        EXPECT_TRUE(contains(storeys_help, std::string("\n  ") + option)) << option;
+    const std::string compare_help = tool({"compare", "--help"}).out;
+    EXPECT_TRUE(contains(compare_help, "Usage: staadkit compare [OPTIONS] NEW OLD\n")) << compare_help;
+    for (const char* option : {"--take-over OUT ", "--yes ", "--force ", "--json ", "--notes "})
+        EXPECT_TRUE(contains(compare_help, std::string("\n  ") + option)) << option;
 }
 
 TEST(Usage, Version)
@@ -94,6 +107,16 @@ const slip slips[] = {
      {"convert", "--template", "wind", "a.std"},
      "IN excludes --template",
      "staadkit convert --help"},
+    {"no model", {"storeys", "--json"}, "FILE is required", "staadkit storeys --help"},
+    {"nothing to compare with", {"compare", "a.std"}, "OLD is required", "staadkit compare --help"},
+    {"a third model",
+     {"compare", "a.std", "b.std", "c.std"},
+     "one argument too many: 'c.std'",
+     "staadkit compare --help"},
+    {"no file behind --take-over",
+     {"compare", "a.std", "b.std", "--take-over"},
+     "--take-over: 1 required OUT missing",
+     "staadkit compare --help"},
     {"no verb", {}, "no verb given", "staadkit --help"},
 };
 

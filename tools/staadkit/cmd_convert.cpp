@@ -2,28 +2,20 @@
 
 #include "conversion_notes.h"
 #include "messages.h"
+#include "model_output.h"
 #include "open_model.h"
 #include "parameter_file.h"
 #include "parameter_template.h"
-#include "std_output.h"
-#include "text_encoding.h"
 #include "verbs.h"
-#include "whole_file.h"
 
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
 #include <memory>
 #include <new>
 #include <string>
-#include <string_view>
-#include <system_error>
-#include <utility>
 
 namespace tool {
 namespace {
-
-namespace fs = std::filesystem;
 
 struct convert_options {
     std::string in;
@@ -40,28 +32,6 @@ std::string why_no_template(const std::string& name)
     if (name == wind_template || name == seismic_template)
         return {};
     return '\'' + name + "' is neither wind nor seismic";
-}
-
-exit_code fail_to_write(const std::string& path, const std::string& reason)
-{
-    print_error(printable_name(path) + ": " + reason);
-    return not_written;
-}
-
-bool is_same_file(const std::string& one, const std::string& other)
-{
-    std::error_code not_both;
-    return fs::equivalent(one, other, not_both);
-}
-
-/// Why the output must not be written where it is wanted; empty if it may.
-std::string why_not_there(const convert_options& options)
-{
-    std::error_code no_file;
-    if (options.force || options.out == "-" || !fs::is_regular_file(options.out, no_file))
-        return {};
-    return is_same_file(options.in, options.out) ? "is the input; --force overwrites it"
-                                                 : "is there already; --force overwrites it";
 }
 
 /// One of the two parameter files, and what its reading had to tell.
@@ -82,14 +52,6 @@ struct parameters {
     STAAD::ReadReport report;
 };
 
-exit_code write_output(const std::string& path, std::string_view text)
-{
-    if (path == "-")
-        return print_result(text, done);
-    const std::error_code error = write_whole_file(path, text);
-    return error ? fail_to_write(path, error.message()) : done;
-}
-
 using wind_parameters = parameters<STAAD::WindLoadParam>;
 using seismic_parameters = parameters<STAAD::SeismicParam>;
 
@@ -101,19 +63,21 @@ exit_code write_model(opened_model& opened, const wind_parameters& wind, const s
     opened.model.eq_param = seismic.record;
     const std::string text = opened.model.WriteDataToText();
     // What the file means comes first: it is easily missed behind the warnings on a large model.
-    print_notes(options.out == "-" ? "<stdout>" : options.out, text, notes);
+    print_notes(output_name(options.out), text, notes);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
     wind.tell();
     seismic.tell();
-    return write_output(options.out, text);
+    return write_output(options.out, text, done);
 }
 
 exit_code run_convert(const convert_options& options)
 {
     if (!options.template_name.empty())
         return print_template(options.template_name);
-    if (const std::string reason = why_not_there(options); !reason.empty())
-        return fail_to_write(options.out, reason);
+    if (!options.force) {
+        if (const std::string reason = why_not_there(options.out, {options.in}); !reason.empty())
+            return fail_to_write(options.out, reason);
+    }
     const wind_parameters wind(options.wind);
     const seismic_parameters seismic(options.seismic);
     if (wind.failed() || seismic.failed()) {

@@ -1,5 +1,6 @@
 #include "info_json.h"
 
+#include "load_words.h"
 #include "messages.h"
 #include "text_encoding.h"
 
@@ -108,12 +109,11 @@ json user_tables(const model_summary& summary)
 
 json load_case(const load_case_summary& summary)
 {
-    constexpr const char* types[] = {"unknown", "dead", "live", "wind", "seismic"};
     json definitions = json::array();
     for (const kind_count& each : summary.definitions)
         definitions.push_back({{"kind", utf8_text(each.kind)}, {"count", each.count}});
     return {{"number", summary.number},
-            {"type", types[summary.type]},
+            {"type", load_type_word(summary.type)},
             {"type_text", utf8_text(summary.type_text)},
             {"title", utf8_text(summary.title)},
             {"definitions", std::move(definitions)},

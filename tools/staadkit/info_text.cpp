@@ -1,5 +1,7 @@
 #include "info_text.h"
 
+#include "element_count.h"
+#include "load_words.h"
 #include "table.h"
 #include "text_encoding.h"
 #include "words.h"
@@ -150,8 +152,8 @@ void put_user_tables(std_output& out, const model_summary& summary)
 
 std::string load_type(const load_case_summary& load_case)
 {
-    constexpr const char* words[] = {"", "dead", "live", "wind", "seismic"};
-    return load_case.type == STAAD::LoadCase::Unknown ? shown_or(load_case.type_text, "-") : words[load_case.type];
+    return load_case.type == STAAD::LoadCase::Unknown ? shown_or(load_case.type_text, "-")
+                                                      : load_type_word(load_case.type);
 }
 
 /// "UNI" for "MEMBER LOAD UNI": most loads are member loads, and a line has only so much room.
@@ -234,8 +236,7 @@ std::string one_line_report(const opened_model& opened)
     const SdReader& model = opened.model;
     const std::size_t surfaces = model.surfaces.size();
     return printable_name(opened.name) + ": " + count_of(model.nodes.size(), "joint") + ", " +
-           count_of(model.beams.size(), "member") + ", " +
-           count_of(model.shells.size() - std::min(model.shells.size(), surfaces), "element") + ", " +
+           count_of(model.beams.size(), "member") + ", " + count_of(element_count(model), "element") + ", " +
            count_of(surfaces, "surface") + ", " + count_of(model.load_cases.size(), "load case") + '\n';
 }
 

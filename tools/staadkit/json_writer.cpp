@@ -52,6 +52,16 @@ void json_writer::value(unsigned number)
     put_number(out_, number);
 }
 
+void json_writer::value(unsigned long number)
+{
+    put_number(out_, number);
+}
+
+void json_writer::value(unsigned long long number)
+{
+    put_number(out_, number);
+}
+
 void json_writer::value(double number)
 {
     if (std::isnan(number))

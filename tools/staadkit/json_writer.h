@@ -12,6 +12,7 @@
 #include <array>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -35,6 +36,8 @@ public:
     void value(bool flag);
     void value(int number);
     void value(unsigned number);
+    void value(unsigned long number);
+    void value(unsigned long long number);
     /// The fewest digits that read back to the same bits. JSON has no infinities and no NaN:
     /// these become the texts "Infinity", "-Infinity" and "NaN".
     void value(double number);
@@ -42,6 +45,16 @@ public:
     void value(const std::string& text);
     /// [x, y, z]
     void value(const STAAD::SdOffset& offset);
+
+    /// null for nothing
+    template<class Item>
+    void value(const std::optional<Item>& item)
+    {
+        if (item)
+            value(*item);
+        else
+            out_.put("null");
+    }
 
     template<class Item, std::size_t Count>
     void value(const std::array<Item, Count>& items)

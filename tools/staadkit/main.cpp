@@ -23,6 +23,9 @@ constexpr verb verbs[] = {
     {"info", "Show what files hold: joints, members, storeys, sections, supports, loads", set_up_info},
     {"dump", "Print every field of a model as JSON, numbers exact to the last bit", set_up_dump},
     {"convert", "Write a model as normalised .std, with generated wind and seismic loads", set_up_convert},
+    {"forces", "Show the internal forces of members that the analysis printed", set_up_forces},
+    {"storeys", "Show what stands in which storey: joints, members, shells, sections", set_up_storeys},
+    {"compare", "Show how a model differs from an earlier one, and take definitions over from it", set_up_compare},
 };
 
 constexpr const char* exit_code_help = "Exit codes:\n"

@@ -1,5 +1,6 @@
 #include "model_summary.h"
 
+#include "element_count.h"
 #include "messages.h"
 #include "staad/project/levels.h"
 
@@ -72,7 +73,7 @@ model_summary summarise(const SdReader& model, const STAAD::ReadReport& report)
     summary.joints = model.nodes.size();
     summary.members = model.beams.size();
     summary.surfaces = model.surfaces.size();
-    summary.elements = model.shells.size() - std::min(model.shells.size(), summary.surfaces);
+    summary.elements = element_count(model);
     summary.box = box_around(model.nodes);
     summary.levels = STAAD::detail::storey_levels(model);
     count_members(model, summary);

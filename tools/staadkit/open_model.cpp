@@ -1,5 +1,6 @@
 #include "open_model.h"
 
+#include "progress_line.h"
 #include "read_stream.h"
 #include "staad/reader/read_limit.h"
 
@@ -50,6 +51,18 @@ bool read_model(const std::string& path, opened_model& opened)
     return false;
 }
 
+void read_forces(const std::string& path, STAAD::SdReader& model, STAAD::ReadReport& report)
+{
+    if (path != "-") {
+        const progress_line shown(path);
+        return model.ReadForceMomentFromTxtFile(path.c_str(), report);
+    }
+    std::string text;
+    if (read_standard_input(text))
+        return model.ReadForceMomentFromText(text, report);
+    add_error(report, "file-unreadable", 0, std::strerror(errno));
+}
+
 /// What the error says, without the place: that is the message's to tell.
 std::string limit_text(const STAAD::ReadLimitError& error)
 {
@@ -70,7 +83,7 @@ void fail_for_memory(opened_model& opened, const char* text)
 opened_model open_model(const std::string& path)
 {
     opened_model opened;
-    opened.name = path == "-" ? "<stdin>" : path;
+    opened.name = input_name(path);
     try {
         opened.was_read = read_model(path, opened);
         if (!opened.was_read && opened.report.worst() != Finding::Error)
@@ -84,9 +97,28 @@ opened_model open_model(const std::string& path)
     return opened;
 }
 
+opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
+{
+    opened_forces opened;
+    opened.name = input_name(path);
+    try {
+        read_forces(path, model, opened.report);
+    } catch (const std::bad_alloc&) {
+        model.beam_forces.clear();
+        add_error(opened.report, "memory", 0, "not enough memory to read it");
+    }
+    opened.was_read = opened.report.worst() != Finding::Error;
+    return opened;
+}
+
 void give_up_for_memory(opened_model& opened)
 {
     fail_for_memory(opened, "not enough memory to tell what it holds");
+}
+
+std::string input_name(const std::string& path)
+{
+    return path == "-" ? "<stdin>" : path;
 }
 
 std::string first_error(const STAAD::ReadReport& report)

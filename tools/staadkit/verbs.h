@@ -32,6 +32,9 @@ struct verb {
 verb_action set_up_info(CLI::App& command);
 verb_action set_up_dump(CLI::App& command);
 verb_action set_up_convert(CLI::App& command);
+verb_action set_up_forces(CLI::App& command);
+verb_action set_up_storeys(CLI::App& command);
+verb_action set_up_compare(CLI::App& command);
 
 } // namespace tool
 

@@ -1,0 +1,336 @@
+// The verb "compare": what is the same in two models, and what is not.
+
+#include "compared_decks.h"
+#include "tool_run.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+
+namespace cli_test {
+namespace {
+
+using nlohmann::json;
+
+/// Compares two decks.
+class comparison {
+public:
+    comparison(std::string_view now, std::string_view earlier)
+        : new_path_(tool_.write("new.std", now)), old_path_(tool_.write("old.std", earlier))
+    {
+    }
+
+    tool_result text() const { return tool_({"compare", new_path_, old_path_}); }
+
+    json report(int exit_code) const
+    {
+        const tool_result result = tool_({"compare", "--json", new_path_, old_path_});
+        EXPECT_EQ(result.exit_code, exit_code) << result.err;
+        return json::parse(result.out);
+    }
+
+    const std::string& new_path() const { return new_path_; }
+    const std::string& old_path() const { return old_path_; }
+    const tool_run& tool() const { return tool_; }
+
+private:
+    tool_run tool_;
+    std::string new_path_;
+    std::string old_path_;
+};
+
+json counts(int in_new, int in_old, int matched, int renumbered)
+{
+    return {{"in_new", in_new},       {"in_old", in_old},     {"matched", matched},   {"renumbered", renumbered},
+            {"moved", json::array()}, {"new", json::array()}, {"gone", json::array()}};
+}
+
+json with(json object, const char* key, json value)
+{
+    object[key] = std::move(value);
+    return object;
+}
+
+TEST(Compare, ModelsThatDoNotDiffer)
+{
+    const comparison models(frame_deck(), frame_deck());
+    const tool_result result = models.text();
+    EXPECT_EQ(result.exit_code, 0) << result.err;
+    EXPECT_EQ(result.out, "NEW: " + models.new_path() + "\nOLD: " + models.old_path() +
+                              "\n"
+                              "the models do not differ\n"
+                              "            in NEW  in OLD  matched  renumbered  resectioned  moved  new  gone\n"
+                              "  joints         4       4        4           0            -      0    0     0\n"
+                              "  members        3       3        3           0            0      0    0     0\n"
+                              "  elements       1       1        1           0            -      0    0     0\n"
+                              "  surfaces       0       0        0           0            -      0    0     0\n"
+                              "groups to take over: none\n"
+                              "supports to take over: none\n"
+                              "releases to take over: none\n"
+                              "replaced in NEW: nothing\n");
+    const json report = models.report(0);
+    EXPECT_EQ(report["differ"], false);
+    EXPECT_EQ(report["tolerance_mm"], 0.1);
+    EXPECT_EQ(report["new"]["file"], models.new_path());
+    EXPECT_EQ(report["old"]["file"], models.old_path());
+    EXPECT_EQ(report["old"]["was_read"], true);
+    EXPECT_EQ(report["old"]["findings"][0]["code"], "skipped");
+}
+
+TEST(Compare, OtherNumbersAndAnotherOrderAreNoDifference)
+{
+    // The earlier joints backwards from 40 on, members with other numbers, two of them the other way round.
+    frame_parts earlier;
+    earlier.joints = "40 6 4 0; 30 0 4 0; 20 6 0 0; 10 0 0 0;\n";
+    earlier.members = "7 40 30; 8 40 20; 1 10 30;\n";
+    earlier.elements = "21 10 20 40 30;\n";
+    earlier.sections = "1 8 PRIS YD 0.4 ZD 0.4\n7 PRIS YD 0.5 ZD 0.3\n";
+    const json report = comparison(frame_deck(), frame_deck(earlier)).report(0);
+    EXPECT_EQ(report["joints"], counts(4, 4, 4, 4));
+    EXPECT_EQ(report["members"], counts(3, 3, 3, 2)); // only member 1 kept its number
+    EXPECT_EQ(report["elements"], counts(1, 1, 1, 1));
+    EXPECT_EQ(report["surfaces"], counts(0, 0, 0, 0));
+    EXPECT_EQ(report["resectioned"], json::array());
+}
+
+TEST(Compare, OtherUnitsAreNoDifference)
+{
+    const std::string in_mm = "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3000 0\nMEMBER INCIDENCES\n1 1 2\nFINISH\n";
+    EXPECT_EQ(comparison(small_deck(), in_mm).text().exit_code, 0);
+}
+
+TEST(Compare, MovedJointsTakeTheirMembersAndElementsAlong)
+{
+    frame_parts parts;
+    parts.joints = "1 0 0 0; 2 6 0 0; 3 0 4 0; 4 6 4.25 0.5;\n";
+    const comparison models(frame_deck(parts), frame_deck());
+    const tool_result result = models.text();
+    EXPECT_EQ(result.exit_code, 1) << result.err;
+    EXPECT_TRUE(has_line(result.out, "the models differ")) << result.out;
+    EXPECT_TRUE(has_line(result.out, "  joints         4       4        3           0            -      1    0     0"))
+        << result.out;
+    EXPECT_TRUE(has_line(result.out, "  members        3       3        1           0            0      2    0     0"))
+        << result.out;
+    EXPECT_TRUE(contains(result.out, "  moved  1 joint    4\n"
+                                     "                    by up to 500 mm along an axis\n"
+                                     "  moved  2 members  2 TO 3\n"
+                                     "  moved  1 element  11\n"))
+        << result.out;
+    const json report = models.report(1);
+    EXPECT_EQ(report["differ"], true);
+    EXPECT_EQ(report["joints"], with(counts(4, 4, 3, 0), "moved", {4}));
+    EXPECT_EQ(report["members"], with(counts(3, 3, 1, 0), "moved", {2, 3}));
+    EXPECT_EQ(report["elements"], with(counts(1, 1, 0, 0), "moved", {11}));
+    EXPECT_EQ(
+        report["moved_joints"],
+        json::array({{{"number", 4}, {"old_file_xyz_mm", {6000, 4000, 0}}, {"new_file_xyz_mm", {6000, 4250, 500}}}}));
+}
+
+TEST(Compare, LessThanATenthOfAMillimetreIsTheSamePlace)
+{
+    // Joint 1 stands at 0, where the distance is what the file says to the last bit.
+    frame_parts parts;
+    parts.joints = "1 0.00005 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0;\n";
+    EXPECT_EQ(comparison(frame_deck(parts), frame_deck()).text().exit_code, 0);
+    parts.joints = "1 0.0001 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0;\n";
+    EXPECT_EQ(comparison(frame_deck(parts), frame_deck()).report(1)["joints"]["moved"], json({1}));
+}
+
+TEST(Compare, NewAndGone)
+{
+    frame_parts now;
+    now.joints = "1 0 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0; 9 12 4 0;\n";
+    now.members = "1 1 3; 3 3 4; 8 4 9;\n";
+    now.elements = "";
+    frame_parts earlier;
+    earlier.joints = "1 0 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0; 5 -3 4 0;\n";
+    const comparison models(frame_deck(now), frame_deck(earlier));
+    const json report = models.report(1);
+    EXPECT_EQ(report["joints"], with(with(counts(5, 5, 4, 0), "new", {9}), "gone", {5}));
+    EXPECT_EQ(report["members"], with(with(counts(3, 3, 2, 0), "new", {8}), "gone", {2}));
+    EXPECT_EQ(report["elements"], with(counts(0, 1, 0, 0), "gone", {11}));
+    const std::string text = models.text().out;
+    EXPECT_TRUE(contains(text, "  new   1 joint    9\n"
+                               "  new   1 member   8\n"
+                               "  gone  1 joint    5\n"
+                               "  gone  1 member   2\n"
+                               "  gone  1 element  11\n"))
+        << text;
+}
+
+TEST(Compare, ANumberThatStandsForAnotherPlaceNowIsNotMoved)
+{
+    // Today's joints 3 and 4 have changed numbers: both are still there.
+    frame_parts now;
+    now.joints = "1 0 0 0; 2 6 0 0; 4 0 4 0; 3 6 4 0;\n";
+    now.members = "1 1 4; 2 2 3; 3 4 3;\n";
+    now.elements = "11 1 2 3 4;\n";
+    const json report = comparison(frame_deck(now), frame_deck()).report(0);
+    EXPECT_EQ(report["joints"], counts(4, 4, 4, 2));
+}
+
+TEST(Compare, ShellCornersFromAnotherOneOnAreAnotherShell)
+{
+    frame_parts now;
+    now.elements = "11 2 4 3 1;\n";
+    EXPECT_EQ(comparison(frame_deck(now), frame_deck()).report(1)["elements"]["moved"], json({11}));
+}
+
+TEST(Compare, SurfacesAreCountedApart)
+{
+    const std::string surface = "SURFACE INCIDENCE\n1 2 4 3 SUR 11\n";
+    frame_parts now;
+    now.elements = "11 1 2 4 3;\n" + surface;
+    frame_parts earlier;
+    earlier.elements = "11 1 2 4 3;\n";
+    // Surface 11 lies where element 11 does, and is a shell more than there was.
+    const json report = comparison(frame_deck(now), frame_deck(earlier)).report(1);
+    EXPECT_EQ(report["elements"], counts(1, 1, 1, 0));
+    EXPECT_EQ(report["surfaces"], with(counts(1, 0, 0, 0), "new", {11}));
+    EXPECT_EQ(comparison(frame_deck(now), frame_deck(now)).report(0)["surfaces"], counts(1, 1, 1, 0));
+}
+
+TEST(Compare, SeveralAtOnePlaceAreAsManyAsThereAre)
+{
+    frame_parts two;
+    two.members = "1 1 3; 2 2 4; 3 3 4; 4 4 3;\n";
+    two.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 PRIS YD 0.5 ZD 0.3\n4 PRIS YD 0.6 ZD 0.3\n";
+    EXPECT_EQ(comparison(frame_deck(two), frame_deck(two)).report(0)["members"], counts(4, 4, 4, 0));
+    // Of two members between the joints 3 and 4 the one that keeps its number is the one that stayed.
+    frame_parts one = two;
+    one.members = "1 1 3; 2 2 4; 4 4 3;\n";
+    const json fewer = comparison(frame_deck(one), frame_deck(two)).report(1);
+    EXPECT_EQ(fewer["members"], with(counts(3, 4, 3, 0), "gone", {3}));
+    EXPECT_EQ(fewer["resectioned"], json::array());
+    EXPECT_EQ(comparison(frame_deck(two), frame_deck(one)).report(1)["members"], with(counts(4, 3, 3, 0), "new", {3}));
+}
+
+TEST(Compare, WhatLacksAJointGoesByItsNumber)
+{
+    frame_parts loose;
+    loose.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99;\n";
+    EXPECT_EQ(comparison(frame_deck(loose), frame_deck(loose)).report(0)["members"], counts(4, 4, 4, 0));
+    frame_parts elsewhere = loose;
+    elsewhere.members = "1 1 3; 2 2 4; 3 3 4; 4 2 99;\n";
+    EXPECT_EQ(comparison(frame_deck(loose), frame_deck(elsewhere)).report(1)["members"]["moved"], json({4}));
+    frame_parts renumbered = loose;
+    renumbered.members = "1 1 3; 2 2 4; 3 3 4; 5 1 99;\n";
+    const json report = comparison(frame_deck(loose), frame_deck(renumbered)).report(1);
+    EXPECT_EQ(report["members"]["new"], json({4}));
+    EXPECT_EQ(report["members"]["gone"], json({5}));
+}
+
+TEST(Compare, NumbersThatStandTwice)
+{
+    frame_parts twice;
+    twice.joints = "1 0 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0; 4 6 8 0;\n";
+    twice.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99; 4 2 99; 4 3 99;\n";
+    EXPECT_EQ(comparison(frame_deck(twice), frame_deck(twice)).report(0)["members"], counts(6, 6, 6, 0));
+    frame_parts fewer = twice;
+    fewer.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99;\n";
+    EXPECT_EQ(comparison(frame_deck(twice), frame_deck(fewer)).report(1)["members"],
+              with(counts(6, 4, 4, 0), "new", {4, 4}));
+}
+
+TEST(Compare, ResectionedMembersByTheirTexts)
+{
+    frame_parts now;
+    now.sections = "1 2 PRIS YD 0.45 ZD 0.4\n3 PRIS YD 0.5 ZD 0.3\n";
+    const comparison models(frame_deck(now), frame_deck());
+    const tool_result result = models.text();
+    EXPECT_EQ(result.exit_code, 1);
+    EXPECT_TRUE(has_line(result.out, "  members        3       3        3           0            2      0    0     0"))
+        << result.out;
+    EXPECT_TRUE(contains(result.out, "resectioned:\n"
+                                     "  PRIS400X400 -> PRIS450X400  2 members  1 TO 2\n"))
+        << result.out;
+    EXPECT_EQ(
+        models.report(1)["resectioned"],
+        json::array({{{"old", "PRIS400X400"}, {"new", "PRIS450X400"}, {"members", 2}, {"member_numbers", {1, 2}}}}));
+}
+
+TEST(Compare, AnotherMaterialOrCaseIsNoOtherSection)
+{
+    frame_parts earlier;
+    earlier.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 TABLE ST h300x150\n";
+    frame_parts now;
+    now.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 TABLE ST H300X150\n";
+    EXPECT_EQ(comparison(frame_deck(now), frame_deck(earlier)).text().exit_code, 0);
+}
+
+TEST(Compare, StandardInputIsOneOfThem)
+{
+    const tool_run tool;
+    const std::string path = tool.write("a.std", frame_deck());
+    const tool_result now = tool({"compare", "-", path}, frame_deck());
+    EXPECT_EQ(now.exit_code, 0) << now.err;
+    EXPECT_TRUE(has_line(now.out, "NEW: <stdin>")) << now.out;
+    const tool_result earlier = tool({"compare", path, "-"}, frame_deck());
+    EXPECT_EQ(earlier.exit_code, 0) << earlier.err;
+    EXPECT_TRUE(has_line(earlier.out, "OLD: <stdin>")) << earlier.out;
+    const tool_result both = tool({"compare", "-", "-"}, frame_deck());
+    EXPECT_EQ(both.exit_code, 2);
+    EXPECT_EQ(both.err, "staadkit: error: only one of the models can come from standard input\n");
+}
+
+TEST(Compare, FindingsNameTheirOwnFile)
+{
+    frame_parts loose;
+    loose.members = "1 1 3; 2 2 4; 3 3 99;\n";
+    const comparison models(frame_deck(loose), frame_deck(loose));
+    const std::string err = models.text().err;
+    EXPECT_TRUE(contains(err, models.new_path() + ":6: warning joint-unknown: ")) << err;
+    EXPECT_TRUE(contains(err, models.old_path() + ":6: warning joint-unknown: ")) << err;
+    EXPECT_FALSE(contains(err, ": note "));
+    const std::string with_notes = models.tool()({"compare", "--notes", models.new_path(), models.old_path()}).err;
+    EXPECT_TRUE(contains(with_notes, models.old_path() + ":1: note skipped: ")) << with_notes;
+}
+
+TEST(Compare, NoModelInOneOfThem)
+{
+    const tool_run tool;
+    const std::string good = tool.write("good.std", frame_deck());
+    const std::string bad = tool.write("bad.std", "nothing\n");
+    for (const auto& call : {std::vector<std::string>{"compare", good, bad}, {"compare", bad, good}}) {
+        const tool_result result = tool(call);
+        EXPECT_EQ(result.exit_code, 3);
+        EXPECT_EQ(result.out, "");
+        EXPECT_TRUE(contains(result.err, bad + ": error ")) << result.err;
+    }
+    const tool_result as_json = tool({"compare", "--json", good, bad});
+    EXPECT_EQ(as_json.exit_code, 3);
+    const json report = json::parse(as_json.out);
+    EXPECT_EQ(report["new"]["was_read"], true);
+    EXPECT_EQ(report["old"]["was_read"], false);
+    EXPECT_FALSE(report.contains("differ"));
+}
+
+TEST(Compare, AFullDiskIsTold)
+{
+    if (!std::filesystem::exists("/dev/full"))
+        GTEST_SKIP() << "no /dev/full here";
+    const tool_run tool;
+    const std::string path = tool.write("a.std", frame_deck());
+    for (const char* form : {"--notes", "--json"})
+        EXPECT_EQ(tool.into("/dev/full", {"compare", form, path, path}).exit_code, 4) << form;
+}
+
+TEST(Compare, TheBundledFrameAndItsNormalisedForm)
+{
+    const tool_run tool;
+    const std::string frame = STAADKIT_SOURCE_DIR "/examples/concrete-frame.std";
+    const std::string out = tool.missing("out.std");
+    ASSERT_EQ(tool({"convert", frame, out}).exit_code, 0);
+    const json report = json::parse(tool({"compare", "--json", out, frame}).out);
+    EXPECT_EQ(report["joints"]["matched"], 45);
+    EXPECT_EQ(report["joints"]["renumbered"], 45); // from 101 to 414 they were, from 1 to 45 they are
+    EXPECT_EQ(report["members"]["matched"], 68);
+    EXPECT_EQ(report["members"]["renumbered"], 41); // the columns were 1 to 27 already
+    // The three surfaces have become elements, and lie where they lay.
+    EXPECT_EQ(report["elements"], counts(9, 6, 9, 9));
+    EXPECT_EQ(report["surfaces"], counts(0, 3, 0, 0));
+}
+
+} // namespace
+} // namespace cli_test
