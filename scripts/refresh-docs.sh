@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # refresh-docs.sh [--check] TOOL
 #
-# Brings the generated blocks of README.md and docs/**/*.md up to date, or with --check shows how they
+# Brings the generated blocks of README*.md and docs/**/*.md up to date, or with --check shows how they
 # differ from what they should be and fails. TOOL is the built staadkit. A block is a marker line and
 # the fence right behind it, whose content is replaced:
 #
@@ -87,7 +87,7 @@ while IFS= read -r file; do
         cat "$scratch/new" >"$file"
         echo "refreshed $file"
     fi
-done < <(find README.md docs -name '*.md' 2>/dev/null | LC_ALL=C sort)
+done < <(find README*.md docs -name '*.md' 2>/dev/null | LC_ALL=C sort)
 
 if [ ! -s "$scratch/blocks" ]; then
     echo "no generated block found" >&2
