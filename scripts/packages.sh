@@ -35,3 +35,4 @@ quietly() {
 }
 
 build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+windows_packages=(g++-mingw-w64-x86-64-posix wine64)
