@@ -6,7 +6,7 @@
 # public ones, below staad/. The environment may name CXX, CMAKE and CMAKE_GENERATOR.
 set -euo pipefail
 
-kind=$1 scratch=$2
+kind=$1 scratch=$(realpath -m "$2")
 shift 2
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source_dir=$(cd "$here/../.." && pwd)
@@ -46,7 +46,7 @@ bring_static() {
 }
 
 only_one() { # file...
-    [ $# -eq 1 ] && [ -e "$1" ] || fail "not one package, but: $*"
+    if [ $# -ne 1 ] || [ ! -e "$1" ]; then fail "not one package, but: $*"; fi
     echo "$1"
 }
 
@@ -95,7 +95,7 @@ compare_output() { # program
 
 run_program() {
     if [ "$kind" = zip ]; then
-        cp "$prefix/bin/libstaadkit.dll" "$(dirname "$1")"
+        [ -e "$(dirname "$1")/libstaadkit.dll" ] || cp "$prefix/bin/libstaadkit.dll" "$(dirname "$1")"
         in_wine "$@"
     else
         LD_LIBRARY_PATH=$library_dir "$@"
@@ -226,17 +226,21 @@ start_wine() {
         setsid /usr/lib/wine/wine64 wineboot -i </dev/null >/dev/null 2>&1
 }
 
-# The DLL needs nothing that Windows does not have.
-check_dll() {
-    if x86_64-w64-mingw32-objdump -p "$prefix/bin/libstaadkit.dll" | sed -n 's/.*DLL Name: //p' |
-        grep -vixE 'KERNEL32\.dll|USER32\.dll|COMDLG32\.dll|msvcrt\.dll'; then
-        fail "the DLL needs more than Windows"
+# DLL and tool need nothing that Windows does not have.
+check_imports() {
+    x86_64-w64-mingw32-objdump -p "$prefix"/bin/* | sed -n 's/.*DLL Name: //p' >"$scratch/imports"
+    grep -qix 'KERNEL32\.dll' "$scratch/imports" || fail "imports were not found"
+    if grep -vixE '(libstaadkit|KERNEL32|USER32|COMDLG32|msvcrt)\.dll' "$scratch/imports"; then
+        fail "more is needed than Windows"
     fi
 }
 
 check_windows_tool() {
-    run_program "$prefix/bin/staadkit.exe" --version | tr -d '\r' >"$scratch/version"
+    local program=$prefix/bin/staadkit.exe example=Z:$source_dir/examples/steel-portal.std
+    run_program "$program" --version | tr -d '\r' >"$scratch/version"
     [ "$(cat "$scratch/version")" = "staadkit $(pkg-config --modversion staadkit)" ] || fail "the tool does not run"
+    run_program "$program" info "${example//\//\\}" | grep -q '^joints: ' || fail "it reads nothing"
+    grep -qs 'Redistributions in binary form' "$prefix/share/doc/staadkit/NOTICES.txt" || fail "no notices"
 }
 
 rm -rf "$scratch"
@@ -258,7 +262,7 @@ deb)
     step "lintian" && check_by_lintian
     ;;
 zip)
-    step "DLL" && check_dll
+    step "imports" && check_imports
     step "Wine" && start_wine
     ;;
 esac
@@ -270,6 +274,6 @@ static)
     step "outside program by a C linker" && build_by_c_linker
     ;;
 zip)
-    [ ! -e "$prefix/bin/staadkit.exe" ] || { step "tool" && check_windows_tool; }
+    step "tool" && check_windows_tool
     ;;
 esac

@@ -57,7 +57,7 @@ std::string bash_patterns(const command_outline& command, const option_outline& 
     const std::string verb = &command == &app ? "" : command.name;
     std::string patterns;
     for (const std::string& name : option.names)
-        patterns += (patterns.empty() ? "" : " | ") + verb + ':' + name;
+        patterns.append(patterns.empty() ? "" : " | ").append(verb).append(":").append(name);
     return patterns;
 }
 
@@ -116,7 +116,8 @@ std::string zsh_options(const command_outline& command, const std::string& inden
         const std::string once = option.repeats ? "*" : '(' + joined(option.names) + ')';
         for (const std::string& name : option.names)
             lines +=
-                " \\\n" + indent + quoted(once + zsh_name(option, name) + '[' + escaped(option.help, "[]:\\") + ']' + zsh_value(option));
+                " \\\n" + indent +
+                quoted(once + zsh_name(option, name) + '[' + escaped(option.help, "[]:\\") + ']' + zsh_value(option));
     }
     return lines;
 }
