@@ -130,7 +130,7 @@ LoadDefination SdReader::get_load_defnination_from_string(const LoadDef_raw& raw
         definition.direction = member_direction(words[4]);
         definition.values = member_values(words, length, force);
     } else if (detail::starts_with(text, "AREA LOAD")) {
-        definition.kind = detail::join_words(detail::word_cursor(text), 3); // "MEMBER LOAD UNI"
+        definition.kind = detail::join_words(detail::word_cursor(text), 3);
         definition.direction = "Z";
         definition.values = {words.number(4) * force / length / length};
     } else if (detail::starts_with(text, "SELFWEIGHT")) {

@@ -1,4 +1,4 @@
-/// Numbers to text, in the "C" form whatever the locale. Nothing else in the library does it.
+/// Reals to text, in the "C" form whatever the locale. Nothing else in the library does it.
 #ifndef STAAD_WRITER_NUMBER_TEXT_H
 #define STAAD_WRITER_NUMBER_TEXT_H
 

@@ -17,7 +17,7 @@ TEST(Convert, WritesTheNormalisedFileAndNothingElse)
     const tool_result result = tool({"convert", in, out});
     EXPECT_EQ(result.exit_code, 0) << result.err;
     EXPECT_EQ(result.out, "");
-    const std::string text = read_file(out);
+    const std::string text = read_text(out);
     EXPECT_EQ(text.rfind("STAAD SPACE\n"
                          "START JOB INFORMATION\n"
                          "ENGINEER DATE 04-Jun-14\n"
@@ -53,7 +53,7 @@ TEST(Convert, StreamsGiveTheSameBytes)
     const std::string in = tool.write("in.std", tower_deck());
     const std::string out = tool.missing("out.std");
     ASSERT_EQ(tool({"convert", in, out}).exit_code, 0);
-    const std::string text = read_file(out);
+    const std::string text = read_text(out);
     ASSERT_FALSE(text.empty());
     EXPECT_EQ(tool({"convert", in, "-"}).out, text);
     EXPECT_EQ(tool({"convert", "-", "-"}, tower_deck()).out, text);
@@ -86,9 +86,10 @@ TEST(Convert, AnExistingFileIsReplacedOnRequest)
     const std::string in = tool.write("in.std", small_deck());
     const std::string out = tool.write("out.std", std::string(100000, 'x'));
     EXPECT_EQ(tool({"convert", in, out, "--force"}).exit_code, 0);
-    EXPECT_EQ(read_file(out), tool({"convert", in, "-"}).out);
+    EXPECT_EQ(read_text(out), tool({"convert", in, "-"}).out);
 }
 
+#ifndef _WIN32
 TEST(Convert, TheInputIsKeptUnderAnyOfItsNames)
 {
     const tool_run tool;
@@ -103,6 +104,7 @@ TEST(Convert, TheInputIsKeptUnderAnyOfItsNames)
         EXPECT_EQ(read_file(in), small_deck()) << name;
     }
 }
+#endif
 
 TEST(Convert, TheInputIsReplacedOnRequest)
 {
@@ -110,7 +112,7 @@ TEST(Convert, TheInputIsReplacedOnRequest)
     const std::string in = tool.write("in.std", tower_deck());
     const std::string want = tool({"convert", in, "-"}).out;
     EXPECT_EQ(tool({"convert", "--force", in, in}).exit_code, 0);
-    EXPECT_EQ(read_file(in), want);
+    EXPECT_EQ(read_text(in), want);
 }
 
 TEST(Convert, WithoutAModelNothingIsWritten)

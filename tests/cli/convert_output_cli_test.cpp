@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#ifndef _WIN32
+#    include <fcntl.h>
+#    include <sys/stat.h>
+#    include <unistd.h>
+#endif
 
 namespace cli_test {
 namespace {
@@ -32,7 +34,12 @@ TEST(ConvertOutput, AFileWhereAFolderIsDue)
     const std::string in = tool.write("in.std", small_deck());
     const tool_result result = tool({"convert", in, in + "/out.std"});
     EXPECT_EQ(result.exit_code, 4);
-    EXPECT_TRUE(has_line(result.err, "staadkit: error: " + in + "/out.std: Not a directory")) << result.err;
+#ifdef _WIN32
+    const std::string reason = "No such file or directory";
+#else
+    const std::string reason = "Not a directory";
+#endif
+    EXPECT_TRUE(has_line(result.err, "staadkit: error: " + in + "/out.std: " + reason)) << result.err;
     EXPECT_EQ(read_file(in), small_deck());
 }
 
@@ -51,6 +58,7 @@ TEST(ConvertOutput, AFolderInThePlaceOfTheFile)
     EXPECT_EQ(tool.names(), (names{"in.std", "out.std"}));
 }
 
+#ifndef _WIN32
 TEST(ConvertOutput, ADiskThatFillsUpLeavesTheEarlierFile)
 {
     const tool_run tool;
@@ -83,6 +91,7 @@ TEST(ConvertOutput, ANameThatIsTooLong)
     EXPECT_EQ(tool({"convert", in, tool.missing(std::string(255, 'n'))}).exit_code, 0);
     EXPECT_EQ(tool.names(), (names{"in.std", std::string(255, 'n')}));
 }
+#endif
 
 TEST(ConvertOutput, ADeviceIsWrittenToAndStays)
 {
@@ -98,6 +107,7 @@ TEST(ConvertOutput, ADeviceIsWrittenToAndStays)
     EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+#ifndef _WIN32
 TEST(ConvertOutput, APipeIsWrittenToAndStays)
 {
     const tool_run tool;
@@ -131,7 +141,7 @@ TEST(ConvertOutput, ALinkStaysAndItsFileIsReplaced)
     EXPECT_EQ(tool({"convert", "--force", in, link}).exit_code, 0);
     EXPECT_TRUE(fs::is_symlink(link));
     EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(real)));
-    EXPECT_EQ(read_file(real), want);
+    EXPECT_EQ(read_text(real), want);
 }
 
 TEST(ConvertOutput, ALinkToNothingYet)
@@ -144,7 +154,7 @@ TEST(ConvertOutput, ALinkToNothingYet)
     EXPECT_EQ(tool({"convert", in, tool.missing("first.std")}).exit_code, 0);
     EXPECT_TRUE(fs::is_symlink(tool.missing("first.std")));
     EXPECT_TRUE(fs::is_symlink(tool.missing("second.std")));
-    EXPECT_EQ(read_file(tool.missing("there/new.std")), tool({"convert", in, "-"}).out);
+    EXPECT_EQ(read_text(tool.missing("there/new.std")), tool({"convert", in, "-"}).out);
 }
 
 TEST(ConvertOutput, LinksInACircle)
@@ -159,12 +169,14 @@ TEST(ConvertOutput, LinksInACircle)
     EXPECT_TRUE(has_line(result.err, "staadkit: error: " + one + ": Too many levels of symbolic links")) << result.err;
     EXPECT_TRUE(fs::is_symlink(one));
 }
+#endif
 
 fs::perms permissions_of(const std::string& path)
 {
     return fs::status(path).permissions();
 }
 
+#ifndef _WIN32
 TEST(ConvertOutput, PermissionsAreThoseOfTheFileReplaced)
 {
     const tool_run tool;
@@ -176,6 +188,7 @@ TEST(ConvertOutput, PermissionsAreThoseOfTheFileReplaced)
         EXPECT_EQ(permissions_of(out), wanted);
     }
 }
+#endif
 
 TEST(ConvertOutput, PermissionsOfANewFileAreThoseOfAnyNewFile)
 {

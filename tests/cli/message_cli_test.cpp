@@ -134,6 +134,7 @@ TEST(Messages, InTheOrderOfTheLines)
     EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end())) << err;
 }
 
+#ifndef _WIN32
 TEST(Messages, StandardInputThatCannotBeRead)
 {
     const tool_run tool;
@@ -158,6 +159,7 @@ TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
                               .err,
                           "\x1B"));
 }
+#endif
 
 TEST(Messages, NotesOnRequestOnly)
 {

@@ -331,6 +331,7 @@ TEST(Storeys, StandardInputHasNoListingBesideIt)
     EXPECT_EQ(twice.err, "staadkit: error: standard input is the model already\n");
 }
 
+#ifndef _WIN32
 TEST(Storeys, AsksForTheListingAtATerminal)
 {
     const tool_run tool;
@@ -343,6 +344,7 @@ TEST(Storeys, AsksForTheListingAtATerminal)
     EXPECT_EQ(cancelled.exit_code, 3);
     EXPECT_TRUE(contains(cancelled.err, ": no listing beside it, ")) << cancelled.err;
 }
+#endif
 
 TEST(Storeys, APlaceWithoutEndIsNoCrash)
 {

@@ -1,53 +1,16 @@
 #include "tool_run.h"
 
-#include <algorithm>
-#include <fcntl.h>
-#include <fstream>
-#include <spawn.h>
-#include <sstream>
-#include <stdexcept>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "process.h"
 
-extern char** environ;
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <fstream>
+#include <sstream>
+#include <system_error>
 
 namespace cli_test {
 namespace {
-
-/// The three streams of the process to be, each a file.
-class redirections {
-public:
-    redirections(const std::string& in, const std::string& out, const std::string& err)
-    {
-        posix_spawn_file_actions_init(&actions_);
-        posix_spawn_file_actions_addopen(&actions_, STDIN_FILENO, in.c_str(), O_RDONLY, 0);
-        posix_spawn_file_actions_addopen(&actions_, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-        posix_spawn_file_actions_addopen(&actions_, STDERR_FILENO, err.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-    }
-    ~redirections() { posix_spawn_file_actions_destroy(&actions_); }
-    redirections(const redirections&) = delete;
-    redirections& operator=(const redirections&) = delete;
-
-    const posix_spawn_file_actions_t* get() const { return &actions_; }
-
-private:
-    posix_spawn_file_actions_t actions_;
-};
-
-int run_to_end(std::vector<std::string> words, const redirections& streams)
-{
-    std::vector<char*> pointers;
-    for (std::string& word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    pid_t process = 0;
-    if (posix_spawn(&process, pointers.front(), streams.get(), nullptr, pointers.data(), environ) != 0)
-        throw std::runtime_error("cannot start " + words.front());
-    int status = 0;
-    if (waitpid(process, &status, 0) != process)
-        throw std::runtime_error("lost " + words.front());
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
 
 std::vector<std::string> call_of(std::vector<std::string> before, const std::vector<std::string>& arguments)
 {
@@ -56,12 +19,17 @@ std::vector<std::string> call_of(std::vector<std::string> before, const std::vec
     return before;
 }
 
+/// Tests run as many processes at a time.
 std::filesystem::path new_folder()
 {
-    std::string name = (std::filesystem::temp_directory_path() / "staadkit-cli-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        throw std::runtime_error("cannot create " + name);
-    return name;
+    static std::atomic<unsigned> counter{0};
+    for (;;) {
+        const auto ticks = std::chrono::steady_clock::now().time_since_epoch().count();
+        const std::string name = "staadkit-cli-" + std::to_string(ticks) + "-" + std::to_string(counter++);
+        const std::filesystem::path folder = std::filesystem::temp_directory_path() / name;
+        if (std::filesystem::create_directory(folder))
+            return folder;
+    }
 }
 
 } // namespace
@@ -83,7 +51,7 @@ std::string tool_run::write(const std::string& name, std::string_view bytes) con
 
 std::string tool_run::missing(const std::string& name) const
 {
-    return (folder_ / name).string();
+    return folder() + '/' + name; // the bytes of `name` as they stand, on Windows too
 }
 
 tool_result tool_run::operator()(const std::vector<std::string>& arguments, std::string_view input) const
@@ -93,25 +61,15 @@ tool_result tool_run::operator()(const std::vector<std::string>& arguments, std:
 
 tool_result tool_run::into(const std::string& out_path, const std::vector<std::string>& arguments) const
 {
-    return run(call_of({}, arguments), "/dev/null", out_path);
+    return run(call_of({}, arguments), no_file, out_path);
 }
 
 tool_result tool_run::from(const std::string& in_path, const std::vector<std::string>& arguments) const
 {
     const std::string out = missing("stdout");
     tool_result result = run(call_of({}, arguments), in_path, out);
-    result.out = read_file(out);
+    result.out = read_text(out);
     return result;
-}
-
-tool_result tool_run::within(std::size_t megabytes, const std::vector<std::string>& arguments) const
-{
-    return limited("-v " + std::to_string(megabytes * 1024), arguments);
-}
-
-tool_result tool_run::with_small_files(const std::vector<std::string>& arguments) const
-{
-    return limited("-f 8", arguments);
 }
 
 std::vector<std::string> tool_run::names() const
@@ -126,22 +84,34 @@ std::vector<std::string> tool_run::names() const
     return found;
 }
 
+#ifndef _WIN32
+tool_result tool_run::within(std::size_t megabytes, const std::vector<std::string>& arguments) const
+{
+    return limited("-v " + std::to_string(megabytes * 1024), arguments);
+}
+
+tool_result tool_run::with_small_files(const std::vector<std::string>& arguments) const
+{
+    return limited("-f 8", arguments);
+}
+
 tool_result tool_run::limited(const std::string& limit, const std::vector<std::string>& arguments) const
 {
     const std::string command = "ulimit " + limit + " && exec \"$0\" \"$@\"";
     const std::string out = missing("stdout");
-    tool_result result = run(call_of({"/bin/sh", "-c", command}, arguments), "/dev/null", out);
-    result.out = read_file(out);
+    tool_result result = run(call_of({"/bin/sh", "-c", command}, arguments), no_file, out);
+    result.out = read_text(out);
     return result;
 }
+#endif
 
 tool_result tool_run::run(const std::vector<std::string>& command, const std::string& in_path,
                           const std::string& out_path) const
 {
     const std::string err = missing("stderr");
     tool_result result;
-    result.exit_code = run_to_end(command, redirections(in_path, out_path, err));
-    result.err = read_file(err);
+    result.exit_code = run_to_end(command, {in_path, out_path, err});
+    result.err = read_text(err);
     return result;
 }
 
@@ -230,6 +200,16 @@ std::string read_file(const std::string& path)
     std::ostringstream text;
     text << std::ifstream(path, std::ios::binary).rdbuf();
     return text.str();
+}
+
+std::string read_text(const std::string& path)
+{
+    std::string text = read_file(path);
+#ifdef _WIN32
+    for (std::size_t at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", at))
+        text.erase(at, 1);
+#endif
+    return text;
 }
 
 bool contains(std::string_view text, std::string_view part)

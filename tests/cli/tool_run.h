@@ -35,17 +35,24 @@ public:
     tool_result into(const std::string& out_path, const std::vector<std::string>& arguments) const;
     /// The same with standard input coming from `in_path`.
     tool_result from(const std::string& in_path, const std::vector<std::string>& arguments) const;
+#ifndef _WIN32
     /// The same with no more than so much memory to take.
     tool_result within(std::size_t megabytes, const std::vector<std::string>& arguments) const;
     /// The same with no file that is written growing larger than 4 or 8 KB, as the shell counts.
     tool_result with_small_files(const std::vector<std::string>& arguments) const;
+#endif
 
-    std::string folder() const { return folder_.string(); }
+    std::string folder() const
+    {
+        return folder_.string();
+    }
     /// The names of all that stands in the folder, streams of the tool excepted, ascending.
     std::vector<std::string> names() const;
 
 private:
+#ifndef _WIN32
     tool_result limited(const std::string& limit, const std::vector<std::string>& arguments) const;
+#endif
     tool_result run(const std::vector<std::string>& command, const std::string& in_path,
                     const std::string& out_path) const;
 
@@ -59,6 +66,8 @@ std::string small_deck(std::string_view more_lines = {});
 
 /// All the bytes of a file; empty if there is none.
 std::string read_file(const std::string& path);
+/// The same of a text that the tool wrote, with the line ends that texts have in memory.
+std::string read_text(const std::string& path);
 
 bool contains(std::string_view text, std::string_view part);
 /// True if one of the lines of `text` is exactly `line`.

@@ -17,6 +17,10 @@
 #include <string>
 #include <vector>
 
+#ifdef _WIN32
+#    include <windows.h>
+#endif
+
 namespace tool {
 namespace {
 
@@ -117,6 +121,7 @@ void set_up_app(CLI::App& app, verb_action& action)
         ->type_name("NAME")          // in messages
         ->option_text(page_names()); // in the help
     app.require_subcommand(1);
+    app.allow_windows_style_options(false); // "/" begins a path
     app.footer(std::string("Results go to standard output, messages to standard error.\n") +
                "staadkit VERB --help tells more about a verb.\n\n" + exit_code_help());
     app.get_formatter()->label("SUBCOMMAND", "VERB");
@@ -166,10 +171,27 @@ static void ignore_size_signal()
 #endif
 }
 
+#ifdef _WIN32
+/// Shows UTF-8, which all output is in, on the console for as long as it lives.
+class utf8_console {
+public:
+    utf8_console() : before_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
+    ~utf8_console() { SetConsoleOutputCP(before_); }
+    utf8_console(const utf8_console&) = delete;
+    utf8_console& operator=(const utf8_console&) = delete;
+
+private:
+    UINT before_;
+};
+#endif
+
 // What is left to throw here is a message that memory does not suffice for: the run ends all the same.
 int main(int argc, char** argv) // NOLINT(bugprone-exception-escape)
 {
     ignore_size_signal();
+#ifdef _WIN32
+    const utf8_console console;
+#endif
     tool::terminal_services services(STAAD::GetPlatformServices());
     STAAD::SetPlatformServices(&services);
     try {

@@ -1,6 +1,7 @@
 #include "model_output.h"
 
 #include "messages.h"
+#include "native_path.h"
 #include "std_output.h"
 #include "text_encoding.h"
 #include "whole_file.h"
@@ -17,7 +18,7 @@ namespace fs = std::filesystem;
 bool is_same_file(const std::string& one, const std::string& other)
 {
     std::error_code not_both;
-    return fs::equivalent(one, other, not_both);
+    return fs::equivalent(native_path(one), native_path(other), not_both);
 }
 
 } // namespace
@@ -30,7 +31,7 @@ std::string output_name(const std::string& path)
 std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs)
 {
     std::error_code no_file;
-    if (path == "-" || !fs::is_regular_file(path, no_file))
+    if (path == "-" || !fs::is_regular_file(native_path(path), no_file))
         return {};
     const bool is_input = std::any_of(inputs.begin(), inputs.end(),
                                       [&path](const std::string& input) { return is_same_file(input, path); });
@@ -48,7 +49,7 @@ exit_code write_output(const std::string& path, std::string_view text, exit_code
 {
     if (path == "-")
         return print_result(text, so_far);
-    const std::error_code error = write_whole_file(path, text);
+    const std::error_code error = write_whole_file(native_path(path), text);
     return error ? fail_to_write(path, error.message()) : so_far;
 }
 

@@ -1,6 +1,7 @@
 #include "parameter_file.h"
 
 #include "model_fields.h"
+#include "native_path.h"
 #include "parameter_checks.h"
 #include "read_stream.h"
 #include "suggest.h"
@@ -32,7 +33,7 @@ void add_error(STAAD::ReadReport& report, std::string code, std::string text, st
 
 bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& report)
 {
-    std::FILE* const file = std::fopen(path.c_str(), "rb");
+    std::FILE* const file = open_file(native_path(path), "rb");
     const bool was_read = file != nullptr && read_to_end(file, text);
     if (!was_read)
         add_error(report, "file-unreadable", std::strerror(errno));

@@ -1,5 +1,6 @@
 #include "progress_line.h"
 
+#include "native_path.h"
 #include "terminal_services.h"
 #include "text_encoding.h"
 
@@ -26,7 +27,7 @@ void print(std::string_view text)
 progress_line::progress_line(const std::string& path)
 {
     std::error_code no_file;
-    const std::uintmax_t size = std::filesystem::file_size(path, no_file);
+    const std::uintmax_t size = std::filesystem::file_size(native_path(path), no_file);
     if (no_file || size <= long_file || !is_watched())
         return;
     const std::string text = "reading " + printable_name(path) + ", " + std::to_string(size / megabyte) + " MB ...";

@@ -4,11 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 
-#if defined(__linux__) && __has_include(<iconv.h>)
+#ifdef _WIN32
+#    include <windows.h>
+#elif defined(__linux__) && __has_include(<iconv.h>)
 #    define STAADKIT_HAS_ICONV 1
 #    include <iconv.h> // part of the C library here: nothing to link
-#else
-#    define STAADKIT_HAS_ICONV 0
 #endif
 
 namespace tool {
@@ -156,7 +156,42 @@ bool is_low_surrogate(char16_t unit) noexcept
     return unit >= 0xDC00 && unit < 0xE000;
 }
 
-#if STAADKIT_HAS_ICONV
+#ifdef _WIN32
+constexpr UINT gbk = 936;
+
+/// `text` of a code page as UTF-16; nothing if it is no text of it.
+std::optional<std::wstring> decoded(UINT code_page, std::string_view text)
+{
+    const int bytes = static_cast<int>(text.size());
+    const int size = MultiByteToWideChar(code_page, MB_ERR_INVALID_CHARS, text.data(), bytes, nullptr, 0);
+    if (size == 0 && bytes != 0)
+        return std::nullopt;
+    std::wstring wide(static_cast<std::size_t>(size), L'\0');
+    MultiByteToWideChar(code_page, MB_ERR_INVALID_CHARS, text.data(), bytes, wide.data(), size);
+    return wide;
+}
+
+/// UTF-16 `text` in GBK; nothing if GBK lacks one of its characters.
+std::optional<std::string> encoded_in_gbk(const std::wstring& text)
+{
+    const int units = static_cast<int>(text.size());
+    BOOL lacks_one = FALSE;
+    const int size =
+        WideCharToMultiByte(gbk, WC_NO_BEST_FIT_CHARS, text.data(), units, nullptr, 0, nullptr, &lacks_one);
+    if (lacks_one != FALSE)
+        return std::nullopt;
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(gbk, WC_NO_BEST_FIT_CHARS, text.data(), units, narrow.data(), size, nullptr, nullptr);
+    return narrow;
+}
+
+std::string utf8_from_wide(const std::wstring& text)
+{
+    return utf8_from_utf16(std::u16string(text.begin(), text.end()));
+}
+#endif
+
+#ifdef STAADKIT_HAS_ICONV
 /// Opened once: opening loads the conversion tables.
 class converter {
 public:
@@ -217,7 +252,10 @@ bool is_utf8(std::string_view text) noexcept
 
 std::optional<std::string> utf8_from_gbk(std::string_view text)
 {
-#if STAADKIT_HAS_ICONV
+#if defined(_WIN32)
+    const std::optional<std::wstring> wide = decoded(gbk, text);
+    return wide ? std::optional(utf8_from_wide(*wide)) : std::nullopt;
+#elif defined(STAADKIT_HAS_ICONV)
     static converter decoder("UTF-8", "GBK"); // the tool has one thread
     return decoder.convert(text);
 #else
@@ -230,7 +268,10 @@ std::optional<std::string> gbk_from_utf8(std::string_view text)
 {
     if (is_ascii(text))
         return std::string(text);
-#if STAADKIT_HAS_ICONV
+#if defined(_WIN32)
+    const std::optional<std::wstring> wide = decoded(CP_UTF8, text);
+    return wide ? encoded_in_gbk(*wide) : std::nullopt;
+#elif defined(STAADKIT_HAS_ICONV)
     static converter encoder("GBK", "UTF-8");
     return encoder.convert(text);
 #else
@@ -284,6 +325,11 @@ std::string printable_text(std::string_view text)
 
 std::string printable_name(std::string_view name)
 {
+#ifdef _WIN32
+    // Names are in the ANSI code page there, what is printed in UTF-8.
+    if (const std::optional<std::wstring> wide = decoded(CP_ACP, name))
+        return escape_controls(utf8_from_wide(*wide));
+#endif
     return is_utf8(name) ? escape_controls(name) : escape_bytes(name, is_control_byte);
 }
 

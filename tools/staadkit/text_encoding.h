@@ -34,7 +34,7 @@ std::string utf8_text(std::string_view text);
 std::string printable_text(std::string_view text);
 
 /// The name of a file for a terminal: control characters as "\x1B", every other byte as it stands, so
-/// that the name can be copied back.
+/// that the name can be copied back; on Windows from the ANSI code page to UTF-8.
 std::string printable_name(std::string_view name);
 
 /// Terminal cells that UTF-8 `text` takes, Chinese, Japanese and Korean characters two each.

@@ -1,5 +1,7 @@
 #include "whole_file.h"
 
+#include "native_path.h"
+
 #include <cerrno>
 #include <cstdint>
 #include <cstdio>
@@ -36,7 +38,7 @@ bool flush_to_disk(std::FILE* file)
 class output_file {
 public:
     /// `mode` as std::fopen has it.
-    output_file(const fs::path& path, const char* mode) : file_(std::fopen(path.string().c_str(), mode)) {}
+    output_file(const fs::path& path, const char* mode) : file_(open_file(path, mode)) {}
     ~output_file() { close(); }
     output_file(const output_file&) = delete;
     output_file& operator=(const output_file&) = delete;

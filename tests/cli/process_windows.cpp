@@ -1,0 +1,90 @@
+#include "process.h"
+
+#include <stdexcept>
+#include <string_view>
+
+#include <windows.h>
+
+namespace cli_test {
+namespace {
+
+std::wstring wide(std::string_view narrow)
+{
+    const int narrow_size = static_cast<int>(narrow.size());
+    const int size = MultiByteToWideChar(CP_ACP, 0, narrow.data(), narrow_size, nullptr, 0);
+    std::wstring text(static_cast<std::size_t>(size), L'\0');
+    MultiByteToWideChar(CP_ACP, 0, narrow.data(), narrow_size, text.data(), size);
+    return text;
+}
+
+/// A word as the C runtime of the program will read it back from the command line.
+std::wstring quoted(const std::wstring& word)
+{
+    std::wstring text = L"\"";
+    std::size_t backslashes = 0;
+    for (const wchar_t c : word) {
+        if (c == L'"')
+            text.append(backslashes + 1, L'\\'); // those before a quote count twice, and it needs its own
+        backslashes = c == L'\\' ? backslashes + 1 : 0;
+        text += c;
+    }
+    return text.append(backslashes, L'\\') + L'"';
+}
+
+/// A handle that the program to be inherits.
+class stream {
+public:
+    stream(const std::string& name, DWORD access, DWORD disposition)
+    {
+        SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+        handle_ = CreateFileW(wide(name).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, disposition,
+                              FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (handle_ == INVALID_HANDLE_VALUE)
+            throw std::runtime_error("cannot open " + name);
+    }
+    ~stream() { CloseHandle(handle_); }
+    stream(const stream&) = delete;
+    stream& operator=(const stream&) = delete;
+
+    HANDLE get() const { return handle_; }
+
+private:
+    HANDLE handle_;
+};
+
+int exit_code_of(HANDLE process)
+{
+    DWORD code = 0;
+    WaitForSingleObject(process, INFINITE);
+    if (GetExitCodeProcess(process, &code) == 0)
+        throw std::runtime_error("a program was lost");
+    constexpr DWORD first_exception = 0x80000000U;
+    return code >= first_exception ? -1 : static_cast<int>(code);
+}
+
+} // namespace
+
+int run_to_end(std::vector<std::string> words, const process_streams& streams)
+{
+    std::wstring command;
+    for (const std::string& word : words)
+        command += quoted(wide(word)) + L' ';
+    const stream in(streams.in, GENERIC_READ, OPEN_EXISTING);
+    const stream out(streams.out, GENERIC_WRITE, CREATE_ALWAYS);
+    const stream err(streams.err, GENERIC_WRITE, CREATE_ALWAYS);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdInput = in.get();
+    startup.hStdOutput = out.get();
+    startup.hStdError = err.get();
+    PROCESS_INFORMATION process{};
+    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process) == 0)
+        throw std::runtime_error("cannot start " + words.front());
+    const int code = exit_code_of(process.hProcess);
+    CloseHandle(process.hThread);
+    CloseHandle(process.hProcess);
+    return code;
+}
+
+} // namespace cli_test
