@@ -1,27 +1,29 @@
 # What `cmake --install` puts where: the library, its public headers, and the files by which CMake and
-# pkg-config find both. All of it may be moved to another prefix afterwards.
+# pkg-config find both. All of it may be moved to another prefix afterwards. Components: "library" is what
+# a built host needs to run, "development" what it takes to build one, "tool" the program.
 include(CMakePackageConfigHelpers)
 
 install(TARGETS staadkit EXPORT staadkit_targets
-    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT library NAMELINK_COMPONENT development
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT library)
 
 foreach(header IN LISTS staadkit_public_headers)
     cmake_path(GET header PARENT_PATH folder)
-    install(FILES "${PROJECT_SOURCE_DIR}/staad/${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/staad/${folder}")
+    install(FILES "${PROJECT_SOURCE_DIR}/staad/${header}" COMPONENT development
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/staad/${folder}")
 endforeach()
 
 # find_package(staadkit CONFIG) gives the target staadkit::staadkit.
 set(staadkit_package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/staadkit")
 install(EXPORT staadkit_targets NAMESPACE staadkit:: FILE staadkit-targets.cmake
-    DESTINATION "${staadkit_package_dir}")
+    DESTINATION "${staadkit_package_dir}" COMPONENT development)
 configure_package_config_file("${CMAKE_CURRENT_LIST_DIR}/staadkit-config.cmake.in"
     "${PROJECT_BINARY_DIR}/staadkit-config.cmake" INSTALL_DESTINATION "${staadkit_package_dir}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/staadkit-config-version.cmake"
-    COMPATIBILITY SameMinorVersion)
+    COMPATIBILITY ${STAADKIT_COMPATIBILITY})
 install(FILES "${PROJECT_BINARY_DIR}/staadkit-config.cmake" "${PROJECT_BINARY_DIR}/staadkit-config-version.cmake"
-    DESTINATION "${staadkit_package_dir}")
+    DESTINATION "${staadkit_package_dir}" COMPONENT development)
 
 # pkg-config: `staadkit.pc`, which finds its prefix from where it lies itself.
 set(staadkit_pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
@@ -48,4 +50,4 @@ if(NOT BUILD_SHARED_LIBS)
     list(JOIN runtime " " staadkit_pc_private)
 endif()
 configure_file("${CMAKE_CURRENT_LIST_DIR}/staadkit.pc.in" "${PROJECT_BINARY_DIR}/staadkit.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/staadkit.pc" DESTINATION "${staadkit_pc_dir}")
+install(FILES "${PROJECT_BINARY_DIR}/staadkit.pc" DESTINATION "${staadkit_pc_dir}" COMPONENT development)

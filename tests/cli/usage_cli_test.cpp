@@ -37,7 +37,7 @@ TEST(Usage, HelpNamesTheVerbsAndTheirOptions)
     EXPECT_TRUE(contains(tool({"dump", "--help"}).out, "Usage: staadkit dump [OPTIONS] FILE\n"));
     const std::string convert_help = tool({"convert", "--help"}).out;
     EXPECT_TRUE(contains(convert_help, "Usage: staadkit convert [OPTIONS] IN OUT\n"));
-    for (const char* option : {"--wind FILE ", "--seismic FILE ", "--force ", "--template NAME ", "--notes "})
+    for (const char* option : {"--wind FILE ", "--seismic FILE ", "--force ", "--template wind|seismic ", "--notes "})
         EXPECT_TRUE(contains(convert_help, std::string("\n  ") + option)) << option;
 }
 
@@ -117,6 +117,9 @@ const slip slips[] = {
      {"compare", "a.std", "b.std", "--take-over"},
      "--take-over: 1 required OUT missing",
      "staadkit compare --help"},
+    {"no such page", {"--print", "mann"}, "--print: 'mann' is none of man|bash|zsh|fish", "staadkit --help"},
+    {"no page named", {"--print"}, "--print: 1 required NAME missing", "staadkit --help"},
+    {"a slip behind a page", {"--print", "inof"}, "--print: 'inof' is none of", "staadkit --help"},
     {"no verb", {}, "no verb given", "staadkit --help"},
 };
 

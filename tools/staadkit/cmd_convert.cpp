@@ -119,10 +119,10 @@ verb_action set_up_convert(CLI::App& command)
     };
     command
         .add_option_function<std::string>("--template", choose_template,
-                                          "Print an example of a parameter file, wind or seismic, and exit")
+                                          "Print an example of a parameter file and exit")
         ->check(why_no_template)
-        ->type_name("NAME")   // in messages
-        ->option_text("NAME") // in the help
+        ->type_name("NAME")                                                // in messages
+        ->option_text(std::string(wind_template) + '|' + seismic_template) // in the help
         ->excludes(in, out);
     return [options] { return run_convert(*options); };
 }

@@ -1,5 +1,6 @@
 // staadkit: shows what .std files hold, and writes them anew.
 
+#include "command_pages.h"
 #include "messages.h"
 #include "std_output.h"
 #include "suggest.h"
@@ -32,12 +33,23 @@ constexpr verb verbs[] = {
     {"compare", "Show how a model differs from an earlier one, and take definitions over from it", set_up_compare},
 };
 
-constexpr const char* exit_code_help = "Exit codes:\n"
-                                       "  0  done, warnings included\n"
-                                       "  1  done, with findings or differences, of a verb that checks\n"
-                                       "  2  wrong usage\n"
-                                       "  3  no model in the input\n"
-                                       "  4  output not written";
+std::string exit_code_help()
+{
+    std::string text = "Exit codes:";
+    for (const exit_code_meaning& each : exit_code_meanings)
+        text += "\n  " + std::to_string(each.code) + "  " + each.meaning;
+    return text;
+}
+
+/// Thrown once --print is read: nothing else is asked of the arguments then, as with --help.
+struct call_for_page {
+    const command_page& page;
+};
+
+std::string why_no_page(const std::string& name)
+{
+    return find_page(name) == nullptr ? '\'' + name + "' is none of " + page_names() : std::string();
+}
 
 /// What was wrong, the word that may have been meant, and whose help tells more: that of `command`.
 exit_code refuse(const CLI::App& command, const std::string& message, const std::string& nearest = {})
@@ -52,15 +64,23 @@ exit_code refuse(const CLI::App& command, const std::string& message, const std:
     return wrong_usage;
 }
 
-/// The first word that is no option must be a verb.
+constexpr const char* print_option = "--print";
+
+bool is_verb(const std::string& word)
+{
+    return std::any_of(std::begin(verbs), std::end(verbs), [&word](const verb& each) { return word == each.name; });
+}
+
+/// The first word that is no option, nor the value of one, must be a verb.
 const std::string* unknown_verb(const std::vector<std::string>& arguments)
 {
-    const auto first =
-        std::find_if(arguments.begin(), arguments.end(), [](const std::string& word) { return word[0] != '-'; });
-    if (first == arguments.end() ||
-        std::any_of(std::begin(verbs), std::end(verbs), [&first](const verb& each) { return *first == each.name; }))
-        return nullptr;
-    return &*first;
+    const std::string* before = nullptr;
+    for (const std::string& word : arguments) {
+        if (word[0] != '-' && (before == nullptr || *before != print_option))
+            return is_verb(word) ? nullptr : &word;
+        before = &word;
+    }
+    return nullptr;
 }
 
 std::vector<std::string> verb_names()
@@ -68,16 +88,6 @@ std::vector<std::string> verb_names()
     std::vector<std::string> names;
     for (const verb& each : verbs)
         names.emplace_back(each.name);
-    return names;
-}
-
-std::vector<std::string> option_names(const CLI::App& command)
-{
-    std::vector<std::string> names;
-    for (const CLI::Option* option : command.get_options()) {
-        for (const std::string& name : option->get_lnames())
-            names.push_back("--" + name);
-    }
     return names;
 }
 
@@ -94,7 +104,7 @@ exit_code refuse_extras(const CLI::App& app)
     const CLI::App& command = chosen_command(app);
     if (word[0] != '-')
         return refuse(command, "one argument too many: '" + word + "'");
-    const std::string nearest = nearest_word(word, option_names(command));
+    const std::string nearest = nearest_word(word, option_names(outline_of(command)));
     if (nearest == word)
         return refuse(app, "option '" + word + "' belongs after the verb");
     return refuse(command, "unknown option '" + word + "'", nearest);
@@ -104,14 +114,20 @@ void set_up_app(CLI::App& app, verb_action& action)
 {
     app.set_version_flag("--version", "staadkit " STAADKIT_VERSION, "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
+    app.add_option_function<std::string>(
+           print_option, [](const std::string& name) { throw call_for_page{*find_page(name)}; },
+           "Print the manual page or the completions of a shell and exit")
+        ->check(why_no_page)
+        ->type_name("NAME")          // in messages
+        ->option_text(page_names()); // in the help
     app.require_subcommand(1);
     app.allow_windows_style_options(false); // "/" begins a path
     app.footer(std::string("Results go to standard output, messages to standard error.\n") +
-               "staadkit VERB --help tells more about a verb.\n\n" + exit_code_help);
+               "staadkit VERB --help tells more about a verb.\n\n" + exit_code_help());
     app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.get_formatter()->label("Positionals", "Arguments");
     for (const verb& each : verbs) {
-        CLI::App* const command = app.add_subcommand(each.name, each.help)->group("Verbs")->footer(exit_code_help);
+        CLI::App* const command = app.add_subcommand(each.name, each.help)->group("Verbs")->footer(exit_code_help());
         const verb_action run = each.set_up(*command);
         command->callback([&action, run] { action = run; });
     }
@@ -131,6 +147,8 @@ exit_code run(int argc, const char* const* argv)
         return print_result(app.help(), done);
     } catch (const CLI::CallForVersion& version) {
         return print_result(std::string(version.what()) + '\n', done);
+    } catch (const call_for_page& call) {
+        return print_result(call.page.make(outline_of(app)), done);
     } catch (const CLI::ExtrasError&) {
         return refuse_extras(app);
     } catch (const CLI::RequiredError& error) {

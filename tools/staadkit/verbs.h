@@ -19,6 +19,18 @@ enum exit_code : int {
     not_written = 4
 };
 
+struct exit_code_meaning {
+    exit_code code;
+    const char* meaning; ///< of the help
+};
+
+inline constexpr exit_code_meaning exit_code_meanings[] = {
+    {done, "done, warnings included"},
+    {done_with_findings, "done, with findings or differences, of a verb that checks"},
+    {wrong_usage, "wrong usage"},
+    {no_model, "no model in the input"},
+    {not_written, "output not written"}};
+
 /// Does the work of a verb once its arguments are read.
 using verb_action = std::function<exit_code()>;
 
