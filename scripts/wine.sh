@@ -1,0 +1,25 @@
+# Sourced by test and by tests/dialogs/dialogs.sh: runs programs for Windows in a Wine prefix of our own.
+
+# start_wine PREFIX: from here on Wine programs run in the folder PREFIX, an absolute path, which is filled on first
+# use. Their services are started here, detached: the first program would start them too, but they would keep its
+# standard output open and whoever reads it waiting. Display and locale are those of the environment.
+start_wine() {
+    export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml,winemenubuilder.exe=
+    export PATH=/usr/lib/wine:$PATH # where Debian has wine64 and wineserver
+    mkdir -p "$WINEPREFIX"
+    setsid wineserver -p </dev/null >/dev/null 2>&1
+    setsid wine64 wineboot -i </dev/null >/dev/null 2>&1
+}
+
+# Ends what runs in that prefix, and nothing else.
+stop_wine() {
+    wineserver -k 2>/dev/null || true # there may be no server
+}
+
+# Code page 936 is what Wine makes of zh_CN. The locale is made here and not on the machine.
+make_chinese_locale() { # folder
+    export LOCPATH=$1 LC_ALL=zh_CN.UTF-8
+    [ -d "$LOCPATH/$LC_ALL" ] && return
+    mkdir -p "$LOCPATH"
+    localedef -i zh_CN -f UTF-8 "$LOCPATH/$LC_ALL"
+}
