@@ -4,11 +4,14 @@
 ///     dialog_host import-without-model RESULT LISTING
 ///     dialog_host take-over RESULT MODEL EARLIER_MODEL
 ///     dialog_host forces RESULT MODEL [TYPED_NAME]
+///     dialog_host read-storeys RESULT
 ///
-/// TYPED_NAME is a file in which the name stands that is being typed into the file dialog.
+/// The last one talks to no user: it reads what the window of the other host shows. TYPED_NAME is a file in which the
+/// name stands that is being typed into the file dialog.
 
 #include "staad/model/sd_reader.h"
 #include "staad/project/layered_project.h"
+#include "tests/dialogs/list_reader.h"
 #include "tests/dialogs/onlooker.h"
 #include "tests/dialogs/result_file.h"
 #include "tests/support/model_equal.h"
@@ -121,17 +124,24 @@ void forces(const arguments& given, result_file& result)
     }
 }
 
+void read_storeys(const arguments&, result_file& result)
+{
+    read_list(L"storeys", result);
+}
+
 using scenario = void (*)(const arguments&, result_file&);
 
-const std::map<std::string, scenario> scenarios = {
-    {"import-without-model", import_without_model}, {"take-over", take_over}, {"forces", forces}};
+const std::map<std::string, scenario> scenarios = {{"import-without-model", import_without_model},
+                                                   {"take-over", take_over},
+                                                   {"forces", forces},
+                                                   {"read-storeys", read_storeys}};
 
 } // namespace
 } // namespace STAAD
 
 int main(int argc, char** argv)
 {
-    const auto chosen = argc > 3 ? STAAD::scenarios.find(argv[1]) : STAAD::scenarios.end();
+    const auto chosen = argc > 2 ? STAAD::scenarios.find(argv[1]) : STAAD::scenarios.end();
     if (chosen == STAAD::scenarios.end()) {
         std::fputs("usage: dialog_host SCENARIO RESULT PATH...\n", stderr);
         return 2;
