@@ -3,11 +3,12 @@
 ///
 ///     dialog_host import-without-model RESULT LISTING
 ///     dialog_host take-over RESULT MODEL EARLIER_MODEL
-///     dialog_host forces RESULT MODEL [TYPED_NAME]
-///     dialog_host read-storeys RESULT
+///     dialog_host forces RESULT MODEL
 ///
-/// The last one talks to no user: it reads what the window of the other host shows. TYPED_NAME is a file in which the
-/// name stands that is being typed into the file dialog.
+/// Or reads what another program shows: what is typed into a file dialog, the storeys in the window of a host.
+///
+///     dialog_host read-typed-name RESULT
+///     dialog_host read-storeys RESULT
 
 #include "staad/model/sd_reader.h"
 #include "staad/project/layered_project.h"
@@ -108,11 +109,10 @@ void write_forces(const LayerMember& entry, result_file& result)
 void forces(const arguments& given, result_file& result)
 {
     const std::wstring folder = current_folder();
-    const std::string name_file = given.size() > 1 ? given.at(1) : "";
     StaadProProject_layered project;
     bool built = false;
     {
-        const onlooker looking(result, name_file);
+        const onlooker looking(result);
         built = project.BuidFromFile(given.at(0), 1);
     }
     result.line(built ? "built" : "not built");
@@ -129,11 +129,17 @@ void read_storeys(const arguments&, result_file& result)
     read_list(L"storeys", result);
 }
 
+void read_name(const arguments&, result_file& result)
+{
+    read_typed_name(result);
+}
+
 using scenario = void (*)(const arguments&, result_file&);
 
 const std::map<std::string, scenario> scenarios = {{"import-without-model", import_without_model},
                                                    {"take-over", take_over},
                                                    {"forces", forces},
+                                                   {"read-typed-name", read_name},
                                                    {"read-storeys", read_storeys}};
 
 } // namespace

@@ -52,7 +52,10 @@ start_desktop() {
     add_chinese_keys
     openbox --sm-disable >"$work/openbox.log" 2>&1 & # windows get the keyboard from a window manager
     own+=($!)
+    until_true manages_windows || fail "openbox does not start: $(cat "$work/openbox.log")"
 }
+
+manages_windows() { xdotool get_num_desktops >/dev/null 2>&1; }
 
 # Gives each Chinese character that is typed a key of its own: xdotool has one key for all that the keyboard lacks and
 # changes what it stands for while it types, before programs have read what was typed.
@@ -93,14 +96,19 @@ end_program() {
 
 # ---- eyes and hands ---------------------------------------------------------------------------------
 
-# until_true COMMAND...: tries every tenth of a second; false if it takes too long.
-until_true() {
-    local end=$((SECONDS + patience))
+# within SECONDS COMMAND...: tries every tenth of a second; false if it takes longer.
+within() {
+    local end=$((SECONDS + $1))
+    shift
     until "$@"; do
         [ "$SECONDS" -lt "$end" ] || return 1
         sleep 0.1
     done
 }
+
+soon() { within 15 "$@"; }
+
+until_true() { within "$patience" "$@"; }
 
 is_over() { ! runs; }
 
@@ -127,22 +135,47 @@ has_window() { # program [title]
 
 see_window() { # program [title]
     until_true has_window "$@" || fail "no window appears: $*"
-    timeout "$patience" xdotool windowactivate --sync "$window" || fail "no keyboard for the window of $1"
+    until_true has_keyboard || fail "no keyboard for the window of $1"
 }
+
+has_keyboard() { timeout 10 xdotool windowactivate --sync "$window" 2>/dev/null; }
 
 title_of_window() { xdotool getwindowname "$window" 2>/dev/null; }
 
 take_picture() { import -window root "$scratch/$name${1:-}.png"; }
 
-press() { xdotool key --clearmodifiers "$@"; }
+press() { xdotool key "$@"; }
 
-is_typed() { [ "$(cat "$work/typed" 2>/dev/null)" = "name [$1]" ]; }
-
-# Types a name and waits until it stands in the dialog.
-type_name() {
-    xdotool type --delay 20 "$1"
-    until_true is_typed "$1" || fail "the name typed does not arrive: $(cat "$work/typed")"
+read_with() { # scenario result
+    (cd "$work" && timeout "$patience" wine64 "$dialog_host" "$1" "$(windows_path "$2")" </dev/null >/dev/null 2>&1)
 }
+
+is_typed() {
+    read_with read-typed-name "$work/typed" && [ "$(head -n 1 "$work/typed")" = "name [$1]" ]
+}
+
+# A busy program may lose keys, so a name is typed anew until it stands in the dialog ...
+type_name() {
+    local end=$((SECONDS + patience))
+    while [ "$SECONDS" -lt "$end" ]; do
+        press End shift+Home
+        xdotool type --delay 20 "$1"
+        ! soon is_typed "$1" || return 0
+    done
+    fail "the name does not arrive; typed is $(cat "$work/typed" 2>/dev/null)"
+}
+
+# ... and a key that closes a window is pressed until that is gone.
+answer() { # key
+    local end=$((SECONDS + patience))
+    while [ "$SECONDS" -lt "$end" ]; do
+        press "$1"
+        ! soon is_gone || return 0
+    done
+    fail "the window stays"
+}
+
+is_gone() { ! xdotool search --onlyvisible --name '' 2>/dev/null | grep -qx "$window"; }
 
 expect_title() {
     [ "$(title_of_window)" = "$1" ] || fail "the title is '$(title_of_window)', not '$1'"
@@ -189,7 +222,7 @@ import-without-model() {
     see_dialog
     expect_title $'Error--Velkor\u8F6F\u4EF6'
     take_picture
-    press Return
+    answer Return
 }
 
 ask_to_take_over() {
@@ -203,12 +236,12 @@ ask_to_take_over() {
 
 take-over-yes() {
     ask_to_take_over
-    press Return
+    answer Return
 }
 
 take-over-no() {
     ask_to_take_over
-    press n
+    answer n
 }
 
 # Windows leaves a box with "yes" and "no" alone where it is, since it cannot be cancelled; Wine closes it. Either way
@@ -216,7 +249,7 @@ take-over-no() {
 take-over-escape() {
     ask_to_take_over
     press Escape
-    press n
+    answer n
 }
 
 # The model lies beside nothing, its listing in another folder.
@@ -224,7 +257,7 @@ ask_for_forces() {
     mkdir "$work/$project"
     frame_model >"$work/frame.std"
     frame_forces >"$work/$project/$beam_forces.txt"
-    start_scenario forces "$work/frame.std" "$work/typed"
+    start_scenario forces "$work/frame.std"
     see_dialog
     take_picture
 }
@@ -233,12 +266,12 @@ force-file-typed() {
     ask_for_forces
     type_name "$(windows_path "$work/$project/$beam_forces.txt")"
     take_picture -typed
-    press Return
+    answer Return
 }
 
 force-file-cancelled() {
     ask_for_forces
-    press Escape
+    answer Escape
 }
 
 force-file-beside() {
@@ -248,7 +281,7 @@ force-file-beside() {
     start_scenario forces "$work/$project/$frame.std"
 }
 
-# Of the host, no dialog is described: what it shows is told by the pictures.
+# The host does not describe its dialogs.
 see_dialog_of_host() {
     see_window "$(basename "$win32_host")"
     take_picture "$1"
@@ -257,9 +290,8 @@ see_dialog_of_host() {
 see_storeys() { # title
     see_window "$(basename "$win32_host")" "$1"
     take_picture
-    (cd "$work" && timeout "$patience" wine64 "$dialog_host" read-storeys "$(windows_path "$result")" </dev/null) ||
-        fail "the list of storeys cannot be read"
-    press Escape
+    read_with read-storeys "$result" || fail "the list of storeys cannot be read"
+    answer Escape
 }
 
 # No listing lies beside it.
@@ -267,7 +299,7 @@ host-of-tower() {
     cp "$root/examples/twelve-storey.std" "$work"
     start_program "$win32_host" "$(windows_path "$work/twelve-storey.std")"
     see_dialog_of_host -forces
-    press Escape
+    answer Escape
     see_storeys twelve-storey.std
 }
 
@@ -287,9 +319,9 @@ host-asks-for-model() {
     frame_forces >"$work/frame.txt"
     start_program "$win32_host"
     see_dialog_of_host -model
-    xdotool type --delay 20 "$(windows_path "$work/frame.std")"
+    type_name "$(windows_path "$work/frame.std")"
     take_picture -typed
-    press Return
+    answer Return
     see_storeys frame.std
 }
 

@@ -1,18 +1,17 @@
 #include "tests/dialogs/onlooker.h"
 
-#include <dlgs.h> // behind <windows.h>
+#include <windows.h>
+// behind it
+#include <dlgs.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace STAAD {
 namespace {
-
-constexpr std::chrono::milliseconds interval{20};
 
 std::wstring class_of(HWND window)
 {
@@ -29,22 +28,31 @@ std::wstring text_of(HWND window)
     return text;
 }
 
-BOOL CALLBACK take_dialog_of_this_program(HWND window, LPARAM found)
+constexpr DWORD any_program = 0;
+
+struct dialog_search {
+    DWORD program;
+    HWND found;
+};
+
+BOOL CALLBACK look_at_window(HWND window, LPARAM data)
 {
+    auto* search = reinterpret_cast<dialog_search*>(data);
     DWORD program = 0;
     GetWindowThreadProcessId(window, &program);
-    if (program != GetCurrentProcessId() || !IsWindowVisible(window) || class_of(window) != L"#32770")
+    const bool belongs = search->program == any_program || search->program == program;
+    if (!belongs || !IsWindowVisible(window) || class_of(window) != L"#32770")
         return TRUE;
-    *reinterpret_cast<HWND*>(found) = window;
+    search->found = window;
     return FALSE;
 }
 
 /// The dialog in sight, or null.
-HWND dialog_of_this_program()
+HWND dialog_of(DWORD program)
 {
-    HWND found = nullptr;
-    EnumWindows(take_dialog_of_this_program, reinterpret_cast<LPARAM>(&found));
-    return found;
+    dialog_search search{program, nullptr};
+    EnumWindows(look_at_window, reinterpret_cast<LPARAM>(&search));
+    return search.found;
 }
 
 BOOL CALLBACK add_to_list(HWND window, LPARAM list)
@@ -148,10 +156,7 @@ void describe(HWND dialog, result_file& result)
 
 } // namespace
 
-onlooker::onlooker(result_file& result, std::string name_file)
-    : result_(result), name_file_(std::move(name_file)), thread_([this] { look(); })
-{
-}
+onlooker::onlooker(result_file& result) : result_(result), thread_([this] { look(); }) {}
 
 onlooker::~onlooker()
 {
@@ -161,27 +166,19 @@ onlooker::~onlooker()
 
 void onlooker::look() const
 {
+    constexpr std::chrono::milliseconds interval{20};
     while (!finished_) {
-        if (const HWND dialog = dialog_of_this_program()) {
+        if (const HWND dialog = dialog_of(GetCurrentProcessId())) {
             describe(dialog, result_);
-            if (!name_file_.empty())
-                watch_name(dialog);
             return;
         }
         std::this_thread::sleep_for(interval);
     }
 }
 
-void onlooker::watch_name(HWND dialog) const
+void read_typed_name(result_file& result)
 {
-    std::wstring last;
-    while (!finished_ && IsWindow(dialog)) {
-        const std::wstring name = text_of(name_field(dialog));
-        if (name != last)
-            result_file(name_file_.c_str()).line("name", name);
-        last = name;
-        std::this_thread::sleep_for(interval);
-    }
+    result.line("name", text_of(name_field(dialog_of(any_program))));
 }
 
 } // namespace STAAD

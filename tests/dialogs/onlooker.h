@@ -4,33 +4,31 @@
 
 #include "tests/dialogs/result_file.h"
 
-#include <windows.h>
-
 #include <atomic>
-#include <string>
 #include <thread>
 
 namespace STAAD {
 
 /// As long as it lives, describes the first dialog that appears: its owner, caption, texts, icon, buttons; of a file
-/// dialog the filters and the initial name. The last line of a description is "shown". Then what stands in the field
-/// for the name is kept in a file of its own, whoever types may look there whether every key has arrived.
+/// dialog the filters and the initial name. The last line of a description is "shown".
 class onlooker {
 public:
-    explicit onlooker(result_file& result, std::string name_file = {});
+    explicit onlooker(result_file& result);
     ~onlooker();
     onlooker(const onlooker&) = delete;
     onlooker& operator=(const onlooker&) = delete;
 
 private:
     void look() const;
-    void watch_name(HWND dialog) const;
 
     result_file& result_;
-    std::string name_file_;
     std::atomic<bool> finished_{false};
     std::thread thread_;
 };
+
+/// Writes what stands in the field for the name of the file dialog that some program shows: who types may see whether
+/// every key has arrived.
+void read_typed_name(result_file& result);
 
 } // namespace STAAD
 
