@@ -1,9 +1,12 @@
 # Sourced by test and by tests/dialogs/dialogs.sh: runs programs for Windows in a Wine prefix of our own.
 
+wine_prefix= # none is started
+
 # start_wine PREFIX: from here on Wine programs run in the folder PREFIX, an absolute path, which is filled on first
 # use. Their services are started here, detached: the first program would start them too, but they would keep its
 # standard output open and whoever reads it waiting. Display and locale are those of the environment.
 start_wine() {
+    wine_prefix=$1
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml,winemenubuilder.exe=
     export PATH=/usr/lib/wine:$PATH # where Debian has wine64 and wineserver
     mkdir -p "$WINEPREFIX"
@@ -13,7 +16,7 @@ start_wine() {
 
 # Ends what runs in that prefix, and nothing else.
 stop_wine() {
-    wineserver -k 2>/dev/null || true # there may be no server
+    [ -z "$wine_prefix" ] || WINEPREFIX=$wine_prefix wineserver -k 2>/dev/null || true # it may have ended by itself
 }
 
 # Code page 936 is what Wine makes of zh_CN. The locale is made here and not on the machine.

@@ -18,7 +18,7 @@ public:
 
     /// A message box without an owner window. Texts are UTF-16.
     struct Message {
-        std::u16string caption; ///< empty: the platform's own
+        std::u16string caption; ///< may be empty, and is then shown so
         std::u16string text;
         Buttons buttons = Buttons::Ok;
         Icon icon = Icon::None;

@@ -34,10 +34,12 @@ std::wstring wide_text(std::string_view narrow)
 
 std::string narrow_text(std::wstring_view wide)
 {
+    // Not a letter that looks alike: that might name another file. UTF-8 has all letters and refuses the flag.
+    const DWORD flags = GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
     const int wide_size = static_cast<int>(wide.size());
-    const int size = WideCharToMultiByte(CP_ACP, 0, wide.data(), wide_size, nullptr, 0, nullptr, nullptr);
+    const int size = WideCharToMultiByte(CP_ACP, flags, wide.data(), wide_size, nullptr, 0, nullptr, nullptr);
     std::string narrow(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_ACP, 0, wide.data(), wide_size, narrow.data(), size, nullptr, nullptr);
+    WideCharToMultiByte(CP_ACP, flags, wide.data(), wide_size, narrow.data(), size, nullptr, nullptr);
     return narrow;
 }
 
