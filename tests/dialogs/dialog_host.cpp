@@ -5,9 +5,9 @@
 ///     dialog_host take-over RESULT MODEL EARLIER_MODEL
 ///     dialog_host forces RESULT MODEL
 ///
-/// Or reads what another program shows: what is typed into a file dialog, the storeys in the window of a host.
+/// Or reads what another program shows: a file dialog, the storeys in the window of a host.
 ///
-///     dialog_host read-typed-name RESULT
+///     dialog_host read-file-dialog RESULT
 ///     dialog_host read-storeys RESULT
 
 #include "staad/model/sd_reader.h"
@@ -129,9 +129,9 @@ void read_storeys(const arguments&, result_file& result)
     read_list(L"storeys", result);
 }
 
-void read_name(const arguments&, result_file& result)
+void read_dialog(const arguments&, result_file& result)
 {
-    read_typed_name(result);
+    read_file_dialog(result);
 }
 
 using scenario = void (*)(const arguments&, result_file&);
@@ -139,7 +139,7 @@ using scenario = void (*)(const arguments&, result_file&);
 const std::map<std::string, scenario> scenarios = {{"import-without-model", import_without_model},
                                                    {"take-over", take_over},
                                                    {"forces", forces},
-                                                   {"read-typed-name", read_name},
+                                                   {"read-file-dialog", read_dialog},
                                                    {"read-storeys", read_storeys}};
 
 } // namespace

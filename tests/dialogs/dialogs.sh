@@ -151,8 +151,10 @@ read_with() { # scenario result
 }
 
 is_typed() {
-    read_with read-typed-name "$work/typed" && [ "$(head -n 1 "$work/typed")" = "name [$1]" ]
+    read_with read-file-dialog "$work/typed" && [ "$(head -n 1 "$work/typed")" = "name [$1]" ]
 }
+
+is_listed() { read_with read-file-dialog "$work/typed" && grep -qF "row [$1" "$work/typed"; }
 
 # A busy program may lose keys, so a name is typed anew until it stands in the dialog ...
 type_name() {
@@ -268,6 +270,17 @@ force-file-typed() {
     take_picture -typed
     answer Return
 }
+
+# Into the folder first: the system then makes it the current one.
+force-file-browsed() {
+    ask_for_forces
+    type_name "$(windows_path "$work/$project")"
+    until_true enters_folder || fail "the dialog does not enter the folder"
+    type_name "$beam_forces.txt"
+    answer Return
+}
+
+enters_folder() { press Return && soon is_listed "$beam_forces.txt"; }
 
 force-file-cancelled() {
     ask_for_forces

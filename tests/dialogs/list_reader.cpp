@@ -1,7 +1,5 @@
 #include "tests/dialogs/list_reader.h"
 
-#include <windows.h>
-// behind it
 #include <commctrl.h>
 
 #include <cstddef>
@@ -71,17 +69,22 @@ std::wstring text_of(HWND window)
 
 } // namespace
 
+void read_rows(HWND list_view, result_file& result)
+{
+    const list_of_other_program list(list_view);
+    for (int row = 0; row < list.rows(); ++row) {
+        std::wstring cells = list.text(row, 0);
+        for (int column = 1; column < list.columns(); ++column)
+            cells += L" " + list.text(row, column);
+        result.line("row", cells);
+    }
+}
+
 void read_list(const wchar_t* window_class, result_file& result)
 {
     const HWND window = FindWindowW(window_class, nullptr);
-    const list_of_other_program list(FindWindowExW(window, nullptr, WC_LISTVIEWW, nullptr));
     result.line("title", text_of(window));
-    for (int row = 0; row < list.rows(); ++row) {
-        std::wstring cells;
-        for (int column = 0; column < list.columns(); ++column)
-            cells += (column == 0 ? L"" : L" ") + list.text(row, column);
-        result.line("row", cells);
-    }
+    read_rows(FindWindowExW(window, nullptr, WC_LISTVIEWW, nullptr), result);
     result.line("below", text_of(FindWindowExW(window, nullptr, L"STATIC", nullptr)));
 }
 

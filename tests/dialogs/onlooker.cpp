@@ -1,7 +1,10 @@
 #include "tests/dialogs/onlooker.h"
 
+#include "tests/dialogs/list_reader.h"
+
 #include <windows.h>
 // behind it
+#include <commctrl.h>
 #include <dlgs.h>
 
 #include <algorithm>
@@ -176,9 +179,12 @@ void onlooker::look() const
     }
 }
 
-void read_typed_name(result_file& result)
+void read_file_dialog(result_file& result)
 {
-    result.line("name", text_of(name_field(dialog_of(any_program))));
+    const HWND dialog = dialog_of(any_program);
+    result.line("name", text_of(name_field(dialog)));
+    for (const HWND list : parts_of(dialog, WC_LISTVIEWW))
+        read_rows(list, result);
 }
 
 } // namespace STAAD

@@ -26,9 +26,9 @@ private:
     std::thread thread_;
 };
 
-/// Writes what stands in the field for the name of the file dialog that some program shows: who types may see whether
-/// every key has arrived.
-void read_typed_name(result_file& result);
+/// Writes what stands in the field for the name of the file dialog that some program shows, and the files listed: who
+/// types may see whether every key has arrived.
+void read_file_dialog(result_file& result);
 
 } // namespace STAAD
 
