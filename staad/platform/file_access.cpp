@@ -116,7 +116,7 @@ file_bytes read_updatable_file(const char* path)
     return result;
 }
 
-bool can_read(const char* path) noexcept
+bool can_read(const char* path)
 {
 #ifdef _WIN32
     constexpr int for_reading = 4;

@@ -24,7 +24,7 @@ struct file_bytes {
 file_bytes read_updatable_file(const char* path);
 
 /// Whether a file of that name is there and may be read; false for a null path.
-bool can_read(const char* path) noexcept;
+bool can_read(const char* path);
 
 /// Whether `path` can be opened for reading as a file.
 bool can_be_opened(const char* path);
