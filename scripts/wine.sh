@@ -14,9 +14,12 @@ start_wine() {
     setsid wine64 wineboot -i </dev/null >/dev/null 2>&1
 }
 
-# Ends what runs in that prefix, and nothing else.
+# Ends what runs in that prefix, and nothing else. Waits for it: a server that is still ending is no good to whoever
+# starts the next one.
 stop_wine() {
-    [ -z "$wine_prefix" ] || WINEPREFIX=$wine_prefix wineserver -k 2>/dev/null || true # it may have ended by itself
+    [ -n "$wine_prefix" ] || return 0
+    WINEPREFIX=$wine_prefix wineserver -k 2>/dev/null || true # it may have ended by itself
+    WINEPREFIX=$wine_prefix timeout 60 wineserver -w 2>/dev/null || true
 }
 
 # Code page 936 is what Wine makes of zh_CN. The locale is made here and not on the machine.
