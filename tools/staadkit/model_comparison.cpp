@@ -90,7 +90,7 @@ struct position_range {
     int first = 1;
     int last = 0;
 
-    std::size_t size() const { return static_cast<std::size_t>(last - first + 1); }
+    std::size_t size() const { return static_cast<std::size_t>(last) - static_cast<std::size_t>(first) + 1; }
 };
 
 position_range all_of(const record_list& list)
@@ -163,6 +163,7 @@ std::vector<section_change> resectioned(const SdReader& now, const SdReader& ear
             changes[std::move(texts)].push_back(member.id);
     }
     std::vector<section_change> listed;
+    listed.reserve(changes.size());
     for (auto& [texts, members] : changes)
         listed.push_back({texts.first, texts.second, std::move(members)});
     return listed;
