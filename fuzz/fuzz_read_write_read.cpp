@@ -33,10 +33,10 @@ bool has_same_place(const STAAD::SdNode& left, const STAAD::SdNode& right)
     return left.x == right.x && left.y == right.y && left.z == right.z;
 }
 
-/// Six significant digits.
+/// Six significant digits, as far as a double has them: the smallest have fewer.
 bool is_rounded(double value, double exact)
 {
-    return std::abs(value - exact) <= std::abs(exact) * 1e-5;
+    return std::abs(value - exact) <= std::abs(exact) * 1e-5 + 1e-300;
 }
 
 /// Joints, members and shells come back by position, whatever stands in the texts of the model.
