@@ -5,7 +5,7 @@ set -euo pipefail
 sources() { # suffixes...
     local suffix patterns=()
     for suffix in "$@"; do patterns+=(-o -name "*.$suffix"); done
-    find staad tools tests benchmarks examples -type f \( "${patterns[@]:1}" \) | sort
+    find staad tools tests benchmarks examples fuzz -type f \( "${patterns[@]:1}" \) | sort
 }
 
 case $1 in

@@ -196,18 +196,31 @@ void fill_record(const json& object, Record& record, STAAD::ReadReport& report)
 }
 
 template<class Record>
-STAAD::ReadReport read_record(const std::string& path, Record& record)
+void read_record(const std::string& text, Record& record, STAAD::ReadReport& report)
 {
-    STAAD::ReadReport report;
-    std::string text;
-    if (!read_text(path, text, report))
-        return report;
     const json object = parse_object(text, report);
     if (object.is_discarded())
-        return report;
+        return;
     fill_record(object, record, report);
     if (report.worst() != Finding::Error)
         check_parameters(record, report);
+}
+
+template<class Record>
+STAAD::ReadReport record_of_file(const std::string& path, Record& record)
+{
+    STAAD::ReadReport report;
+    std::string text;
+    if (read_text(path, text, report))
+        read_record(text, record, report);
+    return report;
+}
+
+template<class Record>
+STAAD::ReadReport record_of_text(const std::string& text, Record& record)
+{
+    STAAD::ReadReport report;
+    read_record(text, record, report);
     return report;
 }
 
@@ -215,12 +228,22 @@ STAAD::ReadReport read_record(const std::string& path, Record& record)
 
 STAAD::ReadReport read_parameters(const std::string& path, STAAD::WindLoadParam& record)
 {
-    return read_record(path, record);
+    return record_of_file(path, record);
 }
 
 STAAD::ReadReport read_parameters(const std::string& path, STAAD::SeismicParam& record)
 {
-    return read_record(path, record);
+    return record_of_file(path, record);
+}
+
+STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::WindLoadParam& record)
+{
+    return record_of_text(text, record);
+}
+
+STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::SeismicParam& record)
+{
+    return record_of_text(text, record);
 }
 
 } // namespace tool

@@ -16,6 +16,9 @@ namespace tool {
 /// file will not say.
 STAAD::ReadReport read_parameters(const std::string& path, STAAD::WindLoadParam& record);
 STAAD::ReadReport read_parameters(const std::string& path, STAAD::SeismicParam& record);
+/// The same from the text of such a file.
+STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::WindLoadParam& record);
+STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::SeismicParam& record);
 
 } // namespace tool
 
