@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-#include <barrier>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -23,16 +23,22 @@ namespace {
 
 constexpr int rounds = 10;
 
-/// Runs both, the second in a thread of its own; neither begins before both threads are there.
+/// Runs both, the second in a thread of its own; neither begins before both threads are there. They wait awake: the
+/// first moments are the ones that matter, and a waking thread would miss them.
 template<class First, class Second>
 void at_once(First first, Second second)
 {
-    std::barrier<> start(2);
+    std::atomic<int> there = 0;
+    const auto wait_for_the_other = [&there] {
+        ++there;
+        while (there < 2)
+            std::this_thread::yield();
+    };
     const std::jthread other([&] {
-        start.arrive_and_wait();
+        wait_for_the_other();
         second();
     });
-    start.arrive_and_wait();
+    wait_for_the_other();
     first();
 }
 
