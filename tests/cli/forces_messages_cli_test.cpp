@@ -6,14 +6,6 @@
 
 #include <fstream>
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool has_address_sanitizer = true;
-#elif defined(__has_feature)
-constexpr bool has_address_sanitizer = __has_feature(address_sanitizer);
-#else
-constexpr bool has_address_sanitizer = false;
-#endif
-
 namespace cli_test {
 namespace {
 

@@ -5,14 +5,6 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool has_address_sanitizer = true;
-#elif defined(__has_feature)
-constexpr bool has_address_sanitizer = __has_feature(address_sanitizer);
-#else
-constexpr bool has_address_sanitizer = false;
-#endif
-
 namespace cli_test {
 namespace {
 

@@ -68,13 +68,6 @@ compared_models compare(opened_model& now, opened_model& earlier)
     return compared;
 }
 
-exit_code put_json(const comparison_document& document, exit_code so_far)
-{
-    std_output out;
-    json_writer(out).document(document);
-    return out.close(so_far);
-}
-
 exit_code put_text(const comparison_document& document, exit_code so_far)
 {
     std_output out;
@@ -88,7 +81,7 @@ exit_code put_report(const comparison_document& document, const compare_options&
 {
     if (options.out_is_standard_output())
         return so_far;
-    return options.as_json ? put_json(document, so_far) : put_text(document, so_far);
+    return options.as_json ? print_document(document, so_far) : put_text(document, so_far);
 }
 
 exit_code take_over(opened_model& now, const opened_model& earlier, const compare_options& options, exit_code so_far)
@@ -146,7 +139,7 @@ exit_code run_compare(const compare_options& options)
         give_up_for_memory(now);
         print_finding(now.name, now.report.findings.back());
     }
-    return options.as_json ? put_json({now, earlier, nullptr}, no_model) : no_model;
+    return options.as_json ? print_document(comparison_document{now, earlier, nullptr}, no_model) : no_model;
 }
 
 } // namespace

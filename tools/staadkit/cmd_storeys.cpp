@@ -53,13 +53,6 @@ void put_text(std_output& out, const std::string& name, const std::optional<open
     put_storeys(out, summary, forces.has_value());
 }
 
-exit_code put_json(const storeys_document& document, exit_code so_far)
-{
-    std_output out;
-    json_writer(out).document(document);
-    return out.close(so_far);
-}
-
 exit_code tell_storeys(opened_model& opened, const std::optional<opened_forces>& forces, const storeys_options& options)
 {
     const storeys_summary summary = summarise_storeys(std::move(opened.model));
@@ -67,7 +60,7 @@ exit_code tell_storeys(opened_model& opened, const std::optional<opened_forces>&
     if (summary.storeys.empty())
         print_error(printable_name(opened.name) + ": no storeys: no upright and no level member gives a level");
     if (options.as_json)
-        return put_json({opened, forces, &summary}, result);
+        return print_document(storeys_document{opened, forces, &summary}, result);
     std_output out;
     put_text(out, opened.name, forces, summary);
     return out.close(result);
@@ -105,7 +98,7 @@ exit_code run_storeys(const storeys_options& options)
         give_up_for_memory(opened);
         print_finding(opened.name, opened.report.findings.back());
     }
-    return options.as_json ? put_json({opened, forces, nullptr}, no_model) : no_model;
+    return options.as_json ? print_document(storeys_document{opened, forces, nullptr}, no_model) : no_model;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "force_selection.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace tool {
@@ -9,9 +10,9 @@ namespace {
 using STAAD::Finding;
 using STAAD::SdReader;
 
-bool contains(const std::vector<int>& numbers, int number)
+std::set<int> set_of(const std::vector<int>& numbers)
 {
-    return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
+    return {numbers.begin(), numbers.end()};
 }
 
 bool has_forces(const SdReader& model, int member)
@@ -68,12 +69,14 @@ std::string unknown_in(const force_selection& wanted, const SdReader& model)
 void keep_selected(const force_selection& wanted, SdReader& model, STAAD::ReadReport& report)
 {
     const bool is_told = tell_missing(wanted, model, report) || model.beam_forces.empty();
-    if (!wanted.members.empty())
+    const std::set<int> members = set_of(wanted.members);
+    const std::set<int> cases = set_of(wanted.cases);
+    if (!members.empty())
         std::erase_if(model.beam_forces,
-                      [&](const auto& entry) { return !contains(wanted.members, member_number(model, entry.second)); });
-    if (!wanted.cases.empty()) {
+                      [&](const auto& entry) { return members.count(member_number(model, entry.second)) == 0; });
+    if (!cases.empty()) {
         for (auto& [position, forces] : model.beam_forces)
-            std::erase_if(forces.records, [&](const auto& entry) { return !contains(wanted.cases, entry.first); });
+            std::erase_if(forces.records, [&](const auto& entry) { return cases.count(entry.first) == 0; });
         std::erase_if(model.beam_forces, [](const auto& entry) { return entry.second.records.empty(); });
     }
     if (model.beam_forces.empty() && !is_told)

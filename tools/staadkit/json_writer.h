@@ -6,6 +6,7 @@
 #ifndef TOOLS_STAADKIT_JSON_WRITER_H
 #define TOOLS_STAADKIT_JSON_WRITER_H
 
+#include "finding_fields.h"
 #include "model_fields.h"
 #include "std_output.h"
 
@@ -134,6 +135,15 @@ private:
     std::array<nesting, deepest> nestings_{};
     std::size_t level_ = 0;
 };
+
+/// Writes a record to standard output as the only result; see std_output::close.
+template<class Record>
+exit_code print_document(const Record& record, exit_code so_far)
+{
+    std_output out;
+    json_writer(out).document(record);
+    return out.close(so_far);
+}
 
 } // namespace tool
 

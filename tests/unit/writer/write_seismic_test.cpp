@@ -18,14 +18,6 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-std::string joined(const lines& parts)
-{
-    std::string text;
-    for (const std::string& part : parts)
-        text.append(part).push_back('\n');
-    return text;
-}
-
 SdReader with(const SeismicParam& parameters)
 {
     SdReader model;
@@ -88,7 +80,7 @@ TEST(WriteSeismic, HasEveryParameterUnderItsComment)
         "", // no X spectrum
         "", // no Z spectrum
     };
-    EXPECT_EQ(written::seismic(with(filled_parameters())), joined(want));
+    EXPECT_EQ(written::seismic(with(filled_parameters())), written::joined(want));
 }
 
 TEST(WriteSeismic, IsWellFormedWithoutParameters)
@@ -123,7 +115,7 @@ TEST(WriteSeismic, IsWellFormedWithoutParameters)
         "",
         "",
     };
-    EXPECT_EQ(written::seismic(SdReader()), joined(want));
+    EXPECT_EQ(written::seismic(SdReader()), written::joined(want));
 }
 
 /// What stands between two lines of the case.

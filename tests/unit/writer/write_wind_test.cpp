@@ -18,14 +18,6 @@ namespace {
 
 using lines = std::vector<std::string>;
 
-std::string joined(const lines& parts)
-{
-    std::string text;
-    for (const std::string& part : parts)
-        text.append(part).push_back('\n');
-    return text;
-}
-
 SdReader with(const WindLoadParam& parameters)
 {
     SdReader model;
@@ -106,7 +98,7 @@ TEST(WriteWind, HasEveryParameterAndTheFourCases)
     }
     want.insert(want.end(), first_case.begin(), first_case.end());
     want.insert(want.end(), other_cases.begin(), other_cases.end());
-    EXPECT_EQ(written::wind(with(filled_parameters())), joined(want));
+    EXPECT_EQ(written::wind(with(filled_parameters())), written::joined(want));
 }
 
 /// The line that begins so.
