@@ -106,8 +106,8 @@ private:
     bool ended_ = false;
 };
 
-/// Counts the numbers that the stored lists of one reading stand for, and throws ReadLimitError
-/// before a list or all of them together take more than a reading holds.
+/// Counts the numbers that the stored lists of one reading stand for, and the long texts that it gives
+/// out, and throws ReadLimitError before a list or all of them together take more than a reading holds.
 class id_budget {
 public:
     /// A new list begins, at these physical lines.
@@ -132,12 +132,22 @@ public:
             throw ReadLimitError(first_line_, last_line_, most_numbers_per_reading);
         in_reading_ += count;
     }
+    /// One more record takes a text of `size` bytes.
+    void take_text(std::size_t size)
+    {
+        if (size <= longest_plain_text)
+            return;
+        if (size > most_text_per_reading - text_in_reading_)
+            throw ReadLimitError(first_line_, last_line_, most_text_per_reading);
+        text_in_reading_ += size;
+    }
 
 private:
     std::size_t first_line_ = 0;
     std::size_t last_line_ = 0;
     std::size_t in_list_ = 0;
     std::size_t in_reading_ = 0;
+    std::size_t text_in_reading_ = 0;
 };
 
 /// Appends the numbers of a list to `ids`, counted out; all of them or, past the budget, none.

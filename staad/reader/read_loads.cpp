@@ -175,7 +175,7 @@ private:
     /// "SELFWEIGHT Y -1 LIST 1 TO 10"; without a list the definition belongs to no member.
     void read_selfweight(const detail::text_line& line)
     {
-        add_definition(detail::join_words(detail::word_cursor(line.text), 3));
+        add_definition(detail::join_words(detail::word_cursor(line.text), 3), line);
         detail::word_cursor words(line.text);
         for (int i = 0; i < 4; ++i) // SELFWEIGHT, direction, factor, LIST
             words.next_or_empty();
@@ -197,7 +197,7 @@ private:
         detail::tell_list_word(detail::word_at(load, 0), line, run_);
         if (detail::count_words(load) == 1)
             return false;
-        add_definition(text_of_definition(load));
+        add_definition(text_of_definition(load), line);
         attach(block_ == joint_load ? joint_references_ : member_references_, line);
         return true;
     }
@@ -210,8 +210,10 @@ private:
         return text;
     }
 
-    void add_definition(std::string text)
+    void add_definition(std::string text, const detail::text_line& line)
     {
+        run_.start_list(line.place);
+        run_.budget.take_text(text.size());
         ++counter_;
         model_.raw_load_defs.insert_or_assign(model_.raw_load_defs.end(), counter_,
                                               LoadDef_raw{std::move(text), current_case_});
@@ -228,7 +230,6 @@ private:
     /// The last definition goes to whom the runs at hand name.
     void attach(load_references& references, const detail::text_line& line)
     {
-        run_.start_list(line.place);
         if (!references.add(counter_, runs_, run_.budget) && !runs_.empty())
             detail::tell_nobody("load", line, run_);
     }

@@ -14,18 +14,18 @@ namespace {
 /// that has it.
 class material_assignments {
 public:
-    explicit material_assignments(const reading& run) : run_(run), members_(run.members), elements_(run.elements) {}
+    explicit material_assignments(reading& run) : run_(run), members_(run.members), elements_(run.elements) {}
 
     /// Everyone takes the name, whatever came before.
-    void add_all(std::string_view name)
+    void add_all(std::string_view name, line_place place)
     {
         members_.clear();
         elements_.clear();
-        names_.emplace_back(name);
+        add_name(name, place);
         name_of_all_ = names_.size() - 1;
     }
 
-    void add_name(std::string_view name) { names_.emplace_back(name); }
+    void add_name(std::string_view name, line_place place) { names_.push_back({std::string(name), place}); }
 
     /// The last name goes to the run; false if the run names nobody.
     bool add(const id_run& ids)
@@ -35,28 +35,39 @@ public:
         return elements_.add(value, ids) || names_member;
     }
 
-    void hand_out(SdReader& model) const
+    void hand_out(SdReader& model)
     {
         if (name_of_all_ < names_.size()) {
             for (SdBeam& member : model.beams)
-                member.material = names_[name_of_all_];
+                give(member.material, name_of_all_);
             for (SdShell& shell : model.shells)
-                shell.material = names_[name_of_all_];
+                give(shell.material, name_of_all_);
         }
-        members_.hand_out([&](std::size_t index, int value) {
-            model.beams[index].material = names_[static_cast<std::size_t>(value)];
-        });
+        members_.hand_out(
+            [&](std::size_t index, int value) { give(model.beams[index].material, static_cast<std::size_t>(value)); });
         elements_.hand_out([&](std::size_t index, int value) {
             if (run_.members.position(model.shells[index].id) == 0)
-                model.shells[index].material = names_[static_cast<std::size_t>(value)];
+                give(model.shells[index].material, static_cast<std::size_t>(value));
         });
     }
 
 private:
-    const reading& run_;
+    struct material_name {
+        std::string text;
+        line_place place;
+    };
+
+    void give(std::string& material, std::size_t name)
+    {
+        run_.start_list(names_[name].place);
+        run_.budget.take_text(names_[name].text.size());
+        material = names_[name].text;
+    }
+
+    reading& run_;
     last_assignments members_;
     last_assignments elements_;
-    std::vector<std::string> names_;
+    std::vector<material_name> names_;
     std::size_t name_of_all_ = std::string::npos;
 };
 
@@ -82,10 +93,10 @@ void assign_materials(SdReader& model, const line_list& lines, reading& run)
         run.used.mark(i);
         const std::string_view name = word_at(line, 1);
         if (word_at(line, 2) == "ALL") {
-            materials.add_all(name);
+            materials.add_all(name, lines[i].place);
             continue;
         }
-        materials.add_name(name);
+        materials.add_name(name, lines[i].place);
         const list_end list = walk_list(list_of_material_line(line), general_id_list, [&](const id_run& ids) {
             const bool found = materials.add(ids);
             if (!found && !ids.is_range)

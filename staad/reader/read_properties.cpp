@@ -91,13 +91,17 @@ public:
                            word_cursor(without_last_words(line.text, words_never_members)),
                            [&](int number) { tell_unknown("member-unknown", "member", number, line, run_); });
         check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run_);
-        properties_.push_back({std::move(property), codes_.size() - 1});
+        properties_.push_back({std::move(property), codes_.size() - 1, line.place});
     }
 
-    void hand_out(std::vector<SdBeam>& members) const
+    void hand_out(std::vector<SdBeam>& members)
     {
         members_.hand_out([&](std::size_t index, int value) {
             const assigned_property& assigned = properties_[static_cast<std::size_t>(value)];
+            run_.start_list(assigned.place);
+            for (const std::size_t size :
+                 {assigned.property.text.size(), assigned.property.name.size(), codes_[assigned.code].size()})
+                run_.budget.take_text(size);
             SdBeam& member = members[index];
             member.material = property_material;
             member.sect_text = assigned.property.text;
@@ -110,6 +114,7 @@ private:
     struct assigned_property {
         property_text property;
         std::size_t code; ///< its place in codes_
+        line_place place;
     };
 
     const line_list& lines_;

@@ -19,6 +19,8 @@ using access = detail::sd_reader_access;
 
 static_assert(most_numbers_per_list == 16777216);
 static_assert(most_numbers_per_reading == 134217728);
+static_assert(longest_plain_text == 256);
+static_assert(most_text_per_reading == 268435456);
 static_assert(std::is_base_of_v<std::bad_alloc, ReadLimitError>);
 
 TEST(ReadLimitError, SaysWhereAndHowMuch)
@@ -35,6 +37,10 @@ TEST(ReadLimitError, SaysWhereAndHowMuch)
     EXPECT_EQ(joined.first_line(), 118u);
     EXPECT_EQ(joined.last_line(), 121u);
     EXPECT_NE(text.find("134217728"), std::string::npos) << text;
+
+    const ReadLimitError texts(7, 7, most_text_per_reading);
+    EXPECT_STREQ(texts.what(), "line 7: more than 268435456 bytes of long texts in members, elements and loads");
+    EXPECT_EQ(texts.limit(), 268435456u);
 
     const ReadLimitError farthest(18446744073709551615u, 18446744073709551615u, most_numbers_per_reading);
     EXPECT_NE(std::string(farthest.what()).find("18446744073709551615"), std::string::npos) << farthest.what();
@@ -118,6 +124,27 @@ TEST(IdBudget, CountsReferencesInTheTotalOnly)
     EXPECT_NO_THROW(budget.take(1));
     EXPECT_THROW(budget.take_references(1), ReadLimitError);
     EXPECT_THROW(budget.take(1), ReadLimitError);
+}
+
+TEST(IdBudget, CountsLongTextsApart)
+{
+    detail::id_budget budget;
+    budget.start_list(3, 4);
+    for (int i = 0; i < 10; ++i)
+        EXPECT_NO_THROW(budget.take_text(256)) << "a text of usual length costs nothing";
+    EXPECT_NO_THROW(budget.take_text(most_text_per_reading - 257));
+    EXPECT_THROW(budget.take_text(258), ReadLimitError);
+    EXPECT_NO_THROW(budget.take_text(257)) << "what was refused does not count";
+    try {
+        budget.take_text(257);
+        FAIL() << "the limit was reached";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), 3u);
+        EXPECT_EQ(error.last_line(), 4u);
+        EXPECT_EQ(error.limit(), most_text_per_reading);
+    }
+    EXPECT_NO_THROW(budget.take_text(256));
+    EXPECT_NO_THROW(budget.take(most_numbers_per_list)) << "numbers have a limit of their own";
 }
 
 TEST(AppendIds, TakesNothingOfAListThatIsTooLong)
