@@ -3,19 +3,12 @@
 #ifndef FUZZ_MEMORY_LIMIT_H
 #define FUZZ_MEMORY_LIMIT_H
 
+#include "tests/support/allocations.h"
+
 #include <cstddef>
 #include <new>
 
 namespace fuzz {
-
-/// While it lives, operator new gives `bytes` in all, given back or not, then throws std::bad_alloc. One at a time.
-class memory_limit {
-public:
-    explicit memory_limit(std::size_t bytes) noexcept;
-    ~memory_limit();
-    memory_limit(const memory_limit&) = delete;
-    memory_limit& operator=(const memory_limit&) = delete;
-};
 
 /// Far more than any step needs for an input of the usual length.
 inline constexpr std::size_t enough_memory = 32U << 20U;
@@ -24,7 +17,7 @@ inline constexpr std::size_t enough_memory = 32U << 20U;
 template<class Step>
 bool within_memory(Step step)
 {
-    const memory_limit limit(enough_memory);
+    const allocations::byte_limit limit(enough_memory);
     try {
         step();
         return true;

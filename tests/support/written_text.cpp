@@ -107,14 +107,6 @@ std::string seismic(const SdReader& model)
     return header + "\n" + between(text, header, "FINISH");
 }
 
-std::string joined(const std::vector<std::string>& lines)
-{
-    std::string text;
-    for (const std::string& line : lines)
-        text.append(line).push_back('\n');
-    return text;
-}
-
 std::vector<std::string> lines_of(const std::string& text)
 {
     std::vector<std::string> lines;

@@ -31,9 +31,6 @@ std::string wind(const SdReader& model);
 /// The seismic case, its header line included, up to "FINISH".
 std::string seismic(const SdReader& model);
 
-/// Lines as a text, a line feed behind each.
-std::string joined(const std::vector<std::string>& lines);
-
 /// Physical lines, without their line feeds. A text behind the last line feed is a line as well.
 std::vector<std::string> lines_of(const std::string& text);
 

@@ -1,6 +1,7 @@
 /// The generated response-spectrum case: its parameters and its spectra.
 
 #include "staad/model/sd_reader.h"
+#include "tests/support/deck.h"
 #include "tests/support/chinese_texts.h"
 #include "tests/support/written_loads.h"
 #include "tests/support/written_text.h"
@@ -80,7 +81,7 @@ TEST(WriteSeismic, HasEveryParameterUnderItsComment)
         "", // no X spectrum
         "", // no Z spectrum
     };
-    EXPECT_EQ(written::seismic(with(filled_parameters())), written::joined(want));
+    EXPECT_EQ(written::seismic(with(filled_parameters())), decks::joined(want));
 }
 
 TEST(WriteSeismic, IsWellFormedWithoutParameters)
@@ -115,7 +116,7 @@ TEST(WriteSeismic, IsWellFormedWithoutParameters)
         "",
         "",
     };
-    EXPECT_EQ(written::seismic(SdReader()), written::joined(want));
+    EXPECT_EQ(written::seismic(SdReader()), decks::joined(want));
 }
 
 /// What stands between two lines of the case.

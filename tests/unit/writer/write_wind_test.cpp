@@ -1,6 +1,7 @@
 /// The generated wind loads.
 
 #include "staad/model/sd_reader.h"
+#include "tests/support/deck.h"
 #include "tests/support/chinese_texts.h"
 #include "tests/support/written_text.h"
 
@@ -98,7 +99,7 @@ TEST(WriteWind, HasEveryParameterAndTheFourCases)
     }
     want.insert(want.end(), first_case.begin(), first_case.end());
     want.insert(want.end(), other_cases.begin(), other_cases.end());
-    EXPECT_EQ(written::wind(with(filled_parameters())), written::joined(want));
+    EXPECT_EQ(written::wind(with(filled_parameters())), decks::joined(want));
 }
 
 /// The line that begins so.

@@ -1,0 +1,306 @@
+/// Memory that runs out at each of the first allocations of an operation, once or from then on: the operation throws
+/// std::bad_alloc or ends as it should, nothing leaks, and what it worked on can be destroyed or used again.
+
+#include "staad/model/sd_reader.h"
+#include "staad/platform/platform_services.h"
+#include "staad/project/layered_project.h"
+#include "staad/reader/read_report.h"
+#include "tests/support/allocations.h"
+#include "tests/support/layered.h"
+#include "tests/support/model_equal.h"
+#include "tests/support/temporary_file.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <fstream>
+#include <iterator>
+#include <new>
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+using differences = std::vector<std::string>;
+
+/// No more of an operation are failed one by one.
+constexpr std::size_t most_allocations = 3000;
+
+enum class outcome { finished, threw };
+
+/// Makes a subject and does the operation on it for each allocation that this takes, up to a bound, and lets that one
+/// fail. `check(subject, outcome)` follows with all the memory there is.
+template<class Make, class Operation, class Check>
+void fail_each_allocation(Make make, Operation operate, Check check)
+{
+    std::size_t needed = 0;
+    { // the first time is not counted: what lives for the whole program is made then
+        auto warm = make();
+        operate(warm);
+        auto subject = make();
+        const std::size_t before = allocations::asked();
+        operate(subject);
+        needed = allocations::asked() - before;
+    }
+    ASSERT_GT(needed, 0U);
+    for (const auto how : {allocations::failure::once, allocations::failure::from_then_on}) {
+        for (std::size_t number = 1; number <= std::min(needed, most_allocations); ++number) {
+            SCOPED_TRACE("allocation " + std::to_string(number) +
+                         (how == allocations::failure::once ? " fails" : " fails, and all behind it"));
+            const std::size_t live = allocations::live();
+            {
+                auto subject = make();
+                outcome end = outcome::finished;
+                {
+                    const allocations::failing failing(number, how);
+                    try {
+                        operate(subject);
+                    } catch (const std::bad_alloc&) {
+                        end = outcome::threw;
+                    }
+                    ASSERT_TRUE(failing.has_failed());
+                }
+                check(subject, end);
+            }
+            ASSERT_EQ(allocations::live(), live) << "blocks left over";
+            if (testing::Test::HasFailure())
+                return;
+        }
+    }
+}
+
+std::string example(const std::string& name)
+{
+    return std::string(STAADKIT_EXAMPLES_FOLDER) + "/" + name;
+}
+
+std::string content_of(const std::string& name)
+{
+    std::ifstream file(example(name), std::ios::binary);
+    EXPECT_TRUE(file) << name;
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+SdReader read_text(const std::string& text)
+{
+    SdReader model;
+    EXPECT_TRUE(model.ReadSDDataFromText(text));
+    return model;
+}
+
+/// Reading adds to these; without them an object is as good as new.
+void forget_what_reading_keeps(SdReader& model)
+{
+    model.surfaces.clear();
+    model.surface_index.clear();
+    model.groups.clear();
+    model.supports.clear();
+    model.releases.clear();
+    model.brace_ids.clear();
+}
+
+/// The object takes the text in as a new one does.
+void expect_reads_again(SdReader& model, const std::string& text, const SdReader& want)
+{
+    forget_what_reading_keeps(model);
+    EXPECT_TRUE(model.ReadSDDataFromText(text));
+    model.old_proj_maps = want.old_proj_maps;
+    model.beam_forces = want.beam_forces;
+    EXPECT_EQ(model_differences(model, want), differences{});
+}
+
+class Exhaustion : public testing::TestWithParam<const char*> {
+protected:
+    std::string name() const { return GetParam(); }
+    const std::string text_ = content_of(name() + ".std");
+    const SdReader whole_ = read_text(text_);
+};
+
+TEST_P(Exhaustion, OfAReadingLeavesAModelThatCanBeReadInto)
+{
+    fail_each_allocation([] { return SdReader(); }, [&](SdReader& model) { model.ReadSDDataFromText(text_); },
+                         [&](SdReader& model, outcome end) {
+                             if (end == outcome::finished) {
+                                 EXPECT_EQ(model_differences(model, whole_), differences{});
+                             }
+                             expect_reads_again(model, text_, whole_);
+                         });
+}
+
+TEST_P(Exhaustion, OfAReadingFromAFileWithAReport)
+{
+    struct told_model {
+        SdReader model;
+        ReadReport report;
+    };
+    const std::string path = example(name() + ".std");
+    ReadReport whole_report;
+    SdReader().ReadSDDataFromText(text_, whole_report);
+    fail_each_allocation([] { return told_model(); },
+                         [&](told_model& told) { told.model.ReadSDDataFromStdFile(path.c_str(), told.report); },
+                         [&](told_model& told, outcome end) {
+                             if (end == outcome::finished) {
+                                 EXPECT_EQ(model_differences(told.model, whole_), differences{});
+                                 EXPECT_EQ(told.report.findings.size(), whole_report.findings.size());
+                             }
+                             expect_reads_again(told.model, text_, whole_);
+                         });
+}
+
+TEST_P(Exhaustion, OfAWritingToMemory)
+{
+    const std::string written = SdReader(whole_).WriteDataToText();
+    struct writing {
+        SdReader model;
+        std::string text;
+    };
+    fail_each_allocation(
+        [&] {
+            return writing{whole_, {}};
+        },
+        [](writing& one) { one.text = one.model.WriteDataToText(); },
+        [&](writing& one, outcome end) {
+            EXPECT_EQ(one.text, end == outcome::finished ? written : "");
+            EXPECT_EQ(one.model.WriteDataToText(), written);
+            expect_reads_again(one.model, text_, whole_);
+        });
+}
+
+TEST_P(Exhaustion, OfAWritingToAFile)
+{
+    const std::string written = SdReader(whole_).WriteDataToText();
+    const temporary_file file("");
+    struct writing {
+        SdReader model;
+        std::error_code error;
+        bool is_whole = false;
+    };
+    fail_each_allocation(
+        [&] {
+            return writing{whole_, {}};
+        },
+        [&](writing& one) { one.is_whole = one.model.WriteDataToFile(file.path(), one.error); },
+        [&](writing& one, outcome end) {
+            EXPECT_EQ(one.is_whole, end == outcome::finished && !one.error);
+            if (one.is_whole) {
+                EXPECT_EQ(file.content(), written);
+            }
+            EXPECT_EQ(one.model.WriteDataToText(), written);
+        });
+}
+
+/// A desktop that answers yes, and keeps no record that would count as a leak.
+class agreeing_services : public PlatformServices {
+public:
+    agreeing_services() { SetPlatformServices(this); }
+    ~agreeing_services() override { SetPlatformServices(nullptr); }
+    agreeing_services(const agreeing_services&) = delete;
+    agreeing_services& operator=(const agreeing_services&) = delete;
+
+    Answer ShowMessage(const Message&) override { return Answer::Yes; }
+    std::string AskForFile(const FileQuestion&) override { return {}; }
+    bool CanRead(const char*) override { return true; }
+};
+
+TEST_P(Exhaustion, OfAComparisonWithAnEarlierProject)
+{
+    const agreeing_services desktop;
+    SdReader moved = whole_;
+    for (SdNode& joint : moved.nodes)
+        joint.id += 1000;
+    SdReader taken = moved;
+    taken.TakeOverFrom(whole_);
+    const std::string path = example(name() + ".std");
+    fail_each_allocation([&] { return moved; }, [&](SdReader& model) { model.compWithOldProj(path.c_str()); },
+                         [&](SdReader& model, outcome end) {
+                             if (end == outcome::finished) {
+                                 EXPECT_EQ(model_differences(model, taken), differences{});
+                             }
+                             model.TakeOverFrom(whole_);
+                             EXPECT_EQ(model.old_proj_maps.joints_new_to_old, taken.old_proj_maps.joints_new_to_old);
+                             expect_reads_again(model, text_, whole_);
+                         });
+}
+
+TEST_P(Exhaustion, OfAProjectLeavesTheOneBefore)
+{
+    const SdReader other = layered::floors({0, 3000, 7000});
+    const std::string path = example(name() + ".std");
+    const StaadProProject_layered before = layered::project_of(other);
+    StaadProProject_layered whole;
+    ASSERT_TRUE(whole.BuidFromFile(path.c_str(), 1));
+    fail_each_allocation(
+        [&] { return before; }, [&](StaadProProject_layered& project) { project.BuidFromFile(path.c_str(), 1); },
+        [&](StaadProProject_layered& project, outcome end) {
+            EXPECT_EQ(layered::differences(project, end == outcome::finished ? whole : before), differences{});
+            EXPECT_TRUE(project.BuidFromFile(path.c_str(), 1));
+            EXPECT_EQ(layered::differences(project, whole), differences{});
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, Exhaustion, testing::Values("concrete-frame", "steel-portal", "twelve-storey"),
+                         [](const auto& example) {
+                             std::string name = example.param;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
+
+class ExhaustionOfForces : public Exhaustion {
+protected:
+    const std::string listing_ = content_of(name() + ".txt");
+};
+
+TEST_P(ExhaustionOfForces, LeavesAModelThatCanBeReadInto)
+{
+    SdReader whole = whole_;
+    whole.ReadForceMomentFromText(listing_);
+    ASSERT_FALSE(whole.beam_forces.empty());
+    const std::string path = example(name() + ".txt");
+    fail_each_allocation([&] { return whole_; },
+                         [&](SdReader& model) { model.ReadForceMomentFromTxtFile(path.c_str()); },
+                         [&](SdReader& model, outcome end) {
+                             if (end == outcome::finished) {
+                                 EXPECT_EQ(model_differences(model, whole), differences{});
+                             }
+                             model.ReadForceMomentFromText(listing_);
+                             EXPECT_EQ(model_differences(model, whole), differences{});
+                             expect_reads_again(model, text_, whole_);
+                         });
+}
+
+TEST_P(ExhaustionOfForces, WithAReport)
+{
+    struct told_model {
+        SdReader model;
+        ReadReport report;
+    };
+    SdReader whole = whole_;
+    ReadReport whole_report;
+    whole.ReadForceMomentFromText(listing_, whole_report);
+    fail_each_allocation(
+        [&] {
+            return told_model{whole_, {}};
+        },
+        [&](told_model& told) { told.model.ReadForceMomentFromText(listing_, told.report); },
+        [&](told_model& told, outcome end) {
+            if (end == outcome::finished) {
+                EXPECT_EQ(model_differences(told.model, whole), differences{});
+                EXPECT_EQ(told.report.findings.size(), whole_report.findings.size());
+            }
+            told.model.ReadForceMomentFromText(listing_, told.report);
+            EXPECT_EQ(model_differences(told.model, whole), differences{});
+        });
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, ExhaustionOfForces, testing::Values("concrete-frame", "steel-portal"),
+                         [](const auto& example) {
+                             std::string name = example.param;
+                             std::replace(name.begin(), name.end(), '-', '_');
+                             return name;
+                         });
+
+} // namespace
+} // namespace STAAD
