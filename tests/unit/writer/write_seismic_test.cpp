@@ -1,8 +1,8 @@
 /// The generated response-spectrum case: its parameters and its spectra.
 
 #include "staad/model/sd_reader.h"
-#include "tests/support/deck.h"
 #include "tests/support/chinese_texts.h"
+#include "tests/support/deck.h"
 #include "tests/support/written_loads.h"
 #include "tests/support/written_text.h"
 

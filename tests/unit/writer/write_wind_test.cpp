@@ -1,8 +1,8 @@
 /// The generated wind loads.
 
 #include "staad/model/sd_reader.h"
-#include "tests/support/deck.h"
 #include "tests/support/chinese_texts.h"
+#include "tests/support/deck.h"
 #include "tests/support/written_text.h"
 
 #include <gtest/gtest.h>
