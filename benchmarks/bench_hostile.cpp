@@ -111,7 +111,7 @@ int main(int argc, char** argv)
         return 2;
     }
     const std::size_t size = static_cast<std::size_t>(megabytes_of_large) * 1'000'000 / growth_of_size;
-    set_memory_state(memory_state::fresh);
+    set_memory_state(memory_state::kept);
     std::printf("%-52s %11s %9s %6s %10s\n", "", "time", "per item", "growth", "per item");
     bool kept = true;
     for (const STAAD::decks::hostile_deck& deck : STAAD::decks::hostile_decks())

@@ -11,7 +11,7 @@
 namespace fuzz {
 
 /// Far more than any step needs for an input of the usual length.
-inline constexpr std::size_t enough_memory = 32U << 20U;
+inline constexpr std::size_t enough_memory = 4U << 20U;
 
 /// Whether `step` came to its end within the limit. ReadLimitError is a std::bad_alloc, too.
 template<class Step>

@@ -147,6 +147,16 @@ build_by_c_linker() {
     compare_output "$scratch/by-c-linker"
 }
 
+# The names that programs are bound to are the listed ones, so that none goes or changes unseen. A new name is added to
+# the list; one that goes or changes breaks programs built before, and needs a new interface version.
+check_listed_exports() {
+    [ "$(uname -m)" = x86_64 ] || return 0 # elsewhere some types have other names
+    nm -DC --defined-only "$library_dir/libstaadkit.so" | sed -E 's/^[0-9a-f]* +. //' | grep -E '(^| for )STAAD::' |
+        LC_ALL=C sort -u >"$scratch/listed-exports"
+    diff "$here/exports.txt" "$scratch/listed-exports" ||
+        fail "the exported names are not those of tests/install/exports.txt; if they should be, they are in $scratch/listed-exports"
+}
+
 # A shared library offers its API and what the language makes of it, nothing of its insides.
 check_exports() {
     local names=$scratch/exports
@@ -253,7 +263,7 @@ step "headers" && check_headers "$@"
 step "paths" && check_no_build_paths
 case $kind in
 archive)
-    step "exports" && check_exports
+    step "exports" && check_exports && check_listed_exports
     step "tool" && check_tool zsh/site-functions "$prefix/bin/staadkit" # finds the library without help
     ;;
 deb)

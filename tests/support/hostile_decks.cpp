@@ -1,6 +1,6 @@
 #include "tests/support/hostile_decks.h"
 
-#include <initializer_list>
+#include <algorithm>
 #include <string_view>
 #include <utility>
 
@@ -52,6 +52,13 @@ hostile_deck counting(std::string name, std::string head, std::string part, std:
 hostile_deck bare(std::string name, std::string part, answer want = answer::no_model)
 {
     return {std::move(name), want, [part](std::size_t size) { return repeated(part, size); }};
+}
+
+/// Lines as a name.
+std::string on_one_line(std::string lines)
+{
+    std::replace(lines.begin(), lines.end(), '\n', '/');
+    return lines;
 }
 
 using deck_list = std::vector<hostile_deck>;
@@ -178,9 +185,9 @@ void add_repetitions(deck_list& decks)
                              "MEMBER LOAD\n1 UNI GY -1",
                              "NO SUCH COMMAND",
                              "MEMBER  LOAD"})
-        decks.push_back(repeating("repeated: " + std::string(line), "", std::string(line) + "\n"));
+        decks.push_back(repeating("repeated: " + on_one_line(line), "", std::string(line) + "\n"));
     for (const char* line : {"UNIT METER KN", "UNIT METER KN\nJOINT COORDINATES"})
-        decks.push_back(bare("nothing but: " + std::string(line), std::string(line) + "\n"));
+        decks.push_back(bare("nothing but: " + on_one_line(line), std::string(line) + "\n"));
 }
 
 /// As many load lines as members, each line over all of them; no more members than a reading can have references.

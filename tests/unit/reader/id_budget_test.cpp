@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <limits>
 #include <new>
 #include <string>
 #include <type_traits>
@@ -42,8 +43,10 @@ TEST(ReadLimitError, SaysWhereAndHowMuch)
     EXPECT_STREQ(texts.what(), "line 7: more than 268435456 bytes of long texts in members, elements and loads");
     EXPECT_EQ(texts.limit(), 268435456u);
 
-    const ReadLimitError farthest(18446744073709551615u, 18446744073709551615u, most_numbers_per_reading);
-    EXPECT_NE(std::string(farthest.what()).find("18446744073709551615"), std::string::npos) << farthest.what();
+    constexpr std::size_t last = std::numeric_limits<std::size_t>::max();
+    const ReadLimitError farthest(last, last, most_numbers_per_reading);
+    EXPECT_EQ(farthest.what(),
+              "line " + std::to_string(last) + ": more than 134217728 numbers in all lists together");
 }
 
 TEST(ReadLimitError, IsCaughtAsExhaustedMemory)

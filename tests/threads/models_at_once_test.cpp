@@ -1,18 +1,23 @@
-/// Two models in two threads at the same time give what they give one after the other. Under
-/// ThreadSanitizer these tests also fail on anything that the two threads share without a lock.
+/// Models in threads of their own at the same time give what they give one after the other. Under
+/// ThreadSanitizer these tests also fail on anything that the threads share without a lock.
 
 #include "tests/support/model_equal.h"
 #include "tests/support/random_deck.h"
 #include "tests/support/temporary_file.h"
 #include "tests/threads/full_row.h"
 
+#include "staad/project/layered_project.h"
 #include "staad/reader/read_report.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <fstream>
+#include <iterator>
+#include <optional>
 #include <string>
 #include <system_error>
 #include <thread>
@@ -23,22 +28,25 @@ namespace {
 
 constexpr int rounds = 10;
 
-/// Runs both, the second in a thread of its own; neither begins before both threads are there. They wait awake: the
-/// first moments are the ones that matter, and a waking thread would miss them.
-template<class First, class Second>
-void at_once(First first, Second second)
+/// Runs all, the first in this thread and each of the others in one of its own; none begins before all threads are
+/// there. They wait awake: the first moments are the ones that matter, and a waking thread would miss them.
+template<class First, class... Others>
+void at_once(First first, Others... others)
 {
-    std::atomic<int> there = 0;
-    const auto wait_for_the_other = [&there] {
+    std::atomic<std::size_t> there = 0;
+    const auto wait_for_the_others = [&there] {
         ++there;
-        while (there < 2)
+        while (there <= sizeof...(Others))
             std::this_thread::yield();
     };
-    const std::jthread other([&] {
-        wait_for_the_other();
-        second();
-    });
-    wait_for_the_other();
+    const auto started = [&wait_for_the_others](auto& work) {
+        return std::jthread([&] {
+            wait_for_the_others();
+            work();
+        });
+    };
+    const std::array<std::jthread, sizeof...(Others)> threads{started(others)...};
+    wait_for_the_others();
     first();
 }
 
@@ -188,6 +196,78 @@ TEST(TwoModels, OneIsReadWhileTheOtherIsWritten)
         at_once([&] { written = written_text(row); }, [&] { result = read_text(deck.text); });
         EXPECT_EQ(written, text);
         expect_reading(result, deck, seed);
+    }
+}
+
+TEST(FourModels, TwoAreReadWhileTwoAreWritten)
+{
+    const two_rows rows;
+    const std::string small = written_text(rows.small);
+    const std::string large = written_file(rows.large);
+    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
+        const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
+        const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
+        reading_result first_read;
+        reading_result second_read;
+        std::string small_at_once;
+        std::string large_at_once;
+        at_once([&] { first_read = read_text(first.text); }, [&] { small_at_once = written_text(rows.small); },
+                [&] { second_read = read_file(second.text); }, [&] { large_at_once = written_file(rows.large); });
+        expect_reading(first_read, first, seed);
+        expect_reading(second_read, second, seed + 100);
+        EXPECT_EQ(small_at_once, small);
+        EXPECT_EQ(large_at_once, large);
+    }
+}
+
+/// Example model and listing of that name.
+struct example {
+    explicit example(const std::string& name) : model(content(name + ".std")), listing(content(name + ".txt")) {}
+
+    static std::string content(const std::string& name)
+    {
+        std::ifstream file(std::string(STAADKIT_EXAMPLES_FOLDER) + "/" + name, std::ios::binary);
+        EXPECT_TRUE(file) << name;
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    std::string model;
+    std::string listing;
+};
+
+/// Everything that is done with a model after its reading.
+struct project_result {
+    explicit project_result(const example& files)
+    {
+        EXPECT_TRUE(model.ReadSDDataFromText(files.model));
+        model.ReadForceMomentFromText(files.listing);
+        EXPECT_FALSE(model.beam_forces.empty());
+        const SdReader earlier = model;
+        model.TakeOverFrom(earlier);
+        EXPECT_TRUE(project.BuildFromModel(model));
+    }
+
+    SdReader model;
+    StaadProProject_layered project;
+};
+
+TEST(FourModels, BecomeProjectsAtOnce)
+{
+    const example frame("concrete-frame");
+    const example portal("steel-portal");
+    const project_result frame_alone(frame);
+    const project_result portal_alone(portal);
+    const auto expect_same = [](const std::optional<project_result>& one, const project_result& want) {
+        ASSERT_TRUE(one);
+        EXPECT_EQ(model_differences(one->model, want.model), std::vector<std::string>{});
+        EXPECT_EQ(one->project.layers.size(), want.project.layers.size());
+    };
+    for (int round = 0; round < rounds; ++round) {
+        std::array<std::optional<project_result>, 4> results;
+        at_once([&] { results[0].emplace(frame); }, [&] { results[1].emplace(portal); },
+                [&] { results[2].emplace(frame); }, [&] { results[3].emplace(portal); });
+        for (std::size_t i = 0; i < results.size(); ++i)
+            expect_same(results[i], i % 2 == 0 ? frame_alone : portal_alone);
     }
 }
 
