@@ -27,7 +27,7 @@ namespace {
 using differences = std::vector<std::string>;
 
 /// No more of an operation are failed one by one.
-constexpr std::size_t most_allocations = 3000;
+constexpr std::size_t most_allocations = 2000;
 
 enum class outcome { finished, threw };
 
