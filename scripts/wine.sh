@@ -24,8 +24,11 @@ stop_wine() {
 
 # Code page 936 is what Wine makes of zh_CN. The locale is made here and not on the machine.
 make_chinese_locale() { # folder
-    export LOCPATH=$1 LC_ALL=zh_CN.UTF-8
-    [ -d "$LOCPATH/$LC_ALL" ] && return
-    mkdir -p "$LOCPATH"
-    localedef -i zh_CN -f UTF-8 "$LOCPATH/$LC_ALL"
+    local name=zh_CN.UTF-8
+    if [ ! -d "$1/$name" ]; then
+        mkdir -p "$1"
+        localedef -i zh_CN -f UTF-8 "$1/$name"
+    fi
+    export LOCPATH=$1
+    export LC_ALL=$name
 }

@@ -110,6 +110,8 @@ const report_case report_cases[] = {
     {"a moment unit", section(clean_data, "(m) (kN) (kN-rod)"), "unit-word", Finding::Warning, 5, "kN-rod"},
     {"a unit line of two words: the second is the moment unit, too", section(clean_data, "(m) (kN)"), "unit-word",
      Finding::Warning, 5, "kN"},
+    {"a moment unit of no letters", section(clean_data, "(m) (kN) ()"), "unit-word", Finding::Warning, 5,
+     "names no moment unit"},
     {"a unit line without words", section(clean_data, " "), "unit-short", Finding::Warning, 5, ""},
     {"a unit line of empty words", section(clean_data, "() () ()"), "unit-short", Finding::Warning, 5, ""},
     {"a line of six words", inserted(8, "1 2 3 4 5 6"), "force-short-line", Finding::Warning, 8, ""},
@@ -155,6 +157,7 @@ struct silent_case {
 
 const silent_case silent_cases[] = {
     {"exponents in two words are numbers", changed(7, "5 1.5E +03 2 3 4 5 -1.0E -02"), "number-word"},
+    {"a number may begin with its point", changed(7, ".5 1 2 -.3 4 5 6"), "number-word"},
     {"the words of a title are no numbers", changed(8, "2:SLAB CASE @0"), "number-word"},
     {"the end of a page closes a section as an empty line does", clean.substr(0, clean.size() - 1) + "end\n",
      "force-cut-off"},

@@ -256,6 +256,7 @@ TEST(ReadReport, CutsLongQuotesBetweenCharacters)
         {"not inside a character of UTF-8", ascii + utf8 + utf8, "'" + ascii + "...'"},
         {"nor inside one of GBK", ascii + gbk, "'" + ascii + "...'"},
         {"a blank is as good a place as any", words, "'" + words.substr(0, 60) + "...'"},
+        {"where there is no good place, at sixty", std::string(61, '\xE6'), "'" + std::string(60, '\xE6') + "...'"},
     };
     for (const quote_case& c : cases)
         EXPECT_EQ(STAAD::detail::quote(c.line), c.quoted) << c.why;
