@@ -60,6 +60,17 @@ void tell_units(const line_list& lines, std::size_t governing, reading& run)
     tell_later_units(lines, governing, run);
 }
 
+/// Why no line is a unit line, as far as the first one tells.
+std::string why_no_unit(const line_list& lines)
+{
+    const std::string_view first = lines.empty() ? std::string_view() : lines[0].text;
+    if (detail::starts_with(first, "\xFF\xFE") || detail::starts_with(first, "\xFE\xFF"))
+        return "the text is UTF-16, which is not read: save it as plain text";
+    if (lines.size() == 1 && detail::contains(first, "\r"))
+        return "the lines end with carriage returns alone: save the text with line feeds";
+    return "no line begins with 'UNIT' and has a line after it";
+}
+
 /// No model: why, and the nearest line that looks like the one that is missing.
 bool no_model(std::string_view code, std::string_view missing, std::string why, const line_list& lines, reading& run)
 {
@@ -122,7 +133,7 @@ bool SdReader::read_lines(line_list lines, reading& run)
 
     const std::size_t unit = lines.find_start("UNIT");
     if (unit >= lines.size() || unit + 1 == lines.size())
-        return no_model("no-unit", "UNIT", "no line begins with 'UNIT' and has a line after it", lines, run);
+        return no_model("no-unit", "UNIT", why_no_unit(lines), lines, run);
     unit_text = lines[unit].text;
     unify_staadpro_unit();
     tell_units(lines, unit, run);

@@ -5,6 +5,7 @@
 #include "words.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -62,7 +63,9 @@ public:
 
     void add_row(std::vector<std::string> name, const counts& counted, const std::string& sections)
     {
-        const auto of = [&](STAAD::BeamType type) { return std::to_string(counted.members_of[type]); };
+        const auto of = [&](STAAD::BeamType type) {
+            return std::to_string(counted.members_of[static_cast<std::size_t>(type)]);
+        };
         add(std::move(name),
             {std::to_string(counted.joints), of(STAAD::Column), of(STAAD::Beam), of(STAAD::Brace),
              of(STAAD::HorizontalBrace), std::to_string(counted.shells), sections},

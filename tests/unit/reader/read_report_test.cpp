@@ -50,6 +50,12 @@ struct place_case {
 const place_case place_cases[] = {
     {"no UNIT line at all", "JOINT COORDINATES\n1 0 0 0\n", "no-unit", Finding::Error, 0, 0, "UNIT"},
     {"a UNIT line without a line after it", "STAAD SPACE\nUNIT METER KN\n", "no-unit", Finding::Error, 0, 0, "UNIT"},
+    {"UTF-16, low byte first", std::string("\xFF\xFEU\0N\0I\0T\0\n\0", 12), "no-unit", Finding::Error, 0, 0, "UTF-16"},
+    {"UTF-16, high byte first", std::string("\xFE\xFF\0U\0N\0I\0T\0\n", 12), "no-unit", Finding::Error, 0, 0, "UTF-16"},
+    {"lines that end with carriage returns alone", "UNIT METER KN\rJOINT COORDINATES\r1 0 0 0\r", "no-unit",
+     Finding::Error, 0, 0, "carriage returns"},
+    {"a carriage return inside a line of several", "X\rY\nJOINT COORDINATES\n", "no-unit", Finding::Error, 0, 0,
+     "begins with 'UNIT'"},
     {"no joint block", "UNIT METER KN\nMEMBER INCIDENCES\n", "no-joints", Finding::Error, 0, 0, "JOINT COORDINATES"},
     {"no member keyword", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\n", "no-members", Finding::Error, 0, 0,
      "MEMBER INCIDENCES"},
