@@ -1,6 +1,7 @@
 // The verb "forces": what it says about listings that are not as they should be, and about its options.
 
 #include "force_decks.h"
+#include "tests/support/sanitizers.h"
 
 #include <gtest/gtest.h>
 

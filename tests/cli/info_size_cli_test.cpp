@@ -1,5 +1,6 @@
 // The verb "info" on texts of unusual length, and with little memory.
 
+#include "tests/support/sanitizers.h"
 #include "tool_run.h"
 
 #include <gtest/gtest.h>

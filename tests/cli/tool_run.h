@@ -10,15 +10,6 @@
 
 namespace cli_test {
 
-/// It takes more address space than any limit on memory.
-#if defined(__SANITIZE_ADDRESS__)
-inline constexpr bool has_address_sanitizer = true;
-#elif defined(__has_feature)
-inline constexpr bool has_address_sanitizer = __has_feature(address_sanitizer);
-#else
-inline constexpr bool has_address_sanitizer = false;
-#endif
-
 struct tool_result {
     int exit_code = -1; ///< -1: ended by a signal
     std::string out;

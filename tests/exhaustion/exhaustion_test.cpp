@@ -8,6 +8,7 @@
 #include "tests/support/allocations.h"
 #include "tests/support/layered.h"
 #include "tests/support/model_equal.h"
+#include "tests/support/sanitizers.h"
 #include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,8 @@ using differences = std::vector<std::string>;
 
 /// No more of an operation are failed one by one.
 constexpr std::size_t most_allocations = 2000;
+/// Of these, every so many.
+constexpr std::size_t step = has_address_sanitizer ? 5 : 1;
 
 enum class outcome { finished, threw };
 
@@ -47,7 +50,7 @@ void fail_each_allocation(Make make, Operation operate, Check check)
     }
     ASSERT_GT(needed, 0U);
     for (const auto how : {allocations::failure::once, allocations::failure::from_then_on}) {
-        for (std::size_t number = 1; number <= std::min(needed, most_allocations); ++number) {
+        for (std::size_t number = 1; number <= std::min(needed, most_allocations); number += step) {
             SCOPED_TRACE("allocation " + std::to_string(number) +
                          (how == allocations::failure::once ? " fails" : " fails, and all behind it"));
             const std::size_t live = allocations::live();

@@ -1,0 +1,14 @@
+/// What the tests are built with, where it matters to them.
+#ifndef STAAD_TESTS_SUPPORT_SANITIZERS_H
+#define STAAD_TESTS_SUPPORT_SANITIZERS_H
+
+/// It takes more address space than any limit on memory, and several times the time.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool has_address_sanitizer = true;
+#elif defined(__has_feature)
+inline constexpr bool has_address_sanitizer = __has_feature(address_sanitizer);
+#else
+inline constexpr bool has_address_sanitizer = false;
+#endif
+
+#endif
