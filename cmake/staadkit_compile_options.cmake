@@ -1,10 +1,13 @@
-# Options of every target of the project: staadkit_compile_options(target).
+# Options of the targets of the project:
+#   staadkit_compile_options(target)  for all that are not tests
+#   staadkit_test_options(target)     for test programs
+#   staadkit_driver_options(target)   for test programs that have nothing of the library in them
 
 if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
     set(CMAKE_BUILD_TYPE Release)
 endif()
 
-function(staadkit_compile_options target)
+function(staadkit_language_options target)
     target_compile_features(${target} PRIVATE cxx_std_20)
     set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
@@ -25,29 +28,37 @@ function(staadkit_compile_options target)
         if(STAADKIT_WARNINGS_AS_ERRORS)
             target_compile_options(${target} PRIVATE -Werror)
         endif()
-        if(STAADKIT_SANITIZE)
-            target_compile_options(${target} PRIVATE -fsanitize=${STAADKIT_SANITIZE}
-                -fno-sanitize-recover=all -fno-omit-frame-pointer)
-            target_link_options(${target} PUBLIC -fsanitize=${STAADKIT_SANITIZE})
-        endif()
     endif()
 endfunction()
 
-# The same for test programs. They are large and run for seconds: what takes time is their compilation,
-# so it does not optimise, nor check the tests themselves for undefined behaviour. The library under test is
-# compiled as for everything else.
+function(staadkit_compile_options target)
+    staadkit_language_options(${target})
+    if(STAADKIT_SANITIZE AND NOT MSVC)
+        target_compile_options(${target} PRIVATE -fsanitize=${STAADKIT_SANITIZE}
+            -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=${STAADKIT_SANITIZE})
+    endif()
+endfunction()
+
+# Test programs are large and run for seconds: what takes time is their compilation, so it does not optimise. The
+# library under test is compiled as for everything else.
 function(staadkit_test_options target)
     staadkit_compile_options(${target})
     if(NOT MSVC)
         target_compile_options(${target} PRIVATE -O0)
-        if(STAADKIT_SANITIZE MATCHES "undefined")
-            target_compile_options(${target} PRIVATE -fno-sanitize=undefined)
-        endif()
     endif()
 endfunction()
 
-# Spares a test program of many files what each of them includes. Not in the preset for Windows: there, a file that
-# forgets to include something does not compile.
-function(staadkit_test_headers target)
-    target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector>)
+# A program that only starts another one, which is what is tested: it needs no sanitizers.
+function(staadkit_driver_options target)
+    staadkit_language_options(${target})
+    if(NOT MSVC)
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
+endfunction()
+
+# Spares a test program of many files what each of them includes, `more` among it. Not in the preset for Windows:
+# there, a file that forgets to include something does not compile.
+function(staadkit_test_headers target) # more...
+    target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector> ${ARGN})
 endfunction()

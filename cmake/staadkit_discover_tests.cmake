@@ -1,11 +1,13 @@
 # staadkit_discover_tests(target): the tests of a GoogleTest program, each a test of CTest.
 #
-# Programs for another system start slowly: theirs are run in a few portions, side by side.
+# Programs for another system start slowly, and so do those with a sanitizer: theirs are run in a few portions, side
+# by side.
 include(GoogleTest)
 
 function(staadkit_discover_tests target)
-    if(NOT CMAKE_CROSSCOMPILING)
-        gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST)
+    if(NOT CMAKE_CROSSCOMPILING AND NOT STAADKIT_SANITIZE)
+        # None takes long; one that does not end is to fail.
+        gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
         return()
     endif()
     set(portions 4)

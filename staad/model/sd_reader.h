@@ -98,9 +98,9 @@ public:
     ///           reading and writing, has no UNIT line with a line after it, no JOINT COORDINATES line
     ///           after that, or no MEMBER INCIDENCES line after the joints; what was read by then stays
     ///           in the model.
-    /// Throws:   ReadLimitError, a std::bad_alloc, if lists grow past the limits of a reading (see
-    ///           reader/read_limit.h); other std::bad_alloc pass through. The model may then be
-    ///           incomplete and can be read into again.
+    /// Throws:   ReadLimitError, a std::bad_alloc, if lists, or long texts that go to many records, grow
+    ///           past the limits of a reading (see reader/read_limit.h); other std::bad_alloc pass
+    ///           through. The model may then be incomplete and can be read into again.
     /// Cost:     the text is held in memory once; time grows linearly with its length and with the
     ///           numbers that its stored lists and the references to its loads come to.
     bool ReadSDDataFromStdFile(const char* path);

@@ -1,7 +1,6 @@
 // The verb "forces": what it says about listings that are not as they should be, and about its options.
 
 #include "force_decks.h"
-#include "tests/support/sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -261,7 +260,7 @@ TEST(ForcesMessages, NoProgressWhereNobodyWatches)
 #ifndef _WIN32
 TEST(ForcesMessages, ListingThatMemoryDoesNotSufficeFor)
 {
-    if (has_address_sanitizer)
+    if (tool_has_address_sanitizer)
         GTEST_SKIP() << "the sanitizer takes more memory than the limit";
     const force_files forces(long_listing());
     const tool_result result = forces.tool.within(32, forces.call({"--extremes"}));

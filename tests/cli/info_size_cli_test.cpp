@@ -1,6 +1,5 @@
 // The verb "info" on texts of unusual length, and with little memory.
 
-#include "tests/support/sanitizers.h"
 #include "tool_run.h"
 
 #include <gtest/gtest.h>
@@ -62,7 +61,7 @@ std::string deck_of_control_bytes(int descriptions)
 
 TEST(InfoSize, FilesBehindOneThatIsTooLargeStillAreTold)
 {
-    if (has_address_sanitizer)
+    if (tool_has_address_sanitizer)
         GTEST_SKIP() << "takes more address space than any limit";
     const tool_run tool;
     const std::string small = tool.write("small.std", small_deck());
@@ -81,7 +80,7 @@ TEST(InfoSize, FilesBehindOneThatIsTooLargeStillAreTold)
 
 TEST(InfoSize, FileTooLargeToReadIsNamed)
 {
-    if (has_address_sanitizer)
+    if (tool_has_address_sanitizer)
         GTEST_SKIP() << "takes more address space than any limit";
     const tool_run tool;
     const std::string small = tool.write("small.std", small_deck());

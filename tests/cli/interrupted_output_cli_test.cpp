@@ -94,15 +94,15 @@ private:
     std::future<tool_result> result_;
 };
 
-/// The first file in the folder that is half written, once there is one; empty if the tool ended before.
-std::string half_written(const std::string& folder, const std::future<int>& tool)
+/// Waits until a file in the folder is half written; false if the tool ended before.
+bool wait_for_half_a_file(const std::string& folder, const std::future<int>& tool)
 {
     for (;;) {
         for (const auto& entry : fs::directory_iterator(folder))
             if (entry.path().filename().string().rfind(".staadkit-", 0) == 0)
-                return entry.path().string();
+                return true;
         if (tool.wait_for(std::chrono::seconds(0)) == std::future_status::ready)
-            return {};
+            return false;
     }
 }
 
@@ -120,7 +120,7 @@ bool kill_in_the_middle(const tool_run& tool, const names& arguments)
     std::future<int> code = std::async(std::launch::async, [&tool, words] {
         return run_to_end(words, {no_file, tool.missing("stdout"), tool.missing("stderr")});
     });
-    const bool is_writing = !half_written(tool.folder(), code).empty();
+    const bool is_writing = wait_for_half_a_file(tool.folder(), code);
     if (is_writing)
         kill(number_in(process), SIGKILL);
     return code.get() == -1 && is_writing;
@@ -188,8 +188,8 @@ TEST(InterruptedOutput, APermissionThatIsLostLeavesTheEarlierFile)
     }
     words.insert(words.end(), {"convert", "--force", "-", out});
     waiting_tool waiting(tool, words, small_deck());
-    fs::permissions(tool.missing("there"), fs::perms::owner_write, fs::perm_options::remove);
-    fs::permissions(tool.missing("there"), fs::perms::others_write | fs::perms::group_write, fs::perm_options::remove);
+    fs::permissions(tool.missing("there"), fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write,
+                    fs::perm_options::remove);
     const tool_result result = waiting.finish();
     EXPECT_EQ(result.exit_code, 4);
     EXPECT_TRUE(has_line(result.err, "staadkit: error: " + out + ": Permission denied")) << result.err;

@@ -10,6 +10,14 @@
 
 namespace cli_test {
 
+/// The tool, not the program that runs it, is built with it: it then takes more address space than any limit on
+/// memory, and several times the time.
+#ifdef STAADKIT_TOOL_HAS_ADDRESS_SANITIZER
+inline constexpr bool tool_has_address_sanitizer = true;
+#else
+inline constexpr bool tool_has_address_sanitizer = false;
+#endif
+
 struct tool_result {
     int exit_code = -1; ///< -1: ended by a signal
     std::string out;

@@ -6,6 +6,7 @@
 #include "staad/project/layered_project.h"
 #include "staad/reader/read_report.h"
 #include "tests/support/allocations.h"
+#include "tests/support/example_files.h"
 #include "tests/support/layered.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/sanitizers.h"
@@ -15,8 +16,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <fstream>
-#include <iterator>
 #include <new>
 #include <string>
 #include <system_error>
@@ -75,18 +74,6 @@ void fail_each_allocation(Make make, Operation operate, Check check)
     }
 }
 
-std::string example(const std::string& name)
-{
-    return std::string(STAADKIT_EXAMPLES_FOLDER) + "/" + name;
-}
-
-std::string content_of(const std::string& name)
-{
-    std::ifstream file(example(name), std::ios::binary);
-    EXPECT_TRUE(file) << name;
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 /// The lines of a file as memory has them, whatever the platform ends them with.
 std::string without_carriage_returns(std::string text)
 {
@@ -122,10 +109,15 @@ void expect_reads_again(SdReader& model, const std::string& text, const SdReader
     EXPECT_EQ(model_differences(model, want), differences{});
 }
 
+struct told_model {
+    SdReader model;
+    ReadReport report;
+};
+
 class Exhaustion : public testing::TestWithParam<const char*> {
 protected:
     std::string name() const { return GetParam(); }
-    const std::string text_ = content_of(name() + ".std");
+    const std::string text_ = examples::content(name() + ".std");
     const SdReader whole_ = read_text(text_);
 };
 
@@ -142,11 +134,7 @@ TEST_P(Exhaustion, OfAReadingLeavesAModelThatCanBeReadInto)
 
 TEST_P(Exhaustion, OfAReadingFromAFileWithAReport)
 {
-    struct told_model {
-        SdReader model;
-        ReadReport report;
-    };
-    const std::string path = example(name() + ".std");
+    const std::string path = examples::path(name() + ".std");
     ReadReport whole_report;
     SdReader().ReadSDDataFromText(text_, whole_report);
     fail_each_allocation([] { return told_model(); },
@@ -223,7 +211,7 @@ TEST_P(Exhaustion, OfAComparisonWithAnEarlierProject)
         joint.id += 1000;
     SdReader taken = moved;
     taken.TakeOverFrom(whole_);
-    const std::string path = example(name() + ".std");
+    const std::string path = examples::path(name() + ".std");
     fail_each_allocation([&] { return moved; }, [&](SdReader& model) { model.compWithOldProj(path.c_str()); },
                          [&](SdReader& model, outcome end) {
                              if (end == outcome::finished) {
@@ -238,7 +226,7 @@ TEST_P(Exhaustion, OfAComparisonWithAnEarlierProject)
 TEST_P(Exhaustion, OfAProjectLeavesTheOneBefore)
 {
     const SdReader other = layered::floors({0, 3000, 7000});
-    const std::string path = example(name() + ".std");
+    const std::string path = examples::path(name() + ".std");
     const StaadProProject_layered before = layered::project_of(other);
     StaadProProject_layered whole;
     ASSERT_TRUE(whole.BuidFromFile(path.c_str(), 1));
@@ -251,16 +239,19 @@ TEST_P(Exhaustion, OfAProjectLeavesTheOneBefore)
         });
 }
 
+std::string name_of_test(const testing::TestParamInfo<const char*>& example)
+{
+    std::string name = example.param;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
 INSTANTIATE_TEST_SUITE_P(Examples, Exhaustion, testing::Values("concrete-frame", "steel-portal", "twelve-storey"),
-                         [](const auto& example) {
-                             std::string name = example.param;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
-                         });
+                         name_of_test);
 
 class ExhaustionOfForces : public Exhaustion {
 protected:
-    const std::string listing_ = content_of(name() + ".txt");
+    const std::string listing_ = examples::content(name() + ".txt");
 };
 
 TEST_P(ExhaustionOfForces, LeavesAModelThatCanBeReadInto)
@@ -268,7 +259,7 @@ TEST_P(ExhaustionOfForces, LeavesAModelThatCanBeReadInto)
     SdReader whole = whole_;
     whole.ReadForceMomentFromText(listing_);
     ASSERT_FALSE(whole.beam_forces.empty());
-    const std::string path = example(name() + ".txt");
+    const std::string path = examples::path(name() + ".txt");
     fail_each_allocation([&] { return whole_; },
                          [&](SdReader& model) { model.ReadForceMomentFromTxtFile(path.c_str()); },
                          [&](SdReader& model, outcome end) {
@@ -283,10 +274,6 @@ TEST_P(ExhaustionOfForces, LeavesAModelThatCanBeReadInto)
 
 TEST_P(ExhaustionOfForces, WithAReport)
 {
-    struct told_model {
-        SdReader model;
-        ReadReport report;
-    };
     SdReader whole = whole_;
     ReadReport whole_report;
     whole.ReadForceMomentFromText(listing_, whole_report);
@@ -305,12 +292,7 @@ TEST_P(ExhaustionOfForces, WithAReport)
         });
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, ExhaustionOfForces, testing::Values("concrete-frame", "steel-portal"),
-                         [](const auto& example) {
-                             std::string name = example.param;
-                             std::replace(name.begin(), name.end(), '-', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Examples, ExhaustionOfForces, testing::Values("concrete-frame", "steel-portal"), name_of_test);
 
 } // namespace
 } // namespace STAAD

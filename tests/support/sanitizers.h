@@ -2,7 +2,7 @@
 #ifndef STAAD_TESTS_SUPPORT_SANITIZERS_H
 #define STAAD_TESTS_SUPPORT_SANITIZERS_H
 
-/// It takes more address space than any limit on memory, and several times the time.
+/// Under it, everything takes several times as long.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool has_address_sanitizer = true;
 #elif defined(__has_feature)

@@ -1,6 +1,7 @@
 /// Models in threads of their own at the same time give what they give one after the other. Under
 /// ThreadSanitizer these tests also fail on anything that the threads share without a lock.
 
+#include "tests/support/example_files.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/random_deck.h"
 #include "tests/support/temporary_file.h"
@@ -15,8 +16,6 @@
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -159,30 +158,29 @@ void expect_reading(const reading_result& result, const decks::random_deck& deck
 constexpr std::uint64_t decks_of_a_test = 20; // with every block in one or another of them
 constexpr int members_of_a_deck = 120;
 
-TEST(TwoModels, AreReadAtOnceAsOneAfterTheOther)
+/// Two decks at a time by `read`.
+template<class Read>
+void expect_same_at_once(Read read)
 {
     for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
         const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
         const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
         reading_result first_read;
         reading_result second_read;
-        at_once([&] { first_read = read_text(first.text); }, [&] { second_read = read_text(second.text); });
+        at_once([&] { first_read = read(first.text); }, [&] { second_read = read(second.text); });
         expect_reading(first_read, first, seed);
         expect_reading(second_read, second, seed + 100);
     }
 }
 
+TEST(TwoModels, AreReadAtOnceAsOneAfterTheOther)
+{
+    expect_same_at_once(read_text);
+}
+
 TEST(TwoModels, AreReadFromFilesAtOnceAsOneAfterTheOther)
 {
-    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
-        const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
-        const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
-        reading_result first_read;
-        reading_result second_read;
-        at_once([&] { first_read = read_file(first.text); }, [&] { second_read = read_file(second.text); });
-        expect_reading(first_read, first, seed);
-        expect_reading(second_read, second, seed + 100);
-    }
+    expect_same_at_once(read_file);
 }
 
 TEST(TwoModels, OneIsReadWhileTheOtherIsWritten)
@@ -222,13 +220,9 @@ TEST(FourModels, TwoAreReadWhileTwoAreWritten)
 
 /// Example model and listing of that name.
 struct example {
-    explicit example(const std::string& name) : model(content(name + ".std")), listing(content(name + ".txt")) {}
-
-    static std::string content(const std::string& name)
+    explicit example(const std::string& name)
+        : model(examples::content(name + ".std")), listing(examples::content(name + ".txt"))
     {
-        std::ifstream file(std::string(STAADKIT_EXAMPLES_FOLDER) + "/" + name, std::ios::binary);
-        EXPECT_TRUE(file) << name;
-        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     std::string model;

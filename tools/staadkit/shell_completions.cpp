@@ -41,7 +41,7 @@ std::string escaped(std::string_view text, std::string_view special)
 }
 
 /// In single quotes, as bash and zsh read them.
-std::string quoted(std::string_view text)
+std::string in_quotes(std::string_view text)
 {
     std::string result = "'";
     for (const char c : text)
@@ -115,9 +115,9 @@ std::string zsh_options(const command_outline& command, const std::string& inden
     for (const option_outline& option : command.options) {
         const std::string once = option.repeats ? "*" : '(' + joined(option.names) + ')';
         for (const std::string& name : option.names)
-            lines +=
-                " \\\n" + indent +
-                quoted(once + zsh_name(option, name) + '[' + escaped(option.help, "[]:\\") + ']' + zsh_value(option));
+            lines += " \\\n" + indent +
+                     in_quotes(once + zsh_name(option, name) + '[' + escaped(option.help, "[]:\\") + ']' +
+                               zsh_value(option));
     }
     return lines;
 }
@@ -129,7 +129,7 @@ std::string zsh_verb(const command_outline& verb)
     std::size_t place = 0;
     for (const argument_outline& argument : verb.arguments) {
         const std::string spot = argument.repeats ? "*" : std::to_string(++place);
-        lines += " \\\n                " + quoted(spot + ':' + argument.name + ":_files");
+        lines += " \\\n                " + in_quotes(spot + ':' + argument.name + ":_files");
     }
     return lines + " ;;\n";
 }
@@ -218,7 +218,7 @@ std::string zsh_completion(const command_outline& app)
                        "    local -a verbs\n"
                        "    verbs=(\n";
     for (const command_outline& verb : app.verbs)
-        text += "        " + quoted(verb.name + ':' + escaped(verb.help, ":\\")) + '\n';
+        text += "        " + in_quotes(verb.name + ':' + escaped(verb.help, ":\\")) + '\n';
     text += "    )\n"
             "    _arguments -C";
     text += zsh_options(app, "        ");

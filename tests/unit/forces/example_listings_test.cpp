@@ -2,12 +2,11 @@
 /// for: fixed and simply supported beams, cantilevered and propped columns.
 
 #include "staad/reader/read_report.h"
+#include "tests/support/example_files.h"
 #include "tests/support/force_listing.h"
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -17,18 +16,11 @@ namespace {
 using listings::values;
 using listings::values_of;
 
-std::string contents(const std::string& name)
-{
-    std::ifstream file(std::string(STAADKIT_EXAMPLES_FOLDER) + "/" + name, std::ios::binary);
-    EXPECT_TRUE(file) << "cannot open " << name;
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 SdReader example(const std::string& name, ReadReport& report)
 {
     SdReader model;
-    EXPECT_TRUE(model.ReadSDDataFromText(contents(name + ".std")));
-    model.ReadForceMomentFromText(contents(name + ".txt"), report);
+    EXPECT_TRUE(model.ReadSDDataFromText(examples::content(name + ".std")));
+    model.ReadForceMomentFromText(examples::content(name + ".txt"), report);
     return model;
 }
 

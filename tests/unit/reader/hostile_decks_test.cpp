@@ -18,7 +18,7 @@
 namespace STAAD {
 namespace {
 
-constexpr std::size_t deck_size = 65536;
+constexpr std::size_t deck_size = 16384;
 
 template<class Read>
 decks::answer answer_of(Read read)
