@@ -31,13 +31,12 @@ public:
     /// -128 to 127.
     int take_small() noexcept { return static_cast<signed char>(take_byte()); }
 
-    /// Any bits.
+    /// Any bits; zeros behind the end.
     template<class Value>
     Value take_bits() noexcept
     {
-        unsigned char bytes[sizeof(Value)];
-        for (unsigned char& byte : bytes)
-            byte = take_byte();
+        char bytes[sizeof(Value)] = {};
+        rest_.remove_prefix(rest_.copy(bytes, sizeof bytes));
         Value value;
         std::memcpy(&value, bytes, sizeof value);
         return value;
