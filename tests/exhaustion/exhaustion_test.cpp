@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <new>
 #include <string>
 #include <system_error>
@@ -28,8 +29,13 @@ using differences = std::vector<std::string>;
 
 /// No more of an operation are failed one by one.
 constexpr std::size_t most_allocations = 2000;
-/// Of these, every so many.
-constexpr std::size_t step = has_address_sanitizer ? 5 : 1;
+/// Of these, every so many; the environment may set more, for what runs slowly.
+std::size_t step()
+{
+    if (const char* const apart = std::getenv("STAADKIT_ALLOCATIONS_APART"))
+        return std::stoul(apart);
+    return has_address_sanitizer ? 5 : 1;
+}
 
 enum class outcome { finished, threw };
 
@@ -48,8 +54,9 @@ void fail_each_allocation(Make make, Operation operate, Check check)
         needed = allocations::asked() - before;
     }
     ASSERT_GT(needed, 0U);
+    const std::size_t apart = step();
     for (const auto how : {allocations::failure::once, allocations::failure::from_then_on}) {
-        for (std::size_t number = 1; number <= std::min(needed, most_allocations); number += step) {
+        for (std::size_t number = 1; number <= std::min(needed, most_allocations); number += apart) {
             SCOPED_TRACE("allocation " + std::to_string(number) +
                          (how == allocations::failure::once ? " fails" : " fails, and all behind it"));
             const std::size_t live = allocations::live();
