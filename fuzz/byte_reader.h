@@ -51,9 +51,9 @@ public:
     {
         std::string text;
         for (int length = take_byte() % 16; length > 0; --length) {
-            const auto character = static_cast<char>(take_byte());
-            if (!(character >= 0 && character < ' ') && character != '\x7F')
-                text.push_back(character);
+            const unsigned char byte = take_byte();
+            if (byte >= ' ' && byte != 0x7F)
+                text.push_back(static_cast<char>(byte));
         }
         return text;
     }
