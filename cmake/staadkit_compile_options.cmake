@@ -57,8 +57,8 @@ function(staadkit_driver_options target)
     endif()
 endfunction()
 
-# Spares a test program of many files what each of them includes, `more` among it. Not in the preset for Windows:
-# there, a file that forgets to include something does not compile.
+# Spares a test program of many files what each of them includes, `more` among it. Not in the preset for
+# 32 bits: there, a file that forgets to include something does not compile.
 function(staadkit_test_headers target) # more...
     target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector> ${ARGN})
 endfunction()
