@@ -6,7 +6,7 @@
 #include "measure.h"
 
 #include "staad/model/sd_reader.h"
-#include "staad/project/layered_project.h"
+#include "staad/storeys/layered_project.h"
 
 #include <algorithm>
 #include <cstddef>

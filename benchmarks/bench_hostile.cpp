@@ -6,7 +6,7 @@
 #include "measure.h"
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_limit.h"
+#include "staad/report/read_limit.h"
 #include "tests/support/hostile_decks.h"
 
 #include <algorithm>

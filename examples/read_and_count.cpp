@@ -3,7 +3,7 @@
 //     read_and_count FILE.std
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 
 #include <iostream>
 

@@ -4,7 +4,7 @@
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_limit.h"
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/plain_forces.h"
 

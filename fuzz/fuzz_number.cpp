@@ -2,8 +2,8 @@
 
 #include "fuzz/byte_reader.h"
 #include "fuzz/fuzz_target.h"
-#include "staad/reader/number.h"
-#include "staad/writer/number_text.h"
+#include "staad/text/number.h"
+#include "staad/text/number_text.h"
 
 #include <algorithm>
 #include <bit>

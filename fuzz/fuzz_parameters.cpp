@@ -3,8 +3,8 @@
 #include "fuzz/fuzz_target.h"
 #include "staad/model/sd_reader.h"
 #include "tests/support/model_equal.h"
-#include "tools/staadkit/parameter_file.h"
-#include "tools/staadkit/text_encoding.h"
+#include "tools/staadkit/cli/text_encoding.h"
+#include "tools/staadkit/convert/parameter_file.h"
 
 namespace {
 

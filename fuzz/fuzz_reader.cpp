@@ -4,8 +4,8 @@
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_limit.h"
 #include "staad/model/sd_reader.h"
-#include "staad/project/layered_project.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
+#include "staad/storeys/layered_project.h"
 #include "tests/support/model_equal.h"
 
 #include <algorithm>

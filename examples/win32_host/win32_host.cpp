@@ -4,8 +4,8 @@
 //
 //     win32_host [FILE.std]
 
-#include "staad/platform/platform_services.h"
-#include "staad/project/layered_project.h"
+#include "staad/host/platform_services.h"
+#include "staad/storeys/layered_project.h"
 
 #include <windows.h>
 // behind it

@@ -1,7 +1,7 @@
 #include "staad/forces/force_line.h"
 
-#include "staad/reader/number.h"
-#include "staad/reader/words.h"
+#include "staad/text/number.h"
+#include "staad/text/words.h"
 
 namespace STAAD::detail {
 namespace {

@@ -3,7 +3,7 @@
 #define STAAD_FORCES_FORCE_LINE_H
 
 #include "staad/model/force.h"
-#include "staad/reader/lines.h"
+#include "staad/text/lines.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 #include "staad/forces/force_sections.h"
 
 #include "staad/forces/force_titles.h"
-#include "staad/reader/words.h"
+#include "staad/text/words.h"
 
 #include <iterator>
 

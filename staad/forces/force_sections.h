@@ -2,7 +2,7 @@
 #ifndef STAAD_FORCES_FORCE_SECTIONS_H
 #define STAAD_FORCES_FORCE_SECTIONS_H
 
-#include "staad/reader/lines.h"
+#include "staad/text/lines.h"
 
 #include <string>
 #include <string_view>

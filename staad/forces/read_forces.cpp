@@ -1,13 +1,13 @@
 /// From the text of a listing to the forces of the model's members.
 #include "staad/forces/force_line.h"
 #include "staad/forces/force_sections.h"
+#include "staad/host/platform_services.h"
+#include "staad/io/file_access.h"
+#include "staad/model/positions.h"
 #include "staad/model/sd_reader.h"
-#include "staad/platform/file_access.h"
-#include "staad/platform/platform_services.h"
 #include "staad/reader/findings.h"
 #include "staad/reader/reading.h"
-#include "staad/reader/words.h"
-#include "staad/units/positions.h"
+#include "staad/text/words.h"
 
 #include <cstddef>
 #include <map>

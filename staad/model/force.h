@@ -4,7 +4,7 @@
 #ifndef STAAD_MODEL_FORCE_H
 #define STAAD_MODEL_FORCE_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 #include "staad/model/load.h"
 
 #include <map>

@@ -5,7 +5,7 @@
 #ifndef STAAD_MODEL_GEOMETRY_H
 #define STAAD_MODEL_GEOMETRY_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 
 #include <string>
 #include <vector>

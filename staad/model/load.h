@@ -2,7 +2,7 @@
 #ifndef STAAD_MODEL_LOAD_H
 #define STAAD_MODEL_LOAD_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 
 #include <string>
 #include <vector>

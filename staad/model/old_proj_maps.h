@@ -2,7 +2,7 @@
 #ifndef STAAD_MODEL_OLD_PROJ_MAPS_H
 #define STAAD_MODEL_OLD_PROJ_MAPS_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 
 #include <map>
 

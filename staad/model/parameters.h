@@ -3,7 +3,7 @@
 #ifndef STAAD_MODEL_PARAMETERS_H
 #define STAAD_MODEL_PARAMETERS_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 
 #include <array>
 #include <string>

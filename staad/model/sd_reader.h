@@ -4,7 +4,7 @@
 #ifndef STAAD_MODEL_SD_READER_H
 #define STAAD_MODEL_SD_READER_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 #include "staad/model/force.h"
 #include "staad/model/geometry.h"
 #include "staad/model/group.h"

@@ -2,7 +2,7 @@
 #ifndef STAAD_MODEL_SECTION_H
 #define STAAD_MODEL_SECTION_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 
 #include <map>
 #include <string>

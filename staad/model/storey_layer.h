@@ -2,7 +2,7 @@
 #ifndef STAAD_MODEL_STOREY_LAYER_H
 #define STAAD_MODEL_STOREY_LAYER_H
 
-#include "staad/model/export.h"
+#include "staad/export.h"
 #include "staad/model/force.h"
 #include "staad/model/geometry.h"
 #include "staad/model/section.h"

@@ -1,21 +1,7 @@
-/// The listing that belongs to a ".std" file.
+/// Leads to staad/host/force_file.h: hosts know the header by this name.
 #ifndef STAAD_PROJECT_FORCE_FILE_H
 #define STAAD_PROJECT_FORCE_FILE_H
 
-#include "staad/model/export.h"
-
-#include <string>
-#include <string_view>
-
-namespace STAAD {
-
-/// `path` with its last four characters replaced by ".txt"; they are not dropped if it has fewer.
-STAAD_API std::string force_file_beside(std::string_view path);
-
-/// The ".txt" file beside the model `path` if it can be opened, else the one that the user chooses in a
-/// file dialog; empty if none was chosen.
-STAAD_API std::string find_force_file(std::string_view path);
-
-} // namespace STAAD
+#include "staad/host/force_file.h"
 
 #endif

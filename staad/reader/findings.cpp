@@ -1,7 +1,7 @@
 #include "staad/reader/findings.h"
 
 #include "staad/reader/near_keyword.h"
-#include "staad/reader/words.h"
+#include "staad/text/words.h"
 #include "staad/units/unit_factors.h"
 
 #include <algorithm>

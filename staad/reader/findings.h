@@ -2,10 +2,10 @@
 #ifndef STAAD_READER_FINDINGS_H
 #define STAAD_READER_FINDINGS_H
 
-#include "staad/platform/file_access.h"
-#include "staad/reader/id_list.h"
-#include "staad/reader/lines.h"
+#include "staad/io/file_access.h"
 #include "staad/reader/reading.h"
+#include "staad/text/id_list.h"
+#include "staad/text/lines.h"
 
 #include <string>
 #include <string_view>

@@ -1,7 +1,7 @@
 #include "staad/reader/near_keyword.h"
 
-#include "staad/reader/edit_distance.h"
-#include "staad/reader/words.h"
+#include "staad/text/edit_distance.h"
+#include "staad/text/words.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,11 @@
 // The order in which the blocks of a text are read.
 
+#include "staad/io/file_access.h"
 #include "staad/model/sd_reader.h"
-#include "staad/platform/file_access.h"
+#include "staad/reader/blocks/read_geometry.h"
+#include "staad/reader/blocks/read_materials.h"
+#include "staad/reader/blocks/read_properties.h"
 #include "staad/reader/findings.h"
-#include "staad/reader/read_geometry.h"
-#include "staad/reader/read_materials.h"
-#include "staad/reader/read_properties.h"
 
 #include <algorithm>
 #include <utility>

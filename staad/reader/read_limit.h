@@ -1,46 +1,7 @@
-/// The bounds of one reading, and the error that says one was reached.
+/// Leads to staad/report/read_limit.h: hosts know the header by this name.
 #ifndef STAAD_READER_READ_LIMIT_H
 #define STAAD_READER_READ_LIMIT_H
 
-#include "staad/model/export.h"
-
-#include <cstddef>
-#include <new>
-
-namespace STAAD {
-
-/// Most numbers that one list of a file may stand for, ranges counted out.
-inline constexpr std::size_t most_numbers_per_list = 16'777'216;
-/// Most numbers that all stored lists of one reading may stand for, the load references of members
-/// and joints included.
-inline constexpr std::size_t most_numbers_per_reading = 134'217'728;
-/// Texts of more bytes are long ones. A section, a material or the words of a load block stand once in a
-/// file and in every record that they go to; no sensible one is longer.
-inline constexpr std::size_t longest_plain_text = 256;
-/// Most bytes of long texts that one reading gives to members, elements and load definitions together.
-inline constexpr std::size_t most_text_per_reading = 268'435'456;
-
-/// A list such as "1 TO 2000000000" asks for more numbers than a reading holds, or a long text goes to more
-/// records than can have it. Thrown before the memory is taken; the object being read into can be read into again.
-class STAAD_API ReadLimitError : public std::bad_alloc {
-public:
-    /// `first_line` and `last_line` are physical lines, from 1; 0: the list stands in no file.
-    /// `limit` is one of the bounds above.
-    ReadLimitError(std::size_t first_line, std::size_t last_line, std::size_t limit) noexcept;
-
-    /// "line 118: a list of more than 16777216 numbers"
-    const char* what() const noexcept override;
-    std::size_t first_line() const noexcept { return first_line_; }
-    std::size_t last_line() const noexcept { return last_line_; }
-    std::size_t limit() const noexcept { return limit_; }
-
-private:
-    std::size_t first_line_;
-    std::size_t last_line_;
-    std::size_t limit_;
-    char text_[112] = {};
-};
-
-} // namespace STAAD
+#include "staad/report/read_limit.h"
 
 #endif

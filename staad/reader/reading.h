@@ -3,10 +3,10 @@
 #ifndef STAAD_READER_READING_H
 #define STAAD_READER_READING_H
 
-#include "staad/reader/id_list.h"
-#include "staad/reader/lines.h"
-#include "staad/reader/read_report.h"
-#include "staad/units/number_lookup.h"
+#include "staad/report/read_report.h"
+#include "staad/text/id_list.h"
+#include "staad/text/lines.h"
+#include "staad/text/number_lookup.h"
 
 #include <cstddef>
 #include <string>

@@ -1,19 +1,7 @@
-/// Splitting a text into words.
+/// Leads to staad/text/split_string.h: hosts know the header by this name.
 #ifndef STAAD_READER_TEXT_H
 #define STAAD_READER_TEXT_H
 
-#include "staad/model/export.h"
-
-#include <string>
-#include <vector>
-
-namespace STAAD {
-
-/// The words of `text`: every character of `separators` separates on its own, runs and ends of
-/// separators yield no empty words. Without separators a non-empty text is one word.
-/// Cost: linear in the text, an allocation per long word.
-STAAD_API std::vector<std::string> SplitString(const std::string& text, const std::string& separators);
-
-} // namespace STAAD
+#include "staad/text/split_string.h"
 
 #endif

@@ -1,7 +1,7 @@
 #include "staad/units/unit_factors.h"
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/words.h"
+#include "staad/text/words.h"
 #include "staad/units/unit_table.h"
 
 #include <algorithm>

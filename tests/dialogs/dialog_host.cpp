@@ -11,7 +11,7 @@
 ///     dialog_host read-storeys RESULT
 
 #include "staad/model/sd_reader.h"
-#include "staad/project/layered_project.h"
+#include "staad/storeys/layered_project.h"
 #include "tests/dialogs/list_reader.h"
 #include "tests/dialogs/onlooker.h"
 #include "tests/dialogs/result_file.h"

@@ -1,10 +1,10 @@
 /// Memory that runs out at each of the first allocations of an operation, once or from then on: the operation throws
 /// std::bad_alloc or ends as it should, nothing leaks, and what it worked on can be destroyed or used again.
 
+#include "staad/host/platform_services.h"
 #include "staad/model/sd_reader.h"
-#include "staad/platform/platform_services.h"
-#include "staad/project/layered_project.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
+#include "staad/storeys/layered_project.h"
 #include "tests/support/allocations.h"
 #include "tests/support/example_files.h"
 #include "tests/support/layered.h"

@@ -3,7 +3,7 @@
 #define STAAD_TESTS_SUPPORT_FORCE_LISTING_H
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 
 #include <array>
 #include <cstddef>

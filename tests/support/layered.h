@@ -2,7 +2,7 @@
 #ifndef STAAD_TESTS_SUPPORT_LAYERED_H
 #define STAAD_TESTS_SUPPORT_LAYERED_H
 
-#include "staad/project/layered_project.h"
+#include "staad/storeys/layered_project.h"
 #include "tests/support/placed_models.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 #ifndef STAAD_TESTS_SUPPORT_SCRIPTED_SERVICES_H
 #define STAAD_TESTS_SUPPORT_SCRIPTED_SERVICES_H
 
-#include "staad/platform/platform_services.h"
+#include "staad/host/platform_services.h"
 
 #include <string>
 #include <vector>

@@ -3,8 +3,8 @@
 #define STAAD_TESTS_SUPPORT_SD_READER_ACCESS_H
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/lines.h"
 #include "staad/reader/reading.h"
+#include "staad/text/lines.h"
 
 #include <string>
 #include <vector>

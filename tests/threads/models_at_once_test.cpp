@@ -7,8 +7,8 @@
 #include "tests/support/temporary_file.h"
 #include "tests/threads/full_row.h"
 
-#include "staad/project/layered_project.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
+#include "staad/storeys/layered_project.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Files that engineers' tools wrote, where a copy of them is at hand: STAADKIT_REAL_FILES names the folder.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 // staadkit: shows what .std files hold, and writes them anew.
 
-#include "command_pages.h"
-#include "messages.h"
-#include "std_output.h"
-#include "suggest.h"
-#include "terminal_services.h"
-#include "text_encoding.h"
-#include "verbs.h"
+#include "cli/command_pages.h"
+#include "cli/messages.h"
+#include "cli/suggest.h"
+#include "cli/terminal_services.h"
+#include "cli/text_encoding.h"
+#include "cli/verbs.h"
+#include "output/std_output.h"
 
 #include <CLI/CLI.hpp>
 

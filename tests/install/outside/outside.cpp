@@ -3,9 +3,9 @@
 // between library and host.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_limit.h"
-#include "staad/reader/read_report.h"
-#include "staad/reader/text.h"
+#include "staad/report/read_limit.h"
+#include "staad/report/read_report.h"
+#include "staad/text/split_string.h"
 
 #include <iostream>
 

@@ -1,7 +1,7 @@
 /// The listings beside the example models, whose values follow from the loads and spans they were made
 /// for: fixed and simply supported beams, cantilevered and propped columns.
 
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/example_files.h"
 #include "tests/support/force_listing.h"
 

@@ -1,6 +1,6 @@
 /// Listings as files: which are refused, which bytes do no harm, and what a second import replaces.
 
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/random_text.h"

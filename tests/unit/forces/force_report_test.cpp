@@ -1,6 +1,6 @@
 /// What an import tells beside the forces: codes, places, counts.
 
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/temporary_file.h"

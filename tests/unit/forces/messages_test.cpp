@@ -1,7 +1,7 @@
 /// The message box of an import without a model, and the services that show it.
 
-#include "staad/platform/platform_services.h"
-#include "staad/reader/read_report.h"
+#include "staad/host/platform_services.h"
+#include "staad/report/read_report.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/scripted_services.h"

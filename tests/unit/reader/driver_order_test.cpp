@@ -2,7 +2,7 @@
 /// the blocks in the file does not matter, except where a block is searched from a certain line on.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_limit.h"
+#include "staad/report/read_limit.h"
 #include "tests/support/deck.h"
 
 #include <gtest/gtest.h>

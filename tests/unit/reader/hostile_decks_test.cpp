@@ -2,9 +2,9 @@
 /// benchmarks/bench_hostile.cpp to tell.
 
 #include "staad/model/sd_reader.h"
-#include "staad/project/layered_project.h"
-#include "staad/reader/read_limit.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_limit.h"
+#include "staad/report/read_report.h"
+#include "staad/storeys/layered_project.h"
 #include "tests/support/deck.h"
 #include "tests/support/hostile_decks.h"
 #include "tests/support/model_equal.h"

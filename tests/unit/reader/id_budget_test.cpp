@@ -1,7 +1,7 @@
 /// How much the lists of one reading may hold, and the error that says where it was too much.
 
-#include "staad/reader/id_list.h"
-#include "staad/reader/read_limit.h"
+#include "staad/report/read_limit.h"
+#include "staad/text/id_list.h"
 #include "tests/support/sd_reader_access.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "staad/reader/last_assignments.h"
+#include "staad/reader/blocks/last_assignments.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "tests/support/random_deck.h"
 #include "tests/support/random_text.h"
 
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 
 #include <gtest/gtest.h>
 

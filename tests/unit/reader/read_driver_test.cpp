@@ -1,6 +1,6 @@
 /// When a text is a model and when not, what is left in the object, and the ways in.
 
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/filled_records.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/temporary_file.h"

@@ -2,7 +2,7 @@
 /// touch what is there.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/read_limit.h"
+#include "staad/report/read_limit.h"
 #include "tests/support/deck.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 /// The host's locale has no say in what a text means.
 
-#include "staad/reader/number.h"
+#include "staad/text/number.h"
 #include "tests/support/model_equal.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
-#include "staad/reader/read_report.h"
+#include "staad/report/read_report.h"
 #include "tests/support/deck.h"
 #include "tests/support/model_equal.h"
 

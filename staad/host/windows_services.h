@@ -1,0 +1,25 @@
+/// The services of a Windows desktop. Knows no model.
+#ifndef STAAD_HOST_WINDOWS_SERVICES_H
+#define STAAD_HOST_WINDOWS_SERVICES_H
+
+#ifdef _WIN32
+
+#    include "staad/host/platform_services.h"
+
+namespace STAAD::detail {
+
+/// Message boxes and file dialogs of the system, without an owner window. Without a desktop to show them
+/// on, a question is answered no and a dialog cancelled.
+class windows_services final : public PlatformServices {
+public:
+    Answer ShowMessage(const Message& message) override;
+    /// The current folder is afterwards what it was before.
+    std::string AskForFile(const FileQuestion& question) override;
+    bool CanRead(const char* path) override;
+};
+
+} // namespace STAAD::detail
+
+#endif
+
+#endif

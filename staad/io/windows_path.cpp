@@ -1,0 +1,57 @@
+#include "staad/io/windows_path.h"
+
+#ifdef _WIN32
+
+#    include <windows.h>
+
+namespace STAAD::detail {
+namespace {
+
+/// From this length on the system refuses a path without the prefix for long ones; folders a little
+/// earlier than files.
+constexpr std::size_t longest_plain_path = 247;
+
+/// The whole path from the drive on, with "\" between its parts: what stands behind the prefix is taken
+/// as it is. Empty if the system refuses it.
+std::wstring full_path(const std::wstring& path)
+{
+    const DWORD size = GetFullPathNameW(path.c_str(), 0, nullptr, nullptr);
+    std::wstring full(size, L'\0');
+    full.resize(GetFullPathNameW(path.c_str(), size, full.data(), nullptr));
+    return full;
+}
+
+} // namespace
+
+std::wstring wide_text(std::string_view narrow)
+{
+    const int narrow_size = static_cast<int>(narrow.size());
+    const int size = MultiByteToWideChar(CP_ACP, 0, narrow.data(), narrow_size, nullptr, 0);
+    std::wstring wide(static_cast<std::size_t>(size), L'\0');
+    MultiByteToWideChar(CP_ACP, 0, narrow.data(), narrow_size, wide.data(), size);
+    return wide;
+}
+
+std::string narrow_text(std::wstring_view wide)
+{
+    // Not a letter that looks alike: that might name another file. UTF-8 has all letters and refuses the flag.
+    const DWORD flags = GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
+    const int wide_size = static_cast<int>(wide.size());
+    const int size = WideCharToMultiByte(CP_ACP, flags, wide.data(), wide_size, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_ACP, flags, wide.data(), wide_size, narrow.data(), size, nullptr, nullptr);
+    return narrow;
+}
+
+std::wstring wide_path(std::string_view narrow)
+{
+    std::wstring path = wide_text(narrow);
+    const std::wstring full = full_path(path);
+    if (full.size() <= longest_plain_path || full.starts_with(L"\\\\?\\"))
+        return path;
+    return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
+}
+
+} // namespace STAAD::detail
+
+#endif

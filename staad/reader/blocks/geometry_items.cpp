@@ -1,0 +1,81 @@
+#include "staad/reader/blocks/geometry_items.h"
+
+#include "staad/text/number.h"
+#include "staad/text/words.h"
+
+namespace STAAD {
+namespace detail {
+
+std::size_t read_item(std::string_view item, SdNode& node)
+{
+    word_cursor words(item);
+    const std::string_view number = words.next_or_empty();
+    const std::string_view file_x = words.next_or_empty();
+    const std::string_view file_y = words.next_or_empty();
+    const std::string_view file_z = words.next_or_empty();
+    node.id = to_int(number);
+    node.x = to_real(file_z);
+    node.y = to_real(file_x);
+    node.z = to_real(file_y);
+    return file_z.empty() ? count_words(item) : 4;
+}
+
+std::size_t read_item(std::string_view item, SdBeam& member)
+{
+    word_cursor words(item);
+    const std::string_view number = words.next_or_empty();
+    const std::string_view start = words.next_or_empty();
+    const std::string_view end = words.next_or_empty();
+    member.id = to_int(number);
+    member.node_start = to_int(start);
+    member.node_end = to_int(end);
+    return end.empty() ? count_words(item) : 3;
+}
+
+std::size_t read_item(std::string_view item, SdShell& element)
+{
+    const std::size_t count = count_words(item);
+    word_cursor words(item);
+    element.id = to_int(words.next_or_empty());
+    element.node_ids.reserve(count - (count > 0 ? 1 : 0));
+    for (std::string_view corner; words.next(corner);)
+        element.node_ids.push_back(to_int(corner));
+    return count;
+}
+
+std::size_t read_item(std::string_view item, SdSurface& surface)
+{
+    const std::size_t count = count_words(item);
+    if (count < 4)
+        return count;
+    surface.id = to_int(last_word(item));
+    word_cursor corners(without_last_words(item, 2));
+    surface.node_ids.reserve(count - 2);
+    for (std::string_view corner; corners.next(corner);)
+        surface.node_ids.push_back(to_int(corner));
+    return count;
+}
+
+} // namespace detail
+
+SdNode::SdNode(const std::string& item)
+{
+    detail::read_item(item, *this);
+}
+
+SdBeam::SdBeam(const std::string& item)
+{
+    detail::read_item(item, *this);
+}
+
+SdShell::SdShell(const std::string& item)
+{
+    detail::read_item(item, *this);
+}
+
+SdSurface::SdSurface(const std::string& item)
+{
+    detail::read_item(item, *this);
+}
+
+} // namespace STAAD

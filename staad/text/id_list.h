@@ -1,0 +1,168 @@
+/// Number lists with "TO" ranges: one walker, and the rules in which the lists of the format differ.
+/// Knows no model.
+#ifndef STAAD_TEXT_ID_LIST_H
+#define STAAD_TEXT_ID_LIST_H
+
+#include "staad/report/read_limit.h"
+#include "staad/text/number.h"
+#include "staad/text/words.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
+#include <string_view>
+
+namespace STAAD::detail {
+
+/// How a kind of list reads its words. What they all share: "TO" takes the next word as the bound of
+/// a range that starts one past the previous number, a "TO" without a bound ends the list, and so
+/// does an empty word.
+struct id_list_rule {
+    /// A number must begin with a digit from 1 to 9; otherwise any word that reads as 1 or more is one.
+    bool needs_leading_digit;
+    /// A bound below 1 ends the list; otherwise it makes an empty range.
+    bool low_bound_ends_list;
+    /// The next range starts after the bound ("1 TO 4 TO 6" is 1 to 6); otherwise after the last
+    /// number that stood alone ("1 TO 4 TO 6" is 1 2 3 4 2 3 4 5 6).
+    bool bound_becomes_previous;
+};
+
+/// Supports, releases, offsets, beta angles, braces, thicknesses, materials, member properties, loads.
+inline constexpr id_list_rule general_id_list{true, true, false};
+/// The numbers of a group.
+inline constexpr id_list_rule group_id_list{false, false, true};
+/// The surfaces of a SURFACE PROPERTY line.
+inline constexpr id_list_rule surface_id_list{true, false, false};
+
+/// Consecutive numbers first..last, both included; at least one.
+struct id_run {
+    int first = 0;
+    int last = 0;
+    bool is_range = false; ///< from a "TO"; otherwise a number that stands alone
+
+    std::size_t size() const noexcept { return static_cast<std::size_t>(std::int64_t{last} - first) + 1; }
+};
+
+/// Walks a list run by run, without counting its ranges out. `Words` offers
+/// `bool next(std::string_view&)` and can be copied to look ahead.
+template<class Words = word_cursor>
+class id_list_walker {
+public:
+    id_list_walker(Words words, const id_list_rule& rule) noexcept : words_(words), after_list_(words), rule_(rule) {}
+
+    /// Takes the next run; false at the end of the list.
+    bool next(id_run& run) noexcept
+    {
+        std::string_view word;
+        while (words_.next(word) && !word.empty()) {
+            const bool found = word == "TO" ? take_range(run) : take_number(word, run);
+            if (ended_)
+                return false;
+            after_list_ = words_;
+            if (found)
+                return true;
+        }
+        return false;
+    }
+
+    /// The words behind the list, from the one that ended it; valid once next() gave false.
+    const Words& after_list() const noexcept { return after_list_; }
+
+private:
+    bool take_number(std::string_view word, id_run& run) noexcept
+    {
+        const int number = to_int(word);
+        if (number < 1 || (rule_.needs_leading_digit && !starts_with_digit_1_to_9(word))) {
+            ended_ = true;
+            return false;
+        }
+        previous_ = number;
+        run = {number, number, false};
+        return true;
+    }
+
+    bool take_range(id_run& run) noexcept
+    {
+        std::string_view word;
+        const bool has_bound = words_.next(word) && !word.empty();
+        const int bound = has_bound ? to_int(word) : 0;
+        if (!has_bound || (bound < 1 && rule_.low_bound_ends_list)) {
+            ended_ = true;
+            return false;
+        }
+        const int previous = previous_;
+        if (rule_.bound_becomes_previous)
+            previous_ = bound < 1 ? 0 : bound;
+        if (bound <= previous)
+            return false;
+        run = {previous + 1, bound, true};
+        return true;
+    }
+
+    Words words_;
+    Words after_list_;
+    id_list_rule rule_;
+    int previous_ = 0;
+    bool ended_ = false;
+};
+
+/// Counts the numbers that the stored lists of one reading stand for, and the long texts that it gives
+/// out, and throws ReadLimitError before a list or all of them together take more than a reading holds.
+class id_budget {
+public:
+    /// A new list begins, at these physical lines.
+    void start_list(std::size_t first_line, std::size_t last_line) noexcept
+    {
+        first_line_ = first_line;
+        last_line_ = last_line;
+        in_list_ = 0;
+    }
+    /// Takes `count` numbers for the current list.
+    void take(std::size_t count)
+    {
+        if (count > most_numbers_per_list - in_list_)
+            throw ReadLimitError(first_line_, last_line_, most_numbers_per_list);
+        take_references(count);
+        in_list_ += count;
+    }
+    /// Takes `count` numbers that no list holds: load references of members and joints.
+    void take_references(std::size_t count)
+    {
+        if (count > most_numbers_per_reading - in_reading_)
+            throw ReadLimitError(first_line_, last_line_, most_numbers_per_reading);
+        in_reading_ += count;
+    }
+    /// One more record takes a text of `size` bytes.
+    void take_text(std::size_t size)
+    {
+        if (size <= longest_plain_text)
+            return;
+        if (size > most_text_per_reading - text_in_reading_)
+            throw ReadLimitError(first_line_, last_line_, most_text_per_reading);
+        text_in_reading_ += size;
+    }
+
+private:
+    std::size_t first_line_ = 0;
+    std::size_t last_line_ = 0;
+    std::size_t in_list_ = 0;
+    std::size_t in_reading_ = 0;
+    std::size_t text_in_reading_ = 0;
+};
+
+/// Appends the numbers of a list to `ids`, counted out; all of them or, past the budget, none.
+template<class Ids, class Words>
+void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
+{
+    id_list_walker<Words> counting = walker;
+    for (id_run run; counting.next(run);)
+        budget.take(run.size());
+    auto place = ids.end(); // for a list the end, for a set the likely place of the next number
+    for (id_run run; walker.next(run);)
+        for (std::int64_t number = run.first; number <= run.last; ++number)
+            place = std::next(ids.insert(place, static_cast<typename Ids::value_type>(number)));
+}
+
+} // namespace STAAD::detail
+
+#endif

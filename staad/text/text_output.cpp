@@ -1,0 +1,45 @@
+#include "staad/text/text_output.h"
+
+#include <utility>
+
+namespace STAAD::detail {
+
+std::string text_output::take()
+{
+    if (blocks_.empty())
+        return std::exchange(text_, {});
+    std::size_t size = text_.size();
+    for (const std::string& block : blocks_)
+        size += block.size();
+    std::string whole;
+    whole.reserve(size);
+    for (std::string& block : blocks_) {
+        whole += block;
+        std::string().swap(block); // what has been copied is given back at once
+    }
+    whole += text_;
+    blocks_.clear();
+    text_.clear();
+    return whole;
+}
+
+void text_output::end_block()
+{
+    if (file_ != nullptr) {
+        hand_over();
+        return;
+    }
+    blocks_.push_back(std::move(text_));
+    text_ = {};
+    text_.reserve(blocks_.back().capacity());
+}
+
+void text_output::hand_over() noexcept
+{
+    if (file_ == nullptr)
+        return;
+    file_->write(text_);
+    text_.clear();
+}
+
+} // namespace STAAD::detail

@@ -1,0 +1,67 @@
+/// The one way out for everything that is written: to a file, or kept as a text.
+#ifndef STAAD_TEXT_TEXT_OUTPUT_H
+#define STAAD_TEXT_TEXT_OUTPUT_H
+
+#include "staad/io/file_access.h"
+#include "staad/text/number_text.h"
+
+#include <concepts>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace STAAD::detail {
+
+/// Text under construction. Parts are texts, characters, whole numbers and `real`, `fixed` and
+/// `six_places` numbers.
+class text_output {
+public:
+    /// Keeps all of the text; see take().
+    text_output() = default;
+    /// Hands the text over to `file` a block at a time, the rest when it is destroyed.
+    explicit text_output(output_file& file) : file_(&file) {}
+    ~text_output() { hand_over(); }
+    text_output(const text_output&) = delete;
+    text_output& operator=(const text_output&) = delete;
+
+    template<class... Parts>
+    void put(const Parts&... parts)
+    {
+        (add(parts), ...);
+        if (text_.size() >= block_size)
+            end_block();
+    }
+
+    /// The parts as one line.
+    template<class... Parts>
+    void line(const Parts&... parts)
+    {
+        put(parts..., '\n');
+    }
+
+    /// The text kept.
+    std::string take();
+
+private:
+    static constexpr std::size_t block_size = std::size_t{1} << 20U;
+
+    void add(std::string_view part) { text_ += part; }
+    void add(char part) { text_ += part; }
+    template<class Number>
+    requires(!std::convertible_to<const Number&, std::string_view>) void add(const Number& part)
+    {
+        append(text_, part);
+    }
+
+    void end_block();
+    void hand_over() noexcept;
+
+    output_file* file_ = nullptr;
+    std::vector<std::string> blocks_; // kept so far: one string of them all would be moved as it grows
+    std::string text_;
+};
+
+} // namespace STAAD::detail
+
+#endif

@@ -1,0 +1,195 @@
+/// Where a project looks for the listing of its forces.
+
+#include "staad/host/force_file.h"
+#include "tests/support/force_listing.h"
+#include "tests/support/layered.h"
+#include "tests/support/project_folder.h"
+#include "tests/support/scripted_services.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace STAAD {
+namespace {
+
+using layered::forces;
+
+/// Columns 101 and 102, a beam 103 on top of them, a beam 104 between their feet, which is in no storey.
+const std::string deck = "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 6000 0 0; 3 0 3000 0; 4 6000 3000 0;\n"
+                         "MEMBER INCIDENCES\n101 1 3; 102 2 4; 103 3 4; 104 1 2;\nFINISH\n";
+
+/// Of member 103 the last load case is left out, as always.
+const std::string listing = listings::section(
+    {"101 1:DEAD @0", "@3000", "2:LIVE @0", "@1500", "@3000", "104 1:DEAD @0", "103 1:DEAD @0", "@6000", "2:LIVE @0"});
+/// A single case of member 102.
+const std::string other_listing = listings::section({"102 7:WIND @0", "@3000", "8:NEVER @0"});
+
+StaadProProject_layered built(const project_folder& folder, int with_forces)
+{
+    StaadProProject_layered project;
+    EXPECT_TRUE(project.BuidFromFile(folder.model(), with_forces));
+    EXPECT_EQ(layered::storeys(project), "0+3000: 101 102 103") << "with or without forces";
+    return project;
+}
+
+// ---- the file beside the model -------------------------------------------------------------------------
+
+TEST(ForceFileBeside, HasTheNameOfTheModelLessFourCharacters)
+{
+    struct row {
+        const char* model;
+        const char* listing;
+    };
+    const row rows[] = {
+        {"tower.std", "tower.txt"},
+        {"tower.STD", "tower.txt"},
+        {"C:\\jobs\\2026\\tower.std", "C:\\jobs\\2026\\tower.txt"},
+        {"../a.b/tower.std", "../a.b/tower.txt"},
+        {"tower.v2.std", "tower.v2.txt"},
+        {"\xc2\xa5\xd3\xee.std", "\xc2\xa5\xd3\xee.txt"},
+        {"tower.text", "tower..txt"}, // five with the dot: one of them stays
+        {"tower", "t.txt"},
+        {"a.b/c", "a.txt"},
+        {".std", ".txt"},
+        {"abcd", ".txt"},
+        {"abc", "abc.txt"}, // nothing to drop
+        {"a", "a.txt"},
+        {"", ".txt"},
+    };
+    for (const row& one : rows)
+        EXPECT_EQ(force_file_beside(one.model), one.listing) << one.model;
+}
+
+TEST(ProjectForces, AreReadFromTheFileBesideTheModel)
+{
+    for (const int with_forces : {1, 2, -1}) {
+        const project_folder folder(deck);
+        folder.write("deck.txt", listing);
+        folder.write("other.txt", other_listing);
+        scripted_services desktop;
+        desktop.chosen_file = folder.path("other.txt");
+        desktop.readable = false; // whether it can be read is seen by opening it
+        EXPECT_EQ(forces(built(folder, with_forces)), "101: 1 2; 103: 1") << with_forces;
+        EXPECT_TRUE(desktop.questions.empty());
+        EXPECT_TRUE(desktop.messages.empty());
+    }
+}
+
+TEST(ProjectForces, AreNotLookedForElsewhereIfTheFileBesideTheModelHasNone)
+{
+    const project_folder folder(deck);
+    folder.write("deck.txt", "");
+    folder.write("other.txt", other_listing);
+    scripted_services desktop;
+    desktop.chosen_file = folder.path("other.txt");
+    EXPECT_EQ(forces(built(folder, 1)), "");
+    EXPECT_TRUE(desktop.questions.empty());
+}
+
+TEST(ProjectForces, AreNotLookedForIfNobodyWantsThem)
+{
+    const project_folder folder(deck);
+    folder.write("other.txt", other_listing);
+    scripted_services desktop;
+    desktop.chosen_file = folder.path("other.txt");
+    EXPECT_EQ(forces(built(folder, 0)), "") << "no file beside the model";
+    EXPECT_TRUE(desktop.questions.empty());
+    folder.write("deck.txt", listing);
+    EXPECT_EQ(forces(built(folder, 0)), "") << "a file beside the model";
+    EXPECT_TRUE(desktop.questions.empty());
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+// ---- the dialog ------------------------------------------------------------------------------------------
+
+/// Internal-force output files, then all files.
+const std::u16string filter = u"\u5185\u529B\u8F93\u51FA\u6587\u4EF6(*.txt)|*.txt|"
+                              u"\u6240\u6709\u6587\u4EF6(*.*)|*.*||";
+
+TEST(ForceFileDialog, IsShownOnceAndItsFileIsRead)
+{
+    const project_folder folder(deck);
+    folder.write("other.txt", other_listing);
+    scripted_services desktop;
+    desktop.chosen_file = folder.path("other.txt");
+    EXPECT_EQ(forces(built(folder, 1)), "102: 7");
+    ASSERT_EQ(desktop.questions.size(), 1U);
+    EXPECT_TRUE(desktop.questions[0].filter == filter);
+    EXPECT_EQ(desktop.questions[0].flags, 0x1004U) << "the file must exist, no read-only box";
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST(ForceFileDialog, IsShownIfTheNameBesideTheModelIsAFolder)
+{
+    const project_folder folder(deck);
+    ASSERT_TRUE(std::filesystem::create_directory(folder.path("deck.txt")));
+    scripted_services desktop;
+    EXPECT_EQ(forces(built(folder, 1)), "");
+    EXPECT_EQ(desktop.questions.size(), 1U);
+}
+
+TEST(ForceFileDialog, MayBeCancelled)
+{
+    const project_folder folder(deck);
+    scripted_services desktop;
+    EXPECT_EQ(forces(built(folder, 1)), "");
+    EXPECT_EQ(desktop.questions.size(), 1U);
+    EXPECT_TRUE(desktop.messages.empty()) << "no word about it";
+}
+
+TEST(ForceFileDialog, MayGiveAFileThatIsNotThere)
+{
+    const project_folder folder(deck);
+    scripted_services desktop;
+    desktop.chosen_file = folder.path("gone.txt");
+    EXPECT_EQ(forces(built(folder, 1)), "");
+    EXPECT_EQ(desktop.questions.size(), 1U) << "nobody asks again";
+    EXPECT_TRUE(desktop.messages.empty());
+}
+
+TEST(ForceFileDialog, GivesAnyPathAsItIs)
+{
+    scripted_services desktop;
+    desktop.chosen_file = "D:\\\xc4\xda\xc1\xa6 1.out";
+    EXPECT_EQ(find_force_file("no such folder/tower.std"), desktop.chosen_file);
+    desktop.chosen_file.clear();
+    EXPECT_EQ(find_force_file("no such folder/tower.std"), "");
+    EXPECT_EQ(desktop.questions.size(), 2U);
+}
+
+TEST(ForceFileDialog, IsNotShownForAModelThatCannotBeRead)
+{
+    scripted_services desktop;
+    StaadProProject_layered project;
+    EXPECT_FALSE(project.BuidFromFile("no such folder/tower.std", 1));
+    const project_folder folder("UNIT METER KN\n");
+    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
+    EXPECT_TRUE(desktop.questions.empty());
+}
+
+TEST(ForceFileDialog, IsShownForAModelWithoutLevels)
+{
+    const project_folder folder(
+        "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 3000 2000 0;\nMEMBER INCIDENCES\n1 1 2;\nFINISH\n");
+    scripted_services desktop;
+    StaadProProject_layered project;
+    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
+    EXPECT_EQ(desktop.questions.size(), 1U);
+}
+
+TEST(ForceFileDialog, ComesBeforeTheWordThatThereAreNoMembers)
+{
+    const project_folder folder("UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n");
+    scripted_services desktop;
+    StaadProProject_layered project;
+    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
+    EXPECT_EQ(desktop.questions.size(), 1U);
+    EXPECT_EQ(desktop.messages.size(), 1U);
+    EXPECT_FALSE(project.BuidFromFile(folder.model(), 0));
+    EXPECT_EQ(desktop.messages.size(), 1U) << "nothing to say without forces";
+}
+
+} // namespace
+} // namespace STAAD

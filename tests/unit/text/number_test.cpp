@@ -1,0 +1,241 @@
+/// Text to integers and to reals, and reals to integers.
+
+#include "staad/text/number.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <bit>
+#include <climits>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <string_view>
+
+namespace STAAD::detail {
+namespace {
+
+using namespace std::string_literals;
+
+constexpr double largest = std::numeric_limits<double>::max();
+constexpr double smallest = std::numeric_limits<double>::denorm_min();
+
+std::uint64_t bits(double value)
+{
+    return std::bit_cast<std::uint64_t>(value);
+}
+
+struct int_row {
+    const char* why;
+    std::string text;
+    int want;
+};
+
+const int_row ints[] = {
+    {"a number", "12", 12},
+    {"nothing", "", 0},
+    {"no digits", "TO", 0},
+    {"white space only", "  ", 0},
+    {"every kind of leading white space", " \t\n\v\f\r7", 7},
+    {"a plus sign", "+5", 5},
+    {"a minus sign", "-5", -5},
+    {"a sign after white space", "  -5", -5},
+    {"a blank after the sign ends it", "- 5", 0},
+    {"two signs", "+-5", 0},
+    {"two minus signs", "--5", 0},
+    {"a sign alone", "-", 0},
+    {"leading zeros", "007", 7},
+    {"more zeros than any number has digits", std::string(400, '0') + "7", 7},
+    {"minus zero", "-0", 0},
+    {"the point ends it", "3.7", 3},
+    {"a leading point", ".5", 0},
+    {"no exponents", "1e3", 1},
+    {"no hexadecimal", "0x10", 0},
+    {"letters behind are ignored", "12abc", 12},
+    {"a separator behind is ignored", "12;13", 12},
+    {"no digit groups", "1,000", 1},
+    {"a zero byte ends it", "12\0"s + "34", 12},
+    {"a leading zero byte is no white space", "\0"s + "12", 0},
+    {"other control characters are no white space", "\x08" + "5"s, 0},
+    {"no white space in other code pages", "\xA0" + "5"s, 0},
+    {"largest number", "2147483647", INT_MAX},
+    {"one more saturates", "2147483648", INT_MAX},
+    {"smallest number", "-2147483648", INT_MIN},
+    {"one less saturates", "-2147483649", INT_MIN},
+    {"past 32 bits without a sign bit", "4294967297", INT_MAX},
+    {"past 64 bits", "99999999999999999999", INT_MAX},
+    {"past 64 bits below", "-99999999999999999999", INT_MIN},
+    {"400 digits", std::string(400, '9'), INT_MAX},
+};
+
+TEST(ToInt, ReadsLeadingDigits)
+{
+    for (const int_row& c : ints)
+        EXPECT_EQ(to_int(c.text), c.want) << c.why;
+}
+
+TEST(ToInt, ReadsNothingPastTheEndOfTheText)
+{
+    const std::string_view longer = "12345";
+    EXPECT_EQ(to_int(longer.substr(0, 2)), 12);
+    EXPECT_EQ(to_int(longer.substr(2, 0)), 0);
+}
+
+struct real_row {
+    const char* why;
+    std::string text;
+    double want;
+};
+
+const real_row reals[] = {
+    {"an integer", "12", 12.0},
+    {"a fraction", "0.1999", 0.1999},
+    {"nothing", "", 0.0},
+    {"no digits", "KN", 0.0},
+    {"white space only", " \t", 0.0},
+    {"every kind of leading white space", " \t\n\v\f\r7.5", 7.5},
+    {"a plus sign", "+5", 5.0},
+    {"a minus sign", "-2.5", -2.5},
+    {"a blank after the sign ends it", "- 5", 0.0},
+    {"two signs", "+-5", 0.0},
+    {"minus and plus", "-+5", 0.0},
+    {"a sign alone gives no sign", "-", 0.0},
+    {"a sign and a point alone", "-.", 0.0},
+    {"minus zero keeps its sign", "-0", -0.0},
+    {"so does a longer one", "-0.000", -0.0},
+    {"no digits behind the point", "1.", 1.0},
+    {"no digits before the point", ".5", 0.5},
+    {"with a sign", "-.5", -0.5},
+    {"with a plus sign", "+.5", 0.5},
+    {"a point alone", ".", 0.0},
+    {"a second point ends it", "1.2.3", 1.2},
+    {"leading zeros", "0001.50", 1.5},
+    {"no decimal comma", "1,5", 1.0},
+    {"letters behind are ignored", "2.5kN", 2.5},
+    {"a zero byte ends it", "1.5\0"s + "7", 1.5},
+    {"a zero byte behind the point", "1.\0"s + "7", 1.0},
+    {"no white space in other code pages", "\xA0" + "5"s, 0.0},
+
+    {"an exponent", "1.5E3", 1500.0},
+    {"a small e", "1.5e3", 1500.0},
+    {"a negative one", "25e-1", 2.5},
+    {"with a plus", "1e+2", 100.0},
+    {"right behind the point", "1.e2", 100.0},
+    {"with nothing before the point", ".5e1", 5.0},
+    {"leading zeros in it", "1e0002", 100.0},
+    {"an e without digits", "1e", 1.0},
+    {"an e with a sign only", "1e+", 1.0},
+    {"an e with a minus only", "1.5e-", 1.5},
+    {"an e with two signs", "1e+-2", 1.0},
+    {"a blank before its digits", "1e 5", 1.0},
+    {"letters behind it", "1e5x", 100000.0},
+    {"its own point ends it", "1e2.5", 100.0},
+    {"a second one ends it", "1e2e3", 100.0},
+    {"no digits before the e", "e5", 0.0},
+    {"only a point before the e", ".e5", 0.0},
+    {"no D exponents", "1D5", 1.0},
+    {"no small d exponents", "1d5", 1.0},
+
+    {"no hexadecimal", "0x10", 0.0},
+    {"no signed hexadecimal", "-0x1p4", -0.0},
+    {"no infinity", "inf", 0.0},
+    {"no negative infinity", "-inf", 0.0},
+    {"no spelt-out infinity", "INFINITY", 0.0},
+    {"no NaN", "nan", 0.0},
+    {"no NaN with a payload", "-nan(1)", 0.0},
+
+    {"largest double", "1.7976931348623157e308", largest},
+    {"overflow clips", "1e309", largest},
+    {"overflow below clips", "-1e309", -largest},
+    {"just past the last double that rounds down", "1.7976931348623159e308", largest},
+    {"a huge exponent", "1e99999999999999999999", largest},
+    {"a huge exponent and a minus", "-3e99999999999999999999", -largest},
+    {"a huge exponent and more text", "2e999999 4", largest},
+    {"an exponent of 2 to the power of 63", "1e9223372036854775808", largest},
+    {"an exponent of 2 to the power of 64 less 1", "1e18446744073709551615", largest},
+    {"overflow without an exponent", "1" + std::string(400, '0'), largest},
+    {"overflow of digits behind a sign", "-" + std::string(400, '9'), -largest},
+
+    {"smallest normal double", "2.2250738585072014e-308", std::numeric_limits<double>::min()},
+    {"a number below it keeps what digits it can", "2.2250738585072011e-308", 0x0.fffffffffffffp-1022},
+    {"smallest double", "5e-324", smallest},
+    {"rounds up to it", "3e-324", smallest},
+    {"rounds to it from above", "-7e-324", -smallest},
+    {"underflow gives 0", "2e-324", 0.0},
+    {"underflow keeps the sign", "-2e-324", -0.0},
+    {"a far smaller number", "1e-400", 0.0},
+    {"a huge negative exponent", "1e-99999999999999999999", 0.0},
+    {"a huge negative exponent and a minus", "-1e-99999999999999999999", -0.0},
+    {"underflow without an exponent", "0." + std::string(400, '0') + "1", 0.0},
+    {"an exponent below all integers of 64 bits", "1e-9223372036854775809", 0.0},
+    {"zero stays zero whatever the exponent", "0e99999999999999999999", 0.0},
+    {"minus zero, too", "-0.00e999", -0.0},
+    {"and with digits after the point", "0.000e400", 0.0},
+
+    {"a second point ends it, and what is behind has no exponent for it", "1" + std::string(400, '0') + ".5.3e-900",
+     DBL_MAX},
+    {"the same with a point in front", "1" + std::string(400, '0') + ".5e.3e-900", DBL_MAX},
+
+    {"digits and exponent cancel", "1" + std::string(399, '0') + "e-399", 1.0},
+    {"the other way round", "0." + std::string(399, '0') + "1e400", 1.0},
+    {"zeros before the first digit cost nothing", std::string(400, '0') + "1.25", 1.25},
+    {"zeros behind the last digit cost nothing", "1.25" + std::string(400, '0'), 1.25},
+    {"400 digits below one", "0." + std::string(400, '9'), 1.0},
+    {"a third in 400 digits", "0." + std::string(400, '3'), 1.0 / 3.0},
+    {"half way rounds to even", "9007199254740993", 9007199254740992.0},
+    {"half way and nothing more", "9007199254740993." + std::string(383, '0'), 9007199254740992.0},
+    {"digit 400 breaks the tie", "9007199254740993." + std::string(383, '0') + "1", 9007199254740994.0},
+    {"half way between other neighbours", "9007199254740995", 9007199254740996.0},
+};
+
+TEST(ToReal, ReadsTheLeadingNumberToTheLastBit)
+{
+    for (const real_row& c : reals)
+        EXPECT_EQ(bits(to_real(c.text)), bits(c.want)) << c.why << ": " << to_real(c.text) << ", not " << c.want;
+}
+
+TEST(ToReal, ReadsNothingPastTheEndOfTheText)
+{
+    const std::string_view longer = "1.25e3";
+    EXPECT_EQ(to_real(longer.substr(0, 3)), 1.2);
+    EXPECT_EQ(to_real(longer.substr(0, 5)), 1.25) << "an e without its digits";
+    EXPECT_EQ(to_real(longer.substr(0, 0)), 0.0);
+}
+
+struct truncate_row {
+    const char* why;
+    double value;
+    int want;
+};
+
+const truncate_row truncations[] = {
+    {"a whole number", 200.0, 200},
+    {"toward zero, not to the nearest", 199.9, 199},
+    {"toward zero from below", -199.9, -199},
+    {"below one", 0.999, 0},
+    {"above minus one", -0.999, 0},
+    {"minus zero", -0.0, 0},
+    {"smallest double", smallest, 0},
+    {"largest integer", 2147483647.0, INT_MAX},
+    {"its fraction is cut", 2147483647.9, INT_MAX},
+    {"one more saturates", 2147483648.0, INT_MAX},
+    {"smallest integer", -2147483648.0, INT_MIN},
+    {"its fraction is cut, too", -2147483648.9, INT_MIN},
+    {"one less saturates", -2147483649.0, INT_MIN},
+    {"far above", 1e300, INT_MAX},
+    {"far below", -1e300, INT_MIN},
+    {"infinity", std::numeric_limits<double>::infinity(), INT_MAX},
+    {"minus infinity", -std::numeric_limits<double>::infinity(), INT_MIN},
+    {"not a number", std::numeric_limits<double>::quiet_NaN(), 0},
+    {"not a number with a sign", -std::numeric_limits<double>::quiet_NaN(), 0},
+};
+
+TEST(TruncateToInt, GoesTowardZeroAndSaturates)
+{
+    for (const truncate_row& c : truncations)
+        EXPECT_EQ(truncate_to_int(c.value), c.want) << c.why;
+}
+
+} // namespace
+} // namespace STAAD::detail

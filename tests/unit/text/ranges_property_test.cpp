@@ -1,0 +1,364 @@
+/// Random lists of ranges laid out on lines, against the rule taken step by step, and read back.
+
+#include "staad/text/ranges.h"
+
+#include "tests/support/random_text.h"
+
+#include "staad/model/sd_reader.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <climits>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace STAAD {
+namespace {
+
+using decks::chance;
+using range = std::pair<int, int>;
+using ranges = std::vector<range>;
+
+constexpr int cases = 20000;
+
+std::string piece_of(const range& r)
+{
+    if (r.first == r.second)
+        return std::to_string(r.first);
+    return std::to_string(r.first) + " TO " + std::to_string(r.second);
+}
+
+/// A head before the ranges, step by step.
+std::string laid_out_behind_head(const std::string& head, const ranges& list, std::size_t width)
+{
+    std::string result;
+    std::string current = head;
+    for (std::size_t k = 0; k < list.size(); ++k) {
+        const std::string piece = piece_of(list[k]);
+        const bool is_last = k == list.size() - 1;
+        const std::size_t needed = current.size() + piece.size() + (is_last ? 1 : 3);
+        if (needed > width) {
+            result += current + " -" + "\n";
+            current = piece;
+        } else {
+            if (!current.empty())
+                current += " ";
+            current += piece;
+        }
+    }
+    return result + current;
+}
+
+/// A tail behind the ranges, step by step.
+std::string laid_out_before_tail(const ranges& list, const std::string& tail, std::size_t width)
+{
+    if (list.empty())
+        return "";
+    std::string result;
+    std::string current;
+    for (std::size_t k = 0; k < list.size() - 1; ++k) {
+        const std::string piece = piece_of(list[k]);
+        const std::size_t needed = current.size() + 3 + piece.size();
+        if (needed > width) {
+            result += current + " -" + "\n";
+            current = piece;
+        } else {
+            if (!current.empty())
+                current += " ";
+            current += piece;
+        }
+    }
+    const std::string piece = piece_of(list.back());
+    const std::size_t needed = current.size() + 2 + piece.size() + tail.size();
+    if (needed > width)
+        return result + current + " -" + "\n" + piece + " " + tail;
+    if (current.empty())
+        return result + piece + " " + tail;
+    return result + current + " " + piece + " " + tail;
+}
+
+/// A first line, the ranges and a tail that brings its own blank, written line by line.
+std::string written_line_by_line(const std::string& first_line, const ranges& list, const std::string& tail,
+                                 std::size_t width)
+{
+    std::vector<std::string> lines;
+    std::string line = first_line;
+    for (std::size_t k = 0; k + 1 < list.size(); ++k) {
+        const std::string run = piece_of(list[k]);
+        if (run.size() + 3 + line.size() > width) {
+            lines.push_back(line + " -");
+            line = run;
+        } else if (line.empty()) {
+            line = run;
+        } else {
+            line += " " + run;
+        }
+    }
+    const std::string run = piece_of(list.back());
+    if (run.size() + 1 + line.size() + tail.size() > width) {
+        lines.push_back(line + " -");
+        lines.push_back(run + tail);
+    } else if (line.empty()) {
+        lines.push_back(run + tail);
+    } else {
+        lines.push_back(line + " " + run + tail);
+    }
+    std::string text = lines.front();
+    for (std::size_t i = 1; i < lines.size(); ++i)
+        text += "\n" + lines[i];
+    return text;
+}
+
+/// Any integer: mostly of few digits, often negative, now and then one of the limits.
+int random_integer(chance& random)
+{
+    if (random.one_in(20))
+        return random.any_of({INT_MAX, INT_MIN, INT_MAX - 1, INT_MIN + 1, 0, -1});
+    std::int64_t bound = 10;
+    for (int digits = random.between(1, 10); digits > 1; --digits)
+        bound *= 10;
+    const std::int64_t upper = random.between(0, INT_MAX - 1);
+    const std::int64_t value = (upper * 0x10000 + random.between(0, 0xffff)) % bound;
+    const std::int64_t within = std::min<std::int64_t>(value, INT_MAX);
+    return static_cast<int>(random.one_in(4) ? -within : within);
+}
+
+range random_range(chance& random)
+{
+    const int first = random_integer(random);
+    if (random.one_in(2))
+        return {first, first};
+    return std::minmax({first, random_integer(random)});
+}
+
+ranges random_ranges(chance& random)
+{
+    ranges list;
+    const int count = random.one_in(5) ? 1 : random.between(1, 40);
+    for (int i = 0; i < count; ++i)
+        list.push_back(random_range(random));
+    return list;
+}
+
+/// Nothing, a few words, or a text about as long as a line.
+std::string random_words(chance& random)
+{
+    const int length = random.any_of({0, random.between(1, 30), random.between(30, 74), random.between(74, 100)});
+    std::string text;
+    for (int i = 0; i < length; ++i)
+        text += i > 0 && i + 1 < length && random.one_in(7) ? ' ' : static_cast<char>('A' + random.between(0, 25));
+    return text;
+}
+
+std::size_t random_width(chance& random)
+{
+    return random.one_in(4) ? static_cast<std::size_t>(random.between(0, 132)) : 79;
+}
+
+std::vector<std::string> lines_of(std::string_view text)
+{
+    std::vector<std::string> lines(1);
+    for (const char c : text) {
+        if (c == '\n')
+            lines.emplace_back();
+        else
+            lines.back() += c;
+    }
+    return lines;
+}
+
+/// A list to be laid out, with everything it needs.
+struct layout_case {
+    ranges list;
+    std::string head;
+    std::string tail;
+    std::size_t width;
+
+    explicit layout_case(chance& random)
+        : list(random_ranges(random)), head(random_words(random)), tail(random_words(random)),
+          width(random_width(random))
+    {
+    }
+};
+
+TEST(RangesProperty, HeadAndRangesFollowTheSteps)
+{
+    chance random(20261121);
+    std::size_t full_lines = 0;
+    for (int i = 0; i < cases; ++i) {
+        const layout_case c(random);
+        const std::string text = format_id_ranges(c.head, c.list, c.width);
+        ASSERT_EQ(text, laid_out_behind_head(c.head, c.list, c.width)) << "case " << i << ", width " << c.width;
+        for (const std::string& line : lines_of(text))
+            full_lines += line.size() == c.width ? 1U : 0U;
+    }
+    EXPECT_GT(full_lines, 1000U); // the lists do come up to the edge
+}
+
+TEST(RangesProperty, RangesAndTailFollowTheSteps)
+{
+    chance random(20261122);
+    std::size_t full_lines = 0;
+    for (int i = 0; i < cases; ++i) {
+        const layout_case c(random);
+        const std::string text = format_id_ranges_tail(c.list, c.tail, c.width);
+        ASSERT_EQ(text, laid_out_before_tail(c.list, c.tail, c.width)) << "case " << i << ", width " << c.width;
+        for (const std::string& line : lines_of(text))
+            full_lines += line.size() == c.width ? 1U : 0U;
+    }
+    EXPECT_GT(full_lines, 1000U);
+}
+
+TEST(RangesProperty, WrappedRunListFollowsTheSteps)
+{
+    chance random(20261123);
+    for (int i = 0; i < cases; ++i) {
+        const layout_case c(random);
+        ASSERT_EQ(detail::wrapped_run_list(c.head, c.list, c.tail, c.width),
+                  written_line_by_line(c.head, c.list, c.tail, c.width))
+            << "case " << i << ", width " << c.width;
+    }
+}
+
+TEST(RangesProperty, TheThreeLayoutsAreOneRule)
+{
+    chance random(20261124);
+    for (int i = 0; i < cases; ++i) {
+        const layout_case c(random);
+        ASSERT_EQ(format_id_ranges(c.head, c.list, c.width), written_line_by_line(c.head, c.list, "", c.width))
+            << "case " << i << ", width " << c.width;
+        ASSERT_EQ(format_id_ranges_tail(c.list, c.tail, c.width),
+                  written_line_by_line("", c.list, " " + c.tail, c.width))
+            << "case " << i << ", width " << c.width;
+    }
+}
+
+TEST(RangesProperty, OnlyWhatCannotBeBrokenIsLongerThanALine)
+{
+    chance random(20261125);
+    std::size_t long_lines = 0;
+    for (int i = 0; i < cases; ++i) {
+        const layout_case c(random);
+        std::vector<std::string> unbreakable = {c.head + " -", piece_of(c.list.back()) + c.tail};
+        for (const range& r : c.list)
+            unbreakable.push_back(piece_of(r) + " -");
+        const auto lines = lines_of(detail::wrapped_run_list(c.head, c.list, c.tail, c.width));
+        for (std::size_t k = 0; k < lines.size(); ++k) {
+            const bool goes_on = k + 1 < lines.size();
+            ASSERT_TRUE(!goes_on || lines[k].ends_with(" -")) << "case " << i << ": " << lines[k];
+            if (lines[k].size() <= c.width)
+                continue;
+            ++long_lines;
+            ASSERT_NE(std::find(unbreakable.begin(), unbreakable.end(), lines[k]), unbreakable.end())
+                << "case " << i << ", width " << c.width << ": " << lines[k];
+        }
+    }
+    EXPECT_GT(long_lines, 1000U);
+}
+
+/// Numbers of which some follow each other, some repeat, in random order; from 1 up, or up to the limit.
+std::vector<int> random_ids(chance& random)
+{
+    const int largest = random.any_of({60, 5000, 3000000, INT_MAX});
+    std::vector<int> ids;
+    const int runs = random.one_in(5) ? 1 : random.between(1, 40);
+    for (int i = 0; i < runs; ++i) {
+        const int first = largest - random.between(0, std::min(largest - 1, random.any_of({40, 4000, 2000000000})));
+        const int length = random.one_in(2) ? 1 : random.between(1, 12);
+        for (int k = 0; k < length && first <= largest - k; ++k)
+            ids.push_back(first + k);
+    }
+    random.shuffle(ids);
+    return ids;
+}
+
+/// The same, or with everything mirrored to -2 and below, down to the limit.
+std::vector<int> random_signed_ids(chance& random)
+{
+    std::vector<int> ids = random_ids(random);
+    if (random.one_in(3)) {
+        for (int& id : ids)
+            id = -1 - id;
+    }
+    return ids;
+}
+
+/// Ranges of numbers, step by step.
+ranges gathered(const std::vector<int>& ids)
+{
+    ranges result;
+    if (ids.empty())
+        return result;
+    std::vector<std::int64_t> copy(ids.begin(), ids.end());
+    std::sort(copy.begin(), copy.end());
+    std::pair<std::int64_t, std::int64_t> current{copy[0], copy[0]};
+    for (std::size_t i = 1; i < copy.size(); ++i) {
+        if (copy[i] == current.second + 1) {
+            current.second = copy[i];
+        } else {
+            result.emplace_back(current);
+            current = {copy[i], copy[i]};
+        }
+    }
+    result.emplace_back(current);
+    return result;
+}
+
+TEST(RangesProperty, NumbersAreGatheredByTheSteps)
+{
+    chance random(20261126);
+    for (int i = 0; i < cases; ++i) {
+        const std::vector<int> ids = random_signed_ids(random);
+        ASSERT_EQ(make_id_ranges(ids), gathered(ids)) << "case " << i;
+    }
+}
+
+TEST(RangesProperty, ListsOfNumbersAreLaidOutAsTheirRanges)
+{
+    chance random(20261127);
+    for (int i = 0; i < cases; ++i) {
+        const std::vector<int> ids = random_signed_ids(random);
+        const std::string head = random_words(random);
+        const std::string tail = random_words(random);
+        detail::text_output out;
+        detail::put_run_list(out, head, ids, tail);
+        ASSERT_EQ(out.take(), written_line_by_line(head, gathered(ids), tail, 79)) << "case " << i;
+        const std::vector<int> positive = random_ids(random);
+        const std::vector<unsigned> without_sign(positive.begin(), positive.end());
+        detail::put_run_list(out, head, without_sign, tail);
+        ASSERT_EQ(out.take(), written_line_by_line(head, gathered(positive), tail, 79)) << "case " << i;
+    }
+}
+
+/// A deck with one support line and one group, laid out on lines.
+std::string deck_of(const std::vector<int>& ids)
+{
+    return "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0;\nMEMBER INCIDENCES\n1 1 2;\n"
+           "START GROUP DEFINITION\nMEMBER\n" +
+           format_id_ranges("_G", make_id_ranges(ids), 79) + "\nEND GROUP DEFINITION\nSUPPORTS\n" +
+           format_id_ranges_tail(make_id_ranges(ids), "FIXED BUT MZ", 79) + "\nFINISH\n";
+}
+
+TEST(RangesProperty, ReadBackGivesTheNumbers)
+{
+    chance random(20261128);
+    for (int i = 0; i < cases / 4; ++i) {
+        std::vector<int> ids = random_ids(random);
+        SdReader model;
+        const std::string deck = deck_of(ids);
+        ASSERT_TRUE(model.ReadSDDataFromText(deck));
+        std::sort(ids.begin(), ids.end());
+        ASSERT_EQ(model.groups.size(), 1U) << deck;
+        ASSERT_EQ(model.groups[0].ids, ids) << deck;
+        ASSERT_EQ(model.supports.size(), 1U) << deck;
+        ASSERT_EQ(model.supports["FIXED BUT MZ"], std::vector<unsigned>(ids.begin(), ids.end())) << deck;
+    }
+}
+
+} // namespace
+} // namespace STAAD

@@ -1,0 +1,46 @@
+/// From names on the command line to a model and its forces.
+#ifndef TOOLS_STAADKIT_CLI_OPEN_MODEL_H
+#define TOOLS_STAADKIT_CLI_OPEN_MODEL_H
+
+#include "staad/model/sd_reader.h"
+#include "staad/report/read_report.h"
+
+#include <string>
+
+namespace tool {
+
+/// A model, and what its reading had to tell.
+struct opened_model {
+    std::string name; ///< for messages: the path as given, "<stdin>" for "-"
+    bool was_read = false;
+    STAAD::SdReader model;
+    STAAD::ReadReport report; ///< holds an error if no model was read
+};
+
+/// Reads the file at `path`, or standard input for "-". Throws nothing: a file that asks for more
+/// memory than there is, or than a reading takes, holds no model.
+opened_model open_model(const std::string& path);
+
+/// What the reading of a listing of forces had to tell. The forces stand in the model.
+struct opened_forces {
+    std::string name; ///< as that of a model
+    bool was_read = false;
+    STAAD::ReadReport report; ///< holds an error if no forces were read
+};
+
+/// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model. Says
+/// on a terminal that a long one is being read.
+opened_forces open_forces(const std::string& path, STAAD::SdReader& model);
+
+/// Takes the model away and notes the error: what is to be told of it needs more memory than there is.
+void give_up_for_memory(opened_model& opened);
+
+/// The name of an input for messages: "<stdin>" for "-".
+std::string input_name(const std::string& path);
+
+/// Text of the first error of the report; empty if there is none.
+std::string first_error(const STAAD::ReadReport& report);
+
+} // namespace tool
+
+#endif

@@ -1,0 +1,236 @@
+// The report of "forces" for people.
+
+#include "cli/text_encoding.h"
+#include "forces/force_columns.h"
+#include "forces/force_extremes.h"
+#include "forces/force_lists.h"
+#include "forces/forces_report.h"
+#include "info/load_words.h"
+#include "output/table.h"
+#include "output/words.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tool {
+namespace {
+
+/// Longer titles are cut: --json has the findings, the model has the titles.
+constexpr std::size_t most_shown = 120;
+constexpr std::size_t most_sections = 10;
+
+std::string shown(std::string_view text)
+{
+    return clipped(printable_text(text), most_shown);
+}
+
+/// Decimals as the column has them; what is too large for a column of digits with a power of ten.
+std::string table_number(double number, const force_column& column)
+{
+    constexpr double too_large = 1e9;
+    return std::abs(number) < too_large ? fixed_number(number, column.decimals) : short_number(number);
+}
+
+const STAAD::LoadCase* find_case(const STAAD::SdReader& model, int number)
+{
+    const auto found = model.load_cases.find(number);
+    return found != model.load_cases.end() ? &found->second : nullptr;
+}
+
+/// "dead", or as the file has it; empty if it has none.
+std::string type_in_words(const STAAD::LoadCase& load_case)
+{
+    const STAAD::LoadCase::LoadType type = load_case.load_type();
+    return type == STAAD::LoadCase::Unknown ? shown(load_case.type_text) : load_type_word(type);
+}
+
+constexpr const char* not_in_model = "not in the model";
+
+/// ": dead, DEAD" behind the number of a load case.
+std::string case_in_words(const STAAD::LoadCase* load_case)
+{
+    if (load_case == nullptr)
+        return std::string(" (") + not_in_model + ')';
+    const std::string type = type_in_words(*load_case);
+    const std::string title = shown(load_case->title);
+    const char* const between = type.empty() || title.empty() ? "" : ", ";
+    return type.empty() && title.empty() ? std::string() : ": " + type + between + title;
+}
+
+void put_sections(std_output& out, const force_summary& summary)
+{
+    out.put("sections: " + std::to_string(summary.section_count) + '\n');
+    table rows;
+    std::size_t told = 0;
+    for (const STAAD::Finding& section : summary.sections) {
+        if (rows.size() == most_sections || section.count != 1)
+            break;
+        rows.add_row({"line " + std::to_string(section.first_line), shown(section.text)});
+        ++told;
+    }
+    rows.put(out);
+    if (told < summary.section_count)
+        out.put("  and " + std::to_string(summary.section_count - told) + " more\n");
+}
+
+std::string members_in_words(const force_summary& summary)
+{
+    std::string text = "members: " + std::to_string(summary.members) + " of the " +
+                       std::to_string(summary.members_in_model) + " in the model";
+    if (summary.unknown_member_lines != 0)
+        text += "; " + std::to_string(summary.unknown_member_lines) + " in the listing only, skipped";
+    return text + '\n';
+}
+
+void put_cases(std_output& out, const force_summary& summary)
+{
+    out.put("load cases: " + std::to_string(summary.cases.size()) + '\n');
+    table rows({align::right});
+    for (const force_case_summary& each : summary.cases) {
+        const bool is_known = each.of_model.has_value();
+        const std::string type = is_known ? type_in_words(*each.of_model) : "-";
+        const std::string title = is_known ? shown(each.of_model->title) : not_in_model;
+        rows.add_row({std::to_string(each.number), type.empty() ? "-" : type, title.empty() ? "-" : title,
+                      count_of(each.members, "member")});
+    }
+    rows.put(out);
+}
+
+void put_shown(std_output& out, const STAAD::SdReader& model)
+{
+    const force_summary shown = summarise_forces(model, {});
+    out.put("shown: " + count_of(shown.members, "member") + ", " + count_of(shown.cases.size(), "load case") + ", " +
+            count_of(shown.stations, "station") + '\n');
+}
+
+void put_summary(std_output& out, const forces_report& report)
+{
+    out.put(printable_name(report.listing.name) + ", forces of " + printable_name(report.model.name) + '\n');
+    put_sections(out, report.summary);
+    out.put(members_in_words(report.summary));
+    put_cases(out, report.summary);
+    out.put("stations: " + std::to_string(report.summary.stations) + '\n');
+    if (report.is_selection)
+        put_shown(out, report.model.model);
+    out.put("units: mm from the member's start, kN, kN*mm\n"
+            "columns: forces F1 F2 F3, moments M1 M2 M3 in the order of the listing; axes are not turned\n");
+}
+
+/// Names over units over numbers, all to the right.
+class station_table {
+public:
+    station_table() : rows_(std::vector<align>(std::size(force_columns), align::right))
+    {
+        std::vector<std::string> names;
+        std::vector<std::string> units;
+        for (const force_column& column : force_columns) {
+            names.emplace_back(column.name);
+            units.emplace_back(column.unit);
+        }
+        rows_.add_row(std::move(names));
+        rows_.add_row(std::move(units));
+    }
+
+    void add(const STAAD::ForcePoint& point)
+    {
+        std::vector<std::string> cells;
+        for (const force_column& column : force_columns)
+            cells.push_back(table_number(point.*column.value, column));
+        rows_.add_row(std::move(cells));
+    }
+
+    void put(std_output& out) const { rows_.put(out); }
+
+private:
+    table rows_;
+};
+
+void put_record(std_output& out, const STAAD::SdReader& model, int member, int load_case,
+                const STAAD::BeamLoadCaseRecord& record)
+{
+    out.put("\nMember " + std::to_string(member) + ", load case " + std::to_string(load_case) +
+            case_in_words(find_case(model, load_case)) + '\n');
+    station_table rows;
+    for (const STAAD::ForcePoint& point : record.points)
+        rows.add(point);
+    rows.put(out);
+}
+
+void put_stations(std_output& out, const STAAD::SdReader& model)
+{
+    for (const auto& [position, forces] : model.beam_forces) {
+        const int member = member_number(model, forces);
+        if (forces.records.empty())
+            out.put("\nMember " + std::to_string(member) + ": no load case\n");
+        for (const auto& [load_case, record] : forces.records)
+            put_record(out, model, member, load_case, record);
+    }
+}
+
+void put_extremes(std_output& out, const STAAD::SdReader& model)
+{
+    const std::vector<force_extreme> extremes = find_extremes(model);
+    out.put(extremes.empty() ? "\nExtremes: none\n" : "\nExtremes\n");
+    if (extremes.empty())
+        return;
+    const align left = align::left;
+    const align right = align::right;
+    table rows({left, left, right, left, right, right, right});
+    rows.add_row({"", "", "value", "unit", "member", "load case", "position, mm"});
+    for (const force_extreme& each : extremes)
+        rows.add_row({each.component->name, each.word(), table_number(each.value, *each.component),
+                      each.component->unit, std::to_string(each.member), std::to_string(each.load_case),
+                      table_number(each.position, position_column)});
+    rows.put(out);
+}
+
+std::string title_of(const STAAD::SdReader& model, int load_case)
+{
+    const STAAD::LoadCase* const found = find_case(model, load_case);
+    return found == nullptr || found->title.empty() ? std::string() : ", " + shown(found->title);
+}
+
+void put_list(std_output& out, const STAAD::SdReader& model, const member_list& list)
+{
+    const std::string member = "\nMember " + std::to_string(list.member);
+    if (list.stations.empty()) {
+        out.put(member + ": no list, for want of a dead, live, wind or seismic load case with two stations\n");
+        return;
+    }
+    for (std::size_t i = 0; i < std::size(list_kinds); ++i) {
+        const std::string heading = member + ", " + load_type_word(list_kinds[i].type) + ": ";
+        if (!list.cases[i]) {
+            out.put(heading + "none, all zeros\n");
+            continue;
+        }
+        out.put(heading + "load case " + std::to_string(*list.cases[i]) + title_of(model, *list.cases[i]) + '\n');
+        station_table rows;
+        for (const STAAD::BeamLoadList& station : list.stations)
+            rows.add(station.*list_kinds[i].point);
+        rows.put(out);
+    }
+}
+
+} // namespace
+
+void put_forces_text(std_output& out, const forces_report& report)
+{
+    const STAAD::SdReader& model = report.model.model;
+    put_summary(out, report);
+    switch (report.view) {
+    case forces_view::stations:
+        put_stations(out, model);
+        break;
+    case forces_view::extremes:
+        put_extremes(out, model);
+        break;
+    case forces_view::lists:
+        for (const auto& [position, forces] : model.beam_forces)
+            put_list(out, model, list_of(model, forces));
+        break;
+    }
+}
+
+} // namespace tool

@@ -1,0 +1,243 @@
+#include "info/info_text.h"
+
+#include "cli/text_encoding.h"
+#include "info/load_words.h"
+#include "output/element_count.h"
+#include "output/table.h"
+#include "output/words.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace tool {
+namespace {
+
+using STAAD::SdReader;
+
+/// Longer texts of the file are cut: a screen is no place for them, and --json tells them in full.
+constexpr std::size_t most_shown = 120;
+
+std::string shown(std::string_view text)
+{
+    return clipped(printable_text(text), most_shown);
+}
+
+std::string shown_or(std::string_view text, const char* instead)
+{
+    return text.empty() ? instead : shown(text);
+}
+
+std::string line(std::string_view name, const std::string& text)
+{
+    return std::string(name) + ": " + text + '\n';
+}
+
+/// A heading with the number of rows, and the rows.
+void put_block(std_output& out, std::string_view name, const table& rows)
+{
+    out.put(line(name, rows.size() == 0 ? "none" : std::to_string(rows.size())));
+    rows.put(out);
+}
+
+std::string units(const SdReader& model)
+{
+    return line("units", shown(model.unit_text)) +
+           line("factors", "length x " + short_number(model.length_factor) + " (mm), force x " +
+                               short_number(model.force_factor) + " (kN), moment x " +
+                               short_number(model.force_length_factor) + " (kN*mm)");
+}
+
+std::string members(const model_summary& summary)
+{
+    const auto of = [&summary](STAAD::BeamType type) { return summary.members_of[static_cast<std::size_t>(type)]; };
+    return std::to_string(summary.members) + " (" + count_of(of(STAAD::Column), "column") + ", " +
+           count_of(of(STAAD::Beam), "beam") + ", " + count_of(of(STAAD::Brace), "brace") + ", " +
+           count_of(of(STAAD::HorizontalBrace), "horizontal brace") + ")";
+}
+
+std::string extents_in_words(const model_summary& summary)
+{
+    if (summary.joints == 0)
+        return "none";
+    if (!summary.box.are_finite())
+        return "not finite";
+    // Plan as the file has it, X by Z.
+    return "plan " + metres(summary.box.size(1)) + " m x " + metres(summary.box.size(0)) + " m, height " +
+           metres(summary.box.size(2)) + " m";
+}
+
+std::string geometry(const model_summary& summary)
+{
+    return line("joints", std::to_string(summary.joints)) + line("members", members(summary)) +
+           line("shells", count_of(summary.elements, "element")) + line("surfaces", std::to_string(summary.surfaces)) +
+           line("extents", extents_in_words(summary)) + line("storeys", storeys_in_words(summary.levels));
+}
+
+std::string member_extras(const SdReader& model, const model_summary& summary)
+{
+    const char* origin = summary.has_default_density ? " (default)" : " (as written behind ISOTROPIC CONCRETE)";
+    return line("concrete density", short_number(model.concrete_density) + origin) +
+           line("offsets", count_of(summary.members_with_offsets, "member")) +
+           line("beta angles", count_of(summary.members_with_beta, "member"));
+}
+
+/// "9 joints", and in a cell of its own "and 1 number without a joint" if there is any.
+void add_numbers(std::vector<std::string>& row, const listed_numbers& numbers, std::string_view noun)
+{
+    row.push_back(count_of(numbers.known, noun));
+    if (numbers.unknown == 0)
+        return;
+    const char* article = noun == "element" ? " without an " : " without a ";
+    row.push_back("and " + count_of(numbers.unknown, "number") + article + std::string(noun));
+}
+
+void put_groups(std_output& out, const model_summary& summary)
+{
+    constexpr const char* nouns[] = {"joint", "member", "element"};
+    table rows;
+    for (const group_summary& group : summary.groups) {
+        std::vector<std::string> row = {shown(group.name), shown_or(group.kind, "(no kind)")};
+        add_numbers(row, group.numbers, nouns[group.type]);
+        rows.add_row(std::move(row));
+    }
+    put_block(out, "groups", rows);
+}
+
+void put_descriptions(std_output& out, std::string_view name, const std::vector<description_summary>& described,
+                      std::string_view noun)
+{
+    table rows;
+    for (const description_summary& each : described) {
+        std::vector<std::string> row = {shown_or(each.description, "(no description)")};
+        add_numbers(row, each.numbers, noun);
+        rows.add_row(std::move(row));
+    }
+    put_block(out, name, rows);
+}
+
+std::string dimensions(const section_summary& section)
+{
+    std::string size;
+    for (const double dimension : section.dimensions)
+        size += (size.empty() ? "" : " x ") + short_number(dimension);
+    std::string text = section.family;
+    if (!size.empty())
+        text += (text.empty() ? "" : " ") + size + " mm";
+    if (!section.trouble.empty())
+        text += (text.empty() ? "" : ": ") + section.trouble;
+    return text;
+}
+
+void put_sections(std_output& out, const model_summary& summary)
+{
+    table rows;
+    for (const section_summary& section : summary.sections)
+        rows.add_row({shown_or(section.country, "(no code)"), shown_or(section.text, "(empty)"),
+                      count_of(section.members, "member"), clipped(dimensions(section), most_shown)});
+    put_block(out, "sections", rows);
+    if (summary.members_without_section != 0)
+        out.put(line("without section", count_of(summary.members_without_section, "member")));
+}
+
+void put_user_tables(std_output& out, const model_summary& summary)
+{
+    table rows;
+    for (const user_table_summary& each : summary.user_tables)
+        rows.add_row({std::to_string(each.number), shown_or(each.family, "(no family)"), count_of(each.rows, "row"),
+                      shown(each.unit)});
+    put_block(out, "user tables", rows);
+}
+
+std::string load_type(const load_case_summary& load_case)
+{
+    return load_case.type == STAAD::LoadCase::Unknown ? shown_or(load_case.type_text, "-")
+                                                      : load_type_word(load_case.type);
+}
+
+/// "UNI" for "MEMBER LOAD UNI": most loads are member loads, and a line has only so much room.
+std::string short_kind(const std::string& kind)
+{
+    const std::string member_load = "MEMBER LOAD ";
+    return shown_or(kind.rfind(member_load, 0) == 0 ? kind.substr(member_load.size()) : kind, "not understood");
+}
+
+std::string definitions(const load_case_summary& load_case)
+{
+    std::string text;
+    for (const kind_count& each : load_case.definitions) {
+        text += text.empty() ? "" : ", ";
+        text += std::to_string(each.count) + ' ' + short_kind(each.kind);
+    }
+    return text.empty() ? "no definitions" : text;
+}
+
+std::string loaded(const load_case_summary& load_case)
+{
+    if (load_case.definitions.empty())
+        return {};
+    // The weight of the structure itself needs no list: "0 members" would say that nothing is loaded.
+    const auto& kinds = load_case.definitions;
+    if (load_case.members + load_case.joints == 0 && kinds.size() == 1 && kinds.front().kind == "SELFWEIGHT")
+        return "-";
+    return count_of(load_case.members, "member") + ", " + count_of(load_case.joints, "joint");
+}
+
+bool is_case_0(const load_case_summary& load_case)
+{
+    return load_case.number == 0;
+}
+
+void put_load_cases(std_output& out, const model_summary& summary)
+{
+    table rows;
+    for (const load_case_summary& each : summary.load_cases)
+        rows.add_row({std::to_string(each.number), load_type(each), shown_or(each.title, "-"), loaded(each),
+                      clipped(definitions(each), most_shown)});
+    put_block(out, "load cases", rows);
+    if (std::any_of(summary.load_cases.begin(), summary.load_cases.end(), is_case_0))
+        out.put(line("case 0", "what stands under headers without a number (LOAD R1) or with 0"));
+}
+
+void put_skipped(std_output& out, const model_summary& summary)
+{
+    table rows;
+    std::size_t lines = 0;
+    for (const skipped_summary& each : summary.skipped) {
+        rows.add_row({shown(each.words), count_of(each.lines, "line")});
+        lines += each.lines;
+    }
+    out.put(line("in the file, not in the model", lines == 0 ? "nothing" : count_of(lines, "line")));
+    rows.put(out);
+}
+
+} // namespace
+
+void put_full_report(std_output& out, const opened_model& opened, const model_summary& summary)
+{
+    out.put(printable_name(opened.name) + '\n');
+    out.put(units(opened.model));
+    out.put(geometry(summary));
+    out.put(member_extras(opened.model, summary));
+    put_groups(out, summary);
+    put_descriptions(out, "supports", summary.supports, "joint");
+    put_descriptions(out, "releases", summary.releases, "member");
+    put_sections(out, summary);
+    put_user_tables(out, summary);
+    put_load_cases(out, summary);
+    put_skipped(out, summary);
+}
+
+std::string one_line_report(const opened_model& opened)
+{
+    if (!opened.was_read)
+        return printable_name(opened.name) + ": error: " + printable_text(first_error(opened.report)) + '\n';
+    const SdReader& model = opened.model;
+    const std::size_t surfaces = model.surfaces.size();
+    return printable_name(opened.name) + ": " + count_of(model.nodes.size(), "joint") + ", " +
+           count_of(model.beams.size(), "member") + ", " + count_of(element_count(model), "element") + ", " +
+           count_of(surfaces, "surface") + ", " + count_of(model.load_cases.size(), "load case") + '\n';
+}
+
+} // namespace tool

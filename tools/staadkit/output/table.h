@@ -1,0 +1,43 @@
+/// Rows of cells as lines of text.
+#ifndef TOOLS_STAADKIT_OUTPUT_TABLE_H
+#define TOOLS_STAADKIT_OUTPUT_TABLE_H
+
+#include "output/std_output.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tool {
+
+/// A text of a file as a cell: printable, cut if it is long; `instead` if it is empty.
+std::string cell_text(std::string_view text, const char* instead);
+
+enum class align { left, right };
+
+/// Cells of printable UTF-8, columns aligned, lines indented by two.
+///
+/// A column is as wide as its widest cell, up to a bound: one long text must not pad every other
+/// line with blanks. Cells beyond the bound push the rest of their own line to the right.
+class table {
+public:
+    table() = default;
+    /// `columns` tells how the first columns are aligned; further ones are to the left.
+    explicit table(std::vector<align> columns);
+
+    void add_row(std::vector<std::string> cells);
+    std::size_t size() const noexcept { return rows_.size(); }
+    void put(std_output& out) const;
+
+private:
+    bool is_to_the_right(std::size_t column) const;
+
+    std::vector<align> columns_;
+    std::vector<std::vector<std::string>> rows_;
+    std::vector<std::size_t> widths_;
+};
+
+} // namespace tool
+
+#endif

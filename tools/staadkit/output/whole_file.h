@@ -1,0 +1,21 @@
+/// Files that are there whole or not at all.
+#ifndef TOOLS_STAADKIT_OUTPUT_WHOLE_FILE_H
+#define TOOLS_STAADKIT_OUTPUT_WHOLE_FILE_H
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace tool {
+
+/// Makes `text` the content of the file at `path`, lines ended as the platform has them.
+///
+/// The text goes to a temporary file in the same folder, which takes the place of the target once all
+/// of it is on the disk: whatever goes wrong before that leaves an earlier file as it was. A file that
+/// is replaced hands on its permissions; a symbolic link stays, and the file it points at is replaced.
+/// What is no file, such as a device or a pipe, is written to directly.
+std::error_code write_whole_file(const std::filesystem::path& path, std::string_view text);
+
+} // namespace tool
+
+#endif

@@ -1,0 +1,29 @@
+/// Numbers and counts as people write them. No locale has a say.
+#ifndef TOOLS_STAADKIT_OUTPUT_WORDS_H
+#define TOOLS_STAADKIT_OUTPUT_WORDS_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tool {
+
+/// "1 joint", "2 joints".
+std::string count_of(std::size_t count, std::string_view noun);
+
+/// With at most seven significant digits, no trailing zeros.
+std::string short_number(double number);
+/// With `digits` decimals; never "-0.00".
+std::string fixed_number(double number, int digits);
+
+/// A length in mm as metres: one decimal, two where the second is not 0.
+std::string metres(double length);
+
+/// Storeys between ascending levels in mm: "3 (4.20 + 2 x 3.60 m), base at -0.50 m", at most twelve
+/// terms.
+std::string storeys_in_words(const std::vector<double>& levels);
+
+} // namespace tool
+
+#endif
