@@ -482,7 +482,7 @@ frame_options frame_of_about(std::size_t members, const frame_options& blocks)
 
 frame_options frame_of_bytes(std::size_t bytes, const frame_options& blocks)
 {
-    // a small frame tells the bytes per member, which grow slowly with the length of the numbers
+    // a small frame gives the bytes per member, which grow slowly with the length of the numbers
     const frame_options sample = frame_of_about(10'000, blocks);
     double members = static_cast<double>(sample.members()) * static_cast<double>(bytes) /
                      static_cast<double>(make_frame_deck(sample).size()) * 0.85;

@@ -1,7 +1,7 @@
 # What `cmake --install` puts beside the library if the tool is built.
 install(TARGETS staadkit_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
 
-# What the tool contains of others is told beside it, where their notices are at hand.
+# The notices of what others wrote and the tool contains lie beside it, where they are at hand.
 set(staadkit_notices "")
 foreach(package IN ITEMS libcli11-dev nlohmann-json3-dev)
     if(EXISTS "/usr/share/doc/${package}/copyright")

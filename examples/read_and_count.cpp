@@ -24,7 +24,7 @@ int main(int argc, char** argv)
     if (!was_read)
         return 1;
 
-    // Each surface stands among the shells once more, as a copy behind the elements.
+    // Each surface stands among the shells once more, as a copy after the elements.
     std::cout << "joints:     " << model.nodes.size() << '\n'
               << "members:    " << model.beams.size() << '\n'
               << "elements:   " << model.shells.size() - model.surfaces.size() << '\n'

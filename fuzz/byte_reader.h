@@ -31,7 +31,7 @@ public:
     /// -128 to 127.
     int take_small() noexcept { return static_cast<signed char>(take_byte()); }
 
-    /// Any bits; zeros behind the end.
+    /// Any bits; zeros after the end.
     template<class Value>
     Value take_bits() noexcept
     {

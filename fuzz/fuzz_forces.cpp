@@ -68,7 +68,7 @@ bool is_plain(std::string_view text)
            !has("nan") && !has_long_number(text);
 }
 
-/// So that nothing that is worked out of it overflows.
+/// Small enough that nothing computed from it overflows.
 bool is_moderate(const STAAD::ForcePoint& point)
 {
     const double values[] = {point.position, point.f1, point.f2, point.f3, point.m1, point.m2, point.m3};
@@ -96,12 +96,12 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
     static const SdReader frame = small_frame();
     const std::string_view text = fuzz::text_of(data, size);
     SdReader model = frame;
-    SdReader told = frame;
+    SdReader reported = frame;
     STAAD::ReadReport report;
     const bool is_whole = fuzz::within_memory([&] { model.ReadForceMomentFromText(text); }) &&
-                          fuzz::within_memory([&] { told.ReadForceMomentFromText(text, report); });
+                          fuzz::within_memory([&] { reported.ReadForceMomentFromText(text, report); });
     if (is_whole) {
-        fuzz::require_none(STAAD::model_differences(model, told), "a report changes no forces");
+        fuzz::require_none(STAAD::model_differences(model, reported), "a report changes no forces");
         check_records(model);
         if (is_plain(text)) {
             SdReader want = STAAD::plain::import_forces(frame, std::string(text));

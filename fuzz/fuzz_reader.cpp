@@ -124,20 +124,21 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view text = fuzz::text_of(data, size);
     SdReader model;
-    SdReader told;
+    SdReader reported;
     STAAD::ReadReport report;
     bool was_read = false;
-    bool was_told = false;
-    const bool is_whole = fuzz::within_memory([&] { was_read = model.ReadSDDataFromText(text); }) &&
-                          fuzz::within_memory([&] { was_told = told.ReadSDDataFromText(text, report); });
+    bool was_read_with_report = false;
+    const bool is_whole =
+        fuzz::within_memory([&] { was_read = model.ReadSDDataFromText(text); }) &&
+        fuzz::within_memory([&] { was_read_with_report = reported.ReadSDDataFromText(text, report); });
     if (is_whole) {
-        fuzz::require(was_read == was_told, "a report changes no answer");
+        fuzz::require(was_read == was_read_with_report, "a report changes no answer");
         fuzz::require(was_read || report.worst() == STAAD::Finding::Error, "there is a reason for no model");
-        fuzz::require_none(STAAD::model_differences(model, told), "a report changes no model");
+        fuzz::require_none(STAAD::model_differences(model, reported), "a report changes no model");
         check_references(model);
         check_findings(report, text);
         ask_everything(model);
-        fuzz::within_memory([&] { build_storeys(std::move(told)); });
+        fuzz::within_memory([&] { build_storeys(std::move(reported)); });
     }
     check_that_it_reads_again(model);
     return 0;

@@ -3,7 +3,7 @@
 #
 # Brings the generated blocks of README*.md and docs/**/*.md up to date, or with --check shows how they
 # differ from what they should be and fails. TOOL is the built staadkit. A block is a marker line and
-# the fence right behind it, whose content is replaced:
+# the fence right after it, whose content is replaced:
 #
 #   <!-- output: staadkit info examples/x.std -->   then ```text: the command and what it prints
 #   <!-- source: examples/x.cpp -->                 then ```cpp:  the file
@@ -61,7 +61,7 @@ regenerate() { # file
         kind=${BASH_REMATCH[1]} argument=${BASH_REMATCH[2]}
         language=text
         [ "$kind" = output ] || language=cpp
-        IFS= read -r line && [ "$line" = "\`\`\`$language" ] || fail "no \`\`\`$language behind the marker"
+        IFS= read -r line && [ "$line" = "\`\`\`$language" ] || fail "no \`\`\`$language after the marker"
         printf '%s\n' "$line"
         content "$kind" "$argument"
         until [ "$line" = '```' ]; do

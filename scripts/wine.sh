@@ -4,7 +4,7 @@ wine_prefix= # none is started
 
 # start_wine PREFIX: from here on Wine programs run in the folder PREFIX, an absolute path, which is filled on first
 # use. Their services are started here, detached: the first program would start them too, but they would keep its
-# standard output open and whoever reads it waiting. Display and locale are those of the environment.
+# standard output open and keep its reader waiting. Display and locale are those of the environment.
 start_wine() {
     wine_prefix=$1
     export WINEPREFIX=$1 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml,winemenubuilder.exe=
@@ -14,8 +14,8 @@ start_wine() {
     setsid wine64 wineboot -i </dev/null >/dev/null 2>&1
 }
 
-# Ends what runs in that prefix, and nothing else. Waits for it: a server that is still ending is no good to whoever
-# starts the next one.
+# Ends what runs in that prefix, and nothing else. Waits for it: a server that is still ending is no good to the one
+# that is started next.
 stop_wine() {
     [ -n "$wine_prefix" ] || return 0
     WINEPREFIX=$wine_prefix wineserver -k 2>/dev/null || true # it may have ended by itself

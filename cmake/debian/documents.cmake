@@ -11,7 +11,7 @@ function(compress file)
     execute_process(COMMAND gzip -9nf "${file}" COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
 
-# The date is the one of the sources where the environment tells it.
+# The date is the one of the sources where the environment gives it.
 string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 string(TIMESTAMP year "%Y" UTC)
 set(version "${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
@@ -27,7 +27,7 @@ foreach(component IN LISTS CPACK_COMPONENTS_ALL)
     set(documents "${root}/share/doc/${package}")
 
     file(WRITE "${documents}/changelog.Debian" "staadkit (${version}) unstable; urgency=medium\n\n"
-        "  * Version ${CPACK_PACKAGE_VERSION}; changelog.gz tells what is new.\n\n -- ${CPACK_PACKAGE_CONTACT}  ${date}\n")
+        "  * Version ${CPACK_PACKAGE_VERSION}; changelog.gz says what is new.\n\n -- ${CPACK_PACKAGE_CONTACT}  ${date}\n")
     compress("${documents}/changelog.Debian")
     configure_file("${source_dir}/CHANGELOG.md" "${documents}/changelog" COPYONLY)
     compress("${documents}/changelog")

@@ -8,7 +8,7 @@
 #include "staad/storeys/layered_project.h"
 
 #include <windows.h>
-// behind it
+// after windows.h, which it needs
 #include <commctrl.h>
 
 #include <algorithm>
@@ -129,7 +129,7 @@ public:
         SetFocus(list_);
         MSG message;
         while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-            if (IsDialogMessageW(window_, &message)) // tells the window of Escape, among others
+            if (IsDialogMessageW(window_, &message)) // passes Escape on to the window, among others
                 continue;
             TranslateMessage(&message);
             DispatchMessageW(&message);
