@@ -1,6 +1,6 @@
 #include "tests/support/model_equal.h"
 
-#include "tests/support/record_fields.h"
+#include "staad/model/fields.h"
 
 #include <array>
 #include <bit>
@@ -102,9 +102,9 @@ public:
     }
 
     template<class Record>
-    std::enable_if_t<std::is_class_v<Record>> compare(const Record& a, const Record& b)
+    std::enable_if_t<is_record<Record>> compare(const Record& a, const Record& b)
     {
-        visit_fields(a, b, [this](const char* name, const auto& of_a, const auto& of_b) {
+        each_field(a, b, [this](const char* name, const auto& of_a, const auto& of_b) {
             compare_at(path_.empty() ? std::string(name) : '.' + std::string(name), of_a, of_b);
         });
     }
@@ -151,7 +151,7 @@ public:
             for (const auto& element : value)
                 look_at(name, element);
         } else if constexpr (std::is_class_v<Value>) {
-            visit_fields(value, value, [&](const char* field, const auto& of_value, const auto&) {
+            each_field(value, [&](const char* field, const auto& of_value) {
                 look_at(name.empty() ? std::string(field) : name + '.' + field, of_value);
             });
         } else {

@@ -1,6 +1,6 @@
 /// What a new record holds, and the order and types of its fields.
 
-#include "staad/model/sd_reader.h"
+#include "staad/model/fields.h"
 #include "tests/support/model_equal.h"
 
 #include <gtest/gtest.h>
@@ -21,129 +21,171 @@ namespace {
 
 using texts = std::vector<std::string>;
 
-/// True if both are the same objects in the same order. `Types` is the list of field types wanted.
-template<class... Types, std::size_t... I>
-bool same_objects(const std::tuple<const Types&...>& a, const std::tuple<const Types&...>& b, std::index_sequence<I...>)
+/// A field of a record by its name.
+struct named_field {
+    const char* name;
+    const void* place;
+};
+
+/// The list of the record's fields has these types, and these names and places in this order.
+template<class... Types, class Record>
+void expect_fields(const Record& record, const std::vector<named_field>& want)
 {
-    return ((static_cast<const void*>(&std::get<I>(a)) == static_cast<const void*>(&std::get<I>(b))) && ...);
+    const auto fields = RecordFields<Record>::of(record);
+    static_assert(std::is_same_v<decltype(fields), const std::tuple<const Types&...>>);
+    ASSERT_EQ(want.size(), sizeof...(Types));
+    std::size_t index = 0;
+    each_field(record, [&](const char* name, const auto& field) {
+        EXPECT_STREQ(name, want[index].name);
+        EXPECT_EQ(static_cast<const void*>(&field), want[index].place) << name;
+        ++index;
+    });
 }
 
-template<class... Types>
-void expect_order(const std::tuple<const Types&...>& by_position, const std::tuple<const Types&...>& by_name)
-{
-    EXPECT_TRUE(same_objects(by_position, by_name, std::index_sequence_for<Types...>()));
-}
-
-// A structured binding names the fields of a record by their position and compiles only if it names
-// every one.
+using std::map;
+using std::string;
+using std::vector;
 
 TEST(FieldOrder, OfJointsAndMembers)
 {
-    const SdNode n;
-    const auto& [n1, n2, n3, n4, n5] = n;
-    expect_order<int, double, double, double, std::vector<int>>(std::tie(n1, n2, n3, n4, n5),
-                                                                std::tie(n.id, n.x, n.y, n.z, n.extra_ids));
-    const SdOffset o;
-    const auto& [o1, o2, o3] = o;
-    expect_order<double, double, double>(std::tie(o1, o2, o3), std::tie(o.x, o.y, o.z));
-
-    const SdBeam b;
-    const auto& [b1, b2, b3, b4, b5, b6, b7, b8, b9, b10, b11, b12, b13] = b;
-    using std::string;
-    expect_order<int, int, int, SdOffset, SdOffset, int, double, std::vector<int>, string, string, string, string,
-                 string>(std::tie(b1, b2, b3, b4, b5, b6, b7, b8, b9, b10, b11, b12, b13),
-                         std::tie(b.id, b.node_start, b.node_end, b.offset_start, b.offset_end, b.kind_code, b.beta,
-                                  b.int_list, b.material, b.sect_text, b.sect_country, b.sect_extra, b.sect_name));
+    const SdNode joint;
+    expect_fields<int, double, double, double, vector<int>>(
+        joint, {{"id", &joint.id}, {"x", &joint.x}, {"y", &joint.y}, {"z", &joint.z}, {"extra_ids", &joint.extra_ids}});
+    const SdOffset offset;
+    expect_fields<double, double, double>(offset, {{"x", &offset.x}, {"y", &offset.y}, {"z", &offset.z}});
+    const SdBeam member;
+    expect_fields<int, int, int, SdOffset, SdOffset, int, double, vector<int>, string, string, string, string, string>(
+        member, {{"id", &member.id},
+                 {"node_start", &member.node_start},
+                 {"node_end", &member.node_end},
+                 {"offset_start", &member.offset_start},
+                 {"offset_end", &member.offset_end},
+                 {"kind_code", &member.kind_code},
+                 {"beta", &member.beta},
+                 {"int_list", &member.int_list},
+                 {"material", &member.material},
+                 {"sect_text", &member.sect_text},
+                 {"sect_country", &member.sect_country},
+                 {"sect_extra", &member.sect_extra},
+                 {"sect_name", &member.sect_name}});
 }
 
 TEST(FieldOrder, OfShellsSurfacesAndGroups)
 {
-    const SdShell e;
-    const auto& [e1, e2, e3, e4] = e;
-    expect_order<int, std::vector<int>, int, std::string>(std::tie(e1, e2, e3, e4),
-                                                          std::tie(e.id, e.node_ids, e.thickness, e.material));
-    const SdSurface s;
-    const auto& [s1, s2, s3, s4] = s;
-    expect_order<int, std::vector<int>, int, std::string>(std::tie(s1, s2, s3, s4),
-                                                          std::tie(s.id, s.node_ids, s.thickness, s.material));
-    const SdGroup g;
-    const auto& [g1, g2, g3] = g;
-    expect_order<std::string, std::string, std::vector<int>>(std::tie(g1, g2, g3), std::tie(g.kind, g.name, g.ids));
+    const SdShell shell;
+    expect_fields<int, vector<int>, int, string>(shell, {{"id", &shell.id},
+                                                         {"node_ids", &shell.node_ids},
+                                                         {"thickness", &shell.thickness},
+                                                         {"material", &shell.material}});
+    const SdSurface surface;
+    expect_fields<int, vector<int>, int, string>(surface, {{"id", &surface.id},
+                                                           {"node_ids", &surface.node_ids},
+                                                           {"thickness", &surface.thickness},
+                                                           {"material", &surface.material}});
+    const SdGroup group;
+    expect_fields<string, string, vector<int>>(group,
+                                               {{"kind", &group.kind}, {"name", &group.name}, {"ids", &group.ids}});
 }
 
 TEST(FieldOrder, OfSectionsAndLoads)
 {
-    using std::string;
-    const Section s;
-    const auto& [s1, s2, s3, s4] = s;
-    expect_order<int, string, string, string>(std::tie(s1, s2, s3, s4),
-                                              std::tie(s.tag, s.type, s.material, s.property));
-    const SdUserSectionTable t;
-    const auto& [t1, t2, t3] = t;
-    expect_order<string, string, std::map<string, string>>(std::tie(t1, t2, t3), std::tie(t.type, t.unit, t.records));
-
-    const LoadCase c;
-    const auto& [c1, c2, c3] = c;
-    expect_order<int, string, string>(std::tie(c1, c2, c3), std::tie(c.id, c.type_text, c.title));
-
-    const LoadDef_raw r;
-    const auto& [r1, r2] = r;
-    expect_order<string, int>(std::tie(r1, r2), std::tie(r.text, r.load_case));
-
-    const LoadDefination d;
-    const auto& [d1, d2, d3, d4] = d;
-    expect_order<string, string, std::vector<double>, int>(std::tie(d1, d2, d3, d4),
-                                                           std::tie(d.kind, d.direction, d.values, d.load_case));
+    const Section section;
+    expect_fields<int, string, string, string>(section, {{"tag", &section.tag},
+                                                         {"type", &section.type},
+                                                         {"material", &section.material},
+                                                         {"property", &section.property}});
+    const SdUserSectionTable table;
+    expect_fields<string, string, map<string, string>>(
+        table, {{"type", &table.type}, {"unit", &table.unit}, {"records", &table.records}});
+    const LoadCase load_case;
+    expect_fields<int, string, string>(
+        load_case, {{"id", &load_case.id}, {"type_text", &load_case.type_text}, {"title", &load_case.title}});
+    const LoadDef_raw raw;
+    expect_fields<string, int>(raw, {{"text", &raw.text}, {"load_case", &raw.load_case}});
+    const LoadDefination load;
+    expect_fields<string, string, vector<double>, int>(load, {{"kind", &load.kind},
+                                                              {"direction", &load.direction},
+                                                              {"values", &load.values},
+                                                              {"load_case", &load.load_case}});
 }
 
 TEST(FieldOrder, OfForces)
 {
-    const ForcePoint p;
-    const auto& [p1, p2, p3, p4, p5, p6, p7] = p;
-    expect_order<double, double, double, double, double, double, double>(
-        std::tie(p1, p2, p3, p4, p5, p6, p7), std::tie(p.position, p.f1, p.f2, p.f3, p.m1, p.m2, p.m3));
-
-    const BeamLoadCaseRecord r;
-    const auto& [r1, r2, r3] = r;
-    expect_order<int, std::vector<ForcePoint>, std::vector<ForcePoint>>(std::tie(r1, r2, r3),
-                                                                        std::tie(r.load_case, r.points, r.pkpm_points));
-
-    const BeamForceAndMOM f;
-    const auto& [f1, f2] = f;
-    expect_order<int, std::map<int, BeamLoadCaseRecord>>(std::tie(f1, f2), std::tie(f.beam, f.records));
-
-    const BeamLoadList l;
-    const auto& [l1, l2, l3, l4] = l;
-    expect_order<ForcePoint, ForcePoint, ForcePoint, ForcePoint>(std::tie(l1, l2, l3, l4),
-                                                                 std::tie(l.dead, l.live, l.wind, l.seismic));
+    const ForcePoint point;
+    expect_fields<double, double, double, double, double, double, double>(point, {{"position", &point.position},
+                                                                                  {"f1", &point.f1},
+                                                                                  {"f2", &point.f2},
+                                                                                  {"f3", &point.f3},
+                                                                                  {"m1", &point.m1},
+                                                                                  {"m2", &point.m2},
+                                                                                  {"m3", &point.m3}});
+    const BeamLoadCaseRecord record;
+    expect_fields<int, vector<ForcePoint>, vector<ForcePoint>>(
+        record, {{"load_case", &record.load_case}, {"points", &record.points}, {"pkpm_points", &record.pkpm_points}});
+    const BeamForceAndMOM forces;
+    expect_fields<int, map<int, BeamLoadCaseRecord>>(forces, {{"beam", &forces.beam}, {"records", &forces.records}});
+    const BeamLoadList list;
+    expect_fields<ForcePoint, ForcePoint, ForcePoint, ForcePoint>(
+        list, {{"dead", &list.dead}, {"live", &list.live}, {"wind", &list.wind}, {"seismic", &list.seismic}});
 }
 
 TEST(FieldOrder, OfTheModel)
 {
-    using std::map;
-    using std::string;
-    using std::vector;
-    const SdReader m;
-    const auto& [f1, f2, f3, f4, f5, f6, f7, f8, f9, f10, f11, f12, f13, f14, f15, f16, f17, f18, f19, f20, f21, f22,
-                 f23, f24, f25] = m;
-    expect_order<double, WindLoadParam, SeismicParam, vector<SdNode>, vector<SdBeam>, vector<SdShell>,
-                 vector<SdSurface>, vector<SdGroup>, map<string, vector<unsigned>>, map<string, vector<unsigned>>,
-                 map<int, LoadCase>, map<int, LoadDefination>, map<int, SdUserSectionTable>, map<int, BeamForceAndMOM>,
-                 map<int, LoadDef_raw>, map<int, int>, map<int, int>, map<int, int>, map<int, int>, string, double,
-                 double, double, OldProjMaps, std::set<int>>(
-        std::tie(f1, f2, f3, f4, f5, f6, f7, f8, f9, f10, f11, f12, f13, f14, f15, f16, f17, f18, f19, f20, f21, f22,
-                 f23, f24, f25),
-        std::tie(m.concrete_density, m.wl_param, m.eq_param, m.nodes, m.beams, m.shells, m.surfaces, m.groups,
-                 m.supports, m.releases, m.load_cases, m.load_defs, m.usr_tables, m.beam_forces, m.raw_load_defs,
-                 m.node_index, m.beam_index, m.shell_index, m.surface_index, m.unit_text, m.length_factor,
-                 m.force_factor, m.force_length_factor, m.old_proj_maps, m.brace_ids));
-
-    const OldProjMaps& o = m.old_proj_maps;
-    const auto& [o1, o2, o3, o4, o5, o6] = o;
     using pairs = map<int, int>;
-    expect_order<pairs, pairs, pairs, pairs, pairs, pairs>(
-        std::tie(o1, o2, o3, o4, o5, o6), std::tie(o.joints_new_to_old, o.members_new_to_old, o.shells_new_to_old,
-                                                   o.joints_old_to_new, o.members_old_to_new, o.shells_old_to_new));
+    const SdReader model;
+    expect_fields<double, WindLoadParam, SeismicParam, vector<SdNode>, vector<SdBeam>, vector<SdShell>,
+                  vector<SdSurface>, vector<SdGroup>, map<string, vector<unsigned>>, map<string, vector<unsigned>>,
+                  map<int, LoadCase>, map<int, LoadDefination>, map<int, SdUserSectionTable>, map<int, BeamForceAndMOM>,
+                  map<int, LoadDef_raw>, pairs, pairs, pairs, pairs, string, double, double, double, OldProjMaps,
+                  std::set<int>>(model, {{"concrete_density", &model.concrete_density},
+                                         {"wl_param", &model.wl_param},
+                                         {"eq_param", &model.eq_param},
+                                         {"nodes", &model.nodes},
+                                         {"beams", &model.beams},
+                                         {"shells", &model.shells},
+                                         {"surfaces", &model.surfaces},
+                                         {"groups", &model.groups},
+                                         {"supports", &model.supports},
+                                         {"releases", &model.releases},
+                                         {"load_cases", &model.load_cases},
+                                         {"load_defs", &model.load_defs},
+                                         {"usr_tables", &model.usr_tables},
+                                         {"beam_forces", &model.beam_forces},
+                                         {"raw_load_defs", &model.raw_load_defs},
+                                         {"node_index", &model.node_index},
+                                         {"beam_index", &model.beam_index},
+                                         {"shell_index", &model.shell_index},
+                                         {"surface_index", &model.surface_index},
+                                         {"unit_text", &model.unit_text},
+                                         {"length_factor", &model.length_factor},
+                                         {"force_factor", &model.force_factor},
+                                         {"force_length_factor", &model.force_length_factor},
+                                         {"old_proj_maps", &model.old_proj_maps},
+                                         {"brace_ids", &model.brace_ids}});
+    const OldProjMaps maps;
+    expect_fields<pairs, pairs, pairs, pairs, pairs, pairs>(maps, {{"joints_new_to_old", &maps.joints_new_to_old},
+                                                                   {"members_new_to_old", &maps.members_new_to_old},
+                                                                   {"shells_new_to_old", &maps.shells_new_to_old},
+                                                                   {"joints_old_to_new", &maps.joints_old_to_new},
+                                                                   {"members_old_to_new", &maps.members_old_to_new},
+                                                                   {"shells_old_to_new", &maps.shells_old_to_new}});
+}
+
+TEST(FieldOrder, OfStoreys)
+{
+    const StoreyLayer storey;
+    expect_fields<double, double, vector<LayerMember>, vector<SdShell>>(
+        storey,
+        {{"base", &storey.base}, {"height", &storey.height}, {"members", &storey.members}, {"shells", &storey.shells}});
+    const LayerMember member;
+    expect_fields<SdBeam, Section, BeamForceAndMOM>(
+        member, {{"member", &member.member}, {"section", &member.section}, {"forces", &member.forces}});
+    const NodeLevel level;
+    expect_fields<int, int, double, double, double>(level, {{"position", &level.position},
+                                                            {"level", &level.level},
+                                                            {"rx", &level.rx},
+                                                            {"ry", &level.ry},
+                                                            {"rz", &level.rz}});
 }
 
 /// A record whose bytes held something else before it was made.

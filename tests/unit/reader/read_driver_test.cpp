@@ -177,12 +177,13 @@ TEST(Init, EmptiesWhatAReadingReplacesAndKeepsTheRest)
 
 TEST(ReadText, KeepsInASecondReadingWhatInitKeeps)
 {
-    SdReader model = filled<SdReader>();
+    SdReader before = filled<SdReader>();
+    before.surfaces[0].node_ids = {1, 2, 3, 4}; // joints of the frame, each at the position of its number
+    SdReader model = before;
     ASSERT_TRUE(model.ReadSDDataFromText(small_frame));
 
     SdReader want;
     ASSERT_TRUE(want.ReadSDDataFromText(small_frame));
-    const SdReader before = filled<SdReader>();
     want.wl_param = before.wl_param;
     want.eq_param = before.eq_param;
     want.surfaces = before.surfaces;
@@ -192,8 +193,7 @@ TEST(ReadText, KeepsInASecondReadingWhatInitKeeps)
     want.surface_index = before.surface_index;
     want.old_proj_maps = before.old_proj_maps;
     want.brace_ids = before.brace_ids;
-    SdShell copy_of_surface = before.surfaces[0]; // surface 9 over joints 1 to 4, at positions 1 to 4
-    want.shells.push_back(copy_of_surface);
+    want.shells.push_back(before.surfaces[0]);
     EXPECT_EQ(model_differences(model, want), texts());
 }
 

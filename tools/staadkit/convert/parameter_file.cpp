@@ -5,7 +5,7 @@
 #include "cli/suggest.h"
 #include "cli/text_encoding.h"
 #include "convert/parameter_checks.h"
-#include "output/model_fields.h"
+#include "staad/model/fields.h"
 
 #include <nlohmann/json.hpp>
 

@@ -4,7 +4,7 @@
 #include "cli/open_model.h"
 #include "cli/verbs.h"
 #include "output/json_writer.h"
-#include "output/model_fields.h"
+#include "staad/model/fields.h"
 #include "output/std_output.h"
 
 #include <CLI/CLI.hpp>

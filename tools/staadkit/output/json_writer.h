@@ -1,13 +1,13 @@
 /// Writes values of a model as JSON, straight to standard output: a model of any size needs no
 /// second copy of itself.
 ///
-/// Records are objects with a key for each field in declaration order, see model_fields.h. Below the
+/// Records are objects with a key for each field in declaration order, see staad/model/fields.h. Below the
 /// top of a document each record of a list and each entry of a map has a line of its own.
 #ifndef TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 #define TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 
 #include "output/finding_fields.h"
-#include "output/model_fields.h"
+#include "staad/model/fields.h"
 #include "output/std_output.h"
 
 #include <array>
