@@ -4,8 +4,8 @@
 #include "cli/open_model.h"
 #include "cli/verbs.h"
 #include "output/json_writer.h"
-#include "staad/model/fields.h"
 #include "output/std_output.h"
+#include "staad/model/fields.h"
 
 #include <CLI/CLI.hpp>
 

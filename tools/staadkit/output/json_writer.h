@@ -7,8 +7,8 @@
 #define TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 
 #include "output/finding_fields.h"
-#include "staad/model/fields.h"
 #include "output/std_output.h"
+#include "staad/model/fields.h"
 
 #include <array>
 #include <cstddef>
