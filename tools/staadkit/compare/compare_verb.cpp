@@ -52,10 +52,8 @@ std::string why_no_take_over(const compare_options& options)
 {
     if (!options.takes_over())
         return {};
-    if (!options.force) {
-        if (std::string reason = why_not_there(options.out, {options.now, options.earlier}); !reason.empty())
-            return reason;
-    }
+    if (std::string reason = why_not_there(options.out, {options.now, options.earlier}, options.force); !reason.empty())
+        return reason;
     return options.yes || can_ask() ? std::string()
                                     : "nobody is there to be asked; --yes takes over and writes without a question";
 }

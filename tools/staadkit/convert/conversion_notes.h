@@ -13,8 +13,8 @@
 
 namespace tool {
 
-/// Where in the written file the line stands that shows what a note means: the first one behind a line
-/// that begins with `block` that begins with `begin` and ends with `end`. Empty texts are in every line.
+/// Where in the written file the line stands that shows what a note means: after a line that begins with
+/// `block`, the first that begins with `begin` and ends with `end`. Empty texts are in every line.
 struct line_pattern {
     std::string block = {};
     std::string begin = {};

@@ -5,7 +5,7 @@
 #include "cli/verbs.h"
 #include "convert/conversion_notes.h"
 #include "convert/parameter_file.h"
-#include "convert/parameter_template.h"
+#include "output/json_writer.h"
 #include "output/model_output.h"
 
 #include <CLI/CLI.hpp>
@@ -27,6 +27,10 @@ struct convert_options {
     bool with_notes = false;
 };
 
+// The names of the examples of parameter files.
+constexpr const char* wind_template = "wind";
+constexpr const char* seismic_template = "seismic";
+
 std::string why_no_template(const std::string& name)
 {
     if (name == wind_template || name == seismic_template)
@@ -34,7 +38,17 @@ std::string why_no_template(const std::string& name)
     return '\'' + name + "' is neither wind nor seismic";
 }
 
-/// One of the two parameter files, and what its reading had to tell.
+exit_code print_template(const std::string& name)
+{
+    std_output out;
+    if (name == wind_template)
+        json_writer(out).document(example_wind());
+    else
+        json_writer(out).document(example_seismic());
+    return out.close(done);
+}
+
+/// One of the two parameter files, and the findings of its reading.
 template<class Record>
 struct parameters {
     explicit parameters(const std::string& file) : path(file)
@@ -45,7 +59,7 @@ struct parameters {
 
     bool is_given() const { return !path.empty(); }
     bool failed() const { return report.worst() == STAAD::Finding::Error; }
-    void tell() const { print_findings(path, report, STAAD::Finding::Warning, {}); }
+    void print_report() const { print_findings(path, report, STAAD::Finding::Warning, {}); }
 
     const std::string& path;
     Record record;
@@ -62,11 +76,11 @@ exit_code write_model(opened_model& opened, const wind_parameters& wind, const s
     opened.model.wl_param = wind.record;
     opened.model.eq_param = seismic.record;
     const std::string text = opened.model.WriteDataToText();
-    // What the file means comes first: it is easily missed behind the warnings on a large model.
+    // What the file means comes first: it is easily missed after the warnings on a large model.
     print_notes(output_name(options.out), text, notes);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
-    wind.tell();
-    seismic.tell();
+    wind.print_report();
+    seismic.print_report();
     return write_output(options.out, text, done);
 }
 
@@ -74,15 +88,13 @@ exit_code run_convert(const convert_options& options)
 {
     if (!options.template_name.empty())
         return print_template(options.template_name);
-    if (!options.force) {
-        if (const std::string reason = why_not_there(options.out, {options.in}); !reason.empty())
-            return fail_to_write(options.out, reason);
-    }
+    if (const std::string reason = why_not_there(options.out, {options.in}, options.force); !reason.empty())
+        return fail_to_write(options.out, reason);
     const wind_parameters wind(options.wind);
     const seismic_parameters seismic(options.seismic);
     if (wind.failed() || seismic.failed()) {
-        wind.tell();
-        seismic.tell();
+        wind.print_report();
+        seismic.print_report();
         return wrong_usage;
     }
     opened_model opened = open_model(options.in);

@@ -119,7 +119,7 @@ bool has_line_load_down(const SdReader& model)
 
 void note_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
 {
-    // Has its example, and is told, only if there are member loads.
+    // Has its example, and is printed, only if there are member loads.
     notes.push_back({"loads",
                      "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is "
                      "written as GZ)",

@@ -30,14 +30,14 @@ line_pattern property_line(const SdBeam& member)
 }
 
 template<class Matches>
-void note_property(const SdReader& model, const char* code, const char* before, const char* behind, Matches matches,
+void note_property(const SdReader& model, const char* code, const char* before, const char* after, Matches matches,
                    conversion_notes& notes)
 {
     const auto first = std::find_if(model.beams.begin(), model.beams.end(), matches);
     if (first == model.beams.end())
         return;
     const auto count = static_cast<std::size_t>(std::count_if(first, model.beams.end(), matches));
-    notes.push_back({code, before + count_of(count, "member") + behind, property_line(*first)});
+    notes.push_back({code, before + count_of(count, "member") + after, property_line(*first)});
 }
 
 /// The first few of many, joined by commas.
@@ -145,7 +145,7 @@ void note_sections(const SdReader& model, conversion_notes& notes)
     note_property(model, "sections", "sections of ", " are bare mm, which the analysis program cannot read",
                   has_lost_names, notes);
     note_property(
-        model, "no-section", "the list of ", " without a section has nothing behind it",
+        model, "no-section", "the list of ", " without a section has nothing after it",
         [](const SdBeam& member) { return member.sect_text.empty() && member.sect_name.empty(); }, notes);
     note_user_tables(model, notes);
     note_materials(model, notes);

@@ -1,11 +1,12 @@
-#include "convert/parameter_checks.h"
+// Values that a parameter file must not have although their types are right, and what will not be written.
+
+#include "convert/parameter_file.h"
 
 #include "cli/text_encoding.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -14,18 +15,60 @@ namespace tool {
 namespace {
 
 using STAAD::Finding;
+using STAAD::ReadReport;
 
-void warn(STAAD::ReadReport& report, std::string code, std::string text)
+/// `places` is how many places of the field are wrong in this way; the text names the first.
+void add(ReadReport& report, Finding::Severity severity, const char* code, std::string text, std::size_t places = 1)
 {
-    report.findings.push_back({Finding::Warning, std::move(code), 0, 0, std::move(text)});
+    Finding finding{severity, code, 0, 0, std::move(text)};
+    finding.count = places;
+    report.findings.push_back(std::move(finding));
 }
 
-std::string length_in_words(const std::string& name, std::size_t length)
+std::string element(const std::string& list, std::ptrdiff_t index)
 {
-    return name + " has " + std::to_string(length);
+    return list + '[' + std::to_string(index) + ']';
 }
 
-// The texts that have a number in the written file, in UTF-8.
+/// Reports the first of the `values` that is below 0.
+void check_not_negative(const std::string& list, const std::vector<double>& values, ReadReport& report)
+{
+    const auto is_negative = [](double value) { return value < 0; };
+    const auto first = std::find_if(values.begin(), values.end(), is_negative);
+    if (first != values.end())
+        add(report, Finding::Error, "field-value",
+            "field " + element(list, first - values.begin()) + " must not be negative",
+            static_cast<std::size_t>(std::count_if(first, values.end(), is_negative)));
+}
+
+std::string values_in_words(std::size_t count)
+{
+    return std::to_string(count) + (count == 1 ? " value" : " values");
+}
+
+void check_rising(const std::string& list, const std::vector<double>& values, ReadReport& report)
+{
+    const auto falls = [](double value, double next) { return next <= value; };
+    const auto first = std::adjacent_find(values.begin(), values.end(), falls);
+    if (first == values.end())
+        return;
+    const std::ptrdiff_t index = first - values.begin();
+    add(report, Finding::Error, "field-value",
+        "field " + element(list, index + 1) + " must be more than " + element(list, index));
+}
+
+void check_length(const std::string& list, std::size_t length, const char* count_name, long long count,
+                  ReadReport& report)
+{
+    if (std::cmp_not_equal(length, count))
+        add(report, Finding::Error, "list-length",
+            "field " + list + " has " + values_in_words(length) + ", " + count_name + " is " + std::to_string(count));
+}
+
+// The words that a field may have, in UTF-8. An empty text says nothing and is allowed.
+constexpr std::string_view terrain_categories[] = {
+    "A", "B", "C", "D", "A\xE7\xB1\xBB", "B\xE7\xB1\xBB", "C\xE7\xB1\xBB", "D\xE7\xB1\xBB", // "class" after the letter
+};
 constexpr std::string_view earthquake_types[] = {
     "\xE8\xBF\x9C",             // far
     "\xE8\xBF\x91",             // near
@@ -39,8 +82,7 @@ constexpr std::string_view design_groups[] = {
 };
 
 template<std::size_t Count>
-void check_word(const char* field, const std::string& gbk, const std::string_view (&known)[Count], const char* line,
-                STAAD::ReadReport& report)
+void check_word(const char* field, const std::string& gbk, const std::string_view (&known)[Count], ReadReport& report)
 {
     const auto is_it = [&gbk](std::string_view word) { return gbk_from_utf8(word) == gbk; };
     if (gbk.empty() || std::any_of(std::begin(known), std::end(known), is_it))
@@ -48,70 +90,79 @@ void check_word(const char* field, const std::string& gbk, const std::string_vie
     std::string words;
     for (const std::string_view word : known)
         words.append(words.empty() ? "" : ", ").append(word);
-    warn(report, "field-word", std::string(field) + " is none of " + words + ": no " + line + " line is written");
+    add(report, Finding::Error, "field-value", std::string("field ") + field + " must be one of " + words);
+}
+
+void check_intensity(int intensity, ReadReport& report)
+{
+    constexpr int not_given = 0;
+    constexpr int lowest = 6;
+    constexpr int highest = 9;
+    if (intensity != not_given && (intensity < lowest || intensity > highest))
+        add(report, Finding::Error, "field-value", "field eq_intensity must be 6, 7, 8 or 9, or 0 for none");
+}
+
+/// Each profile has a value for each height.
+void check_profiles(const STAAD::WindLoadParam& wind, ReadReport& report)
+{
+    const auto& profiles = wind.intensities;
+    const auto differs = [&](const std::vector<double>& profile) { return profile.size() != wind.heights.size(); };
+    const auto first = std::find_if(profiles.begin(), profiles.end(), differs);
+    if (first != profiles.end())
+        add(report, Finding::Error, "list-length",
+            "field " + element("intensities", first - profiles.begin()) + " has " + values_in_words(first->size()) +
+                ", heights has " + std::to_string(wind.heights.size()),
+            static_cast<std::size_t>(std::count_if(first, profiles.end(), differs)));
+    for (std::size_t i = 0; i < profiles.size(); ++i)
+        check_not_negative(element("intensities", static_cast<std::ptrdiff_t>(i)), profiles[i], report);
 }
 
 struct spectrum {
-    std::string axis; ///< the end of the names of its fields
+    const char* axis; ///< the end of the names of its fields
     const std::string& title;
     const std::vector<double>& values;
+    bool has_freedom; ///< without it no spectrum is written
 };
 
-/// Why a spectrum that has a title is not written; empty if it is.
-std::string why_left_out(const STAAD::SeismicParam& record, const spectrum& each)
+void check_spectrum(int point_number, const spectrum& each, ReadReport& report)
 {
-    if (each.axis == "y" && !record.y_freedom)
-        return "y_freedom is false";
-    const std::size_t periods = record.periods.size();
-    const std::size_t values = each.values.size();
-    if (record.point_number >= 0 && static_cast<std::size_t>(record.point_number) == periods && periods == values)
-        return {};
-    return "point_number is " + std::to_string(record.point_number) + ", " + length_in_words("periods", periods) +
-           " values, " + length_in_words("spectrum_" + each.axis, values);
-}
-
-void check_spectrum(const STAAD::SeismicParam& record, const spectrum& each, STAAD::ReadReport& report)
-{
-    std::string why = "spectrum_title_" + each.axis + " is empty";
-    if (!each.title.empty())
-        why = why_left_out(record, each);
-    else if (each.values.empty())
-        return; // not wanted
+    const std::string axis = each.axis;
+    const bool has_title = !each.title.empty();
+    if (!each.values.empty() || (has_title && each.has_freedom))
+        check_length("spectrum_" + axis, each.values.size(), "point_number", point_number, report);
+    std::string why;
+    if (has_title && !each.has_freedom)
+        why = "y_freedom is false";
+    else if (!has_title && !each.values.empty())
+        why = "spectrum_title_" + axis + " is empty";
     if (!why.empty())
-        warn(report, "spectrum", "the spectrum of " + each.axis + " is not written: " + why);
+        add(report, Finding::Warning, "spectrum", "the spectrum of " + axis + " is not written: " + why);
 }
 
 } // namespace
 
-void check_parameters(const STAAD::WindLoadParam& record, STAAD::ReadReport& report)
+void check_parameters(const STAAD::WindLoadParam& wind, ReadReport& report)
 {
-    const auto& profiles = record.intensities;
-    const auto differs = [&](const std::vector<double>& profile) { return profile.size() != record.heights.size(); };
-    const auto first = std::find_if(profiles.begin(), profiles.end(), differs);
-    if (first == profiles.end())
-        return;
-    const std::string name = "intensities[" + std::to_string(first - profiles.begin()) + ']';
-    Finding finding{Finding::Warning, "list-length", 0, 0, {}};
-    finding.text = length_in_words("heights", record.heights.size()) + " values, " +
-                   length_in_words(name, first->size()) + ": the profile is written so";
-    finding.count = static_cast<std::size_t>(std::count_if(first, profiles.end(), differs));
-    report.findings.push_back(std::move(finding));
+    if (wind.base_press < 0)
+        add(report, Finding::Error, "field-value", "field base_press must not be negative");
+    check_word("soil_type", wind.soil_type, terrain_categories, report);
+    check_length("heights", wind.heights.size(), "intensity_number", wind.intensity_number, report);
+    check_rising("heights", wind.heights, report);
+    check_profiles(wind, report);
 }
 
-void check_parameters(const STAAD::SeismicParam& record, STAAD::ReadReport& report)
+void check_parameters(const STAAD::SeismicParam& seismic, ReadReport& report)
 {
-    check_word("eq_type", record.eq_type, earthquake_types, "EQ TYPE", report);
-    check_word("eq_group", record.eq_group, design_groups, "EQ GROUP", report);
-    const std::size_t shortest = std::min(record.loadno.size(), record.loadno_factor.size());
-    if (record.loadno_count < 0 || static_cast<std::size_t>(record.loadno_count) > shortest ||
-        record.loadno.size() != record.loadno_factor.size())
-        warn(report, "list-length",
-             "loadno_count is " + std::to_string(record.loadno_count) + ", " +
-                 length_in_words("loadno", record.loadno.size()) + " numbers, " +
-                 length_in_words("loadno_factor", record.loadno_factor.size()) + ": the smallest counts");
-    check_spectrum(record, {"x", record.spectrum_title_x, record.spectrum_x}, report);
-    check_spectrum(record, {"y", record.spectrum_title_y, record.spectrum_y}, report);
-    check_spectrum(record, {"z", record.spectrum_title_z, record.spectrum_z}, report);
+    check_word("eq_type", seismic.eq_type, earthquake_types, report);
+    check_intensity(seismic.eq_intensity, report);
+    check_word("eq_group", seismic.eq_group, design_groups, report);
+    check_length("loadno", seismic.loadno.size(), "loadno_count", seismic.loadno_count, report);
+    check_length("loadno_factor", seismic.loadno_factor.size(), "loadno_count", seismic.loadno_count, report);
+    const int points = seismic.point_number;
+    check_length("periods", seismic.periods.size(), "point_number", points, report);
+    check_spectrum(points, {"x", seismic.spectrum_title_x, seismic.spectrum_x, true}, report);
+    check_spectrum(points, {"y", seismic.spectrum_title_y, seismic.spectrum_y, seismic.y_freedom}, report);
+    check_spectrum(points, {"z", seismic.spectrum_title_z, seismic.spectrum_z, true}, report);
 }
 
 } // namespace tool

@@ -4,7 +4,6 @@
 #include "cli/read_stream.h"
 #include "cli/suggest.h"
 #include "cli/text_encoding.h"
-#include "convert/parameter_checks.h"
 #include "staad/model/fields.h"
 
 #include <nlohmann/json.hpp>
@@ -42,7 +41,7 @@ bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& re
     return was_read;
 }
 
-/// The part of a parser's message behind its own name for the error and the place.
+/// The part of a parser's message after its own name for the error and the place.
 std::string bare_message(std::string_view message)
 {
     constexpr std::string_view end_of_place = ": ";

@@ -20,6 +20,16 @@ STAAD::ReadReport read_parameters(const std::string& path, STAAD::SeismicParam& 
 STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::WindLoadParam& record);
 STAAD::ReadReport parameters_of_text(const std::string& text, STAAD::SeismicParam& record);
 
+/// The part of this that needs a whole record. Errors: a negative pressure, heights that do not rise, a
+/// list whose length is not that of its counterpart, a word or an intensity that the seismic and wind
+/// codes do not have (empty and 0 stand for none). Warnings: spectra that will not be written.
+void check_parameters(const STAAD::WindLoadParam& wind, STAAD::ReadReport& report);
+void check_parameters(const STAAD::SeismicParam& seismic, STAAD::ReadReport& report);
+
+/// Parameters of a small building, for people to change.
+STAAD::WindLoadParam example_wind();
+STAAD::SeismicParam example_seismic();
+
 } // namespace tool
 
 #endif

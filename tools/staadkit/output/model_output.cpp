@@ -28,15 +28,19 @@ std::string output_name(const std::string& path)
     return path == "-" ? "<stdout>" : path;
 }
 
-std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs)
+std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs, bool force)
 {
-    std::error_code no_file;
-    if (path == "-" || !fs::is_regular_file(native_path(path), no_file))
+    if (path == "-")
         return {};
-    const bool is_input = std::any_of(inputs.begin(), inputs.end(),
-                                      [&path](const std::string& input) { return is_same_file(input, path); });
-    const std::string what = !is_input ? "is there already" : inputs.size() == 1 ? "is the input" : "is an input";
-    return what + "; --force overwrites it";
+    std::error_code no_file;
+    if (!force && fs::is_regular_file(native_path(path), no_file)) {
+        const bool is_input = std::any_of(inputs.begin(), inputs.end(),
+                                          [&path](const std::string& input) { return is_same_file(input, path); });
+        const std::string what = !is_input ? "is there already" : inputs.size() == 1 ? "is the input" : "is an input";
+        return what + "; --force overwrites it";
+    }
+    const std::error_code obstacle = obstacle_to_writing(native_path(path));
+    return obstacle ? obstacle.message() : std::string();
 }
 
 exit_code fail_to_write(const std::string& path, const std::string& reason)

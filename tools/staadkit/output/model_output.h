@@ -13,9 +13,9 @@ namespace tool {
 /// The name of an output for messages: "<stdout>" for "-".
 std::string output_name(const std::string& path);
 
-/// Why a file must not be written to `path`, which is there already or one of the `inputs`; empty if it
-/// may be. "-" always may.
-std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs);
+/// Why no file can be written to `path`, as far as that shows beforehand; empty if one can. A file that is
+/// there already, which may be one of the `inputs`, is overwritten only with `force`. "-" can be written to.
+std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs, bool force);
 
 /// Tells why the file was not written.
 exit_code fail_to_write(const std::string& path, const std::string& reason);

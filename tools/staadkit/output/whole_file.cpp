@@ -139,27 +139,75 @@ fs::path end_of_links(fs::path path, std::error_code& error)
     return path;
 }
 
+/// Where a text goes, and how.
+struct write_target {
+    fs::path path;        ///< at the end of all links
+    fs::file_status file; ///< what stands there
+    std::error_code error;
+
+    /// A file takes the place of another; into what is no file, a text is written.
+    bool is_file() const { return file.type() == fs::file_type::regular || file.type() == fs::file_type::not_found; }
+};
+
+write_target find_target(const fs::path& path)
+{
+    write_target target{path, {}, {}};
+    target.file = fs::status(path, target.error);
+    if (target.file.type() == fs::file_type::none)
+        return target;
+    target.error.clear();
+    if (target.file.type() == fs::file_type::directory)
+        target.error = std::make_error_code(std::errc::is_a_directory);
+    else if (target.file.type() == fs::file_type::regular)
+        target.path = fs::canonical(path, target.error);
+    else if (target.file.type() == fs::file_type::not_found)
+        target.path = end_of_links(path, target.error);
+    return target;
+}
+
+/// Why this process cannot write to what is there, as far as the system tells.
+std::error_code obstacle_at(const fs::path& file)
+{
+#ifdef _WIN32
+    constexpr int for_writing = 2;
+    return _waccess(file.c_str(), for_writing) == 0 ? std::error_code() : last_error();
+#else
+    return access(file.c_str(), W_OK) == 0 ? std::error_code() : last_error();
+#endif
+}
+
+/// The same of making a file in `folder`.
+std::error_code obstacle_in(const fs::path& folder)
+{
+#ifdef _WIN32
+    // The attributes of a folder do not say who may write into it.
+    std::error_code error;
+    const bool is_there = folder.empty() || fs::is_directory(folder, error);
+    return is_there ? std::error_code() : std::make_error_code(std::errc::no_such_file_or_directory);
+#else
+    return obstacle_at(folder / "."); // the current folder if it is empty, and no other file than a folder
+#endif
+}
+
 } // namespace
+
+std::error_code obstacle_to_writing(const fs::path& path)
+{
+    const write_target target = find_target(path);
+    if (target.error)
+        return target.error;
+    return target.is_file() ? obstacle_in(target.path.parent_path()) : obstacle_at(target.path);
+}
 
 std::error_code write_whole_file(const fs::path& path, std::string_view text)
 {
-    std::error_code error;
-    const fs::file_status status = fs::status(path, error);
-    switch (status.type()) {
-    case fs::file_type::none:
-        return error;
-    case fs::file_type::directory:
-        return std::make_error_code(std::errc::is_a_directory);
-    case fs::file_type::not_found:
-    case fs::file_type::regular:
-        break;
-    default:
-        return write_directly(path, text);
-    }
-    error.clear();
-    const bool is_there = status.type() == fs::file_type::regular;
-    const fs::path target = is_there ? fs::canonical(path, error) : end_of_links(path, error);
-    return error ? error : write_and_rename(target, is_there ? status.permissions() : fs::perms::none, text);
+    const write_target target = find_target(path);
+    if (target.error)
+        return target.error;
+    if (!target.is_file())
+        return write_directly(target.path, text);
+    const bool is_there = target.file.type() == fs::file_type::regular;
+    return write_and_rename(target.path, is_there ? target.file.permissions() : fs::perms::none, text);
 }
 
 } // namespace tool

@@ -16,6 +16,10 @@ namespace tool {
 /// What is no file, such as a device or a pipe, is written to directly.
 std::error_code write_whole_file(const std::filesystem::path& path, std::string_view text);
 
+/// Why write_whole_file() cannot write to `path`, as far as that shows before a byte is written: a folder
+/// stands there, the folder of the file is missing, or one of them may not be written to.
+std::error_code obstacle_to_writing(const std::filesystem::path& path);
+
 } // namespace tool
 
 #endif

@@ -1,6 +1,4 @@
-#include "convert/parameter_template.h"
-
-#include "output/json_writer.h"
+#include "convert/parameter_file.h"
 
 #include <cmath>
 #include <cstddef>
@@ -13,6 +11,8 @@ double hundredths(double value)
 {
     return std::round(value * 100.0) / 100.0;
 }
+
+} // namespace
 
 /// Four storeys of 18 m by 12 m in the country, 0.45 kN/m2, five points of the profile.
 STAAD::WindLoadParam example_wind()
@@ -63,18 +63,6 @@ STAAD::SeismicParam example_seismic()
     seismic.spectrum_x = {0.072, 0.16, 0.16, 0.1161, 0.0857, 0.0622, 0.0459, 0.0376, 0.0352, 0.0304};
     seismic.spectrum_z = seismic.spectrum_x;
     return seismic;
-}
-
-} // namespace
-
-exit_code print_template(const std::string& name)
-{
-    std_output out;
-    if (name == wind_template)
-        json_writer(out).document(example_wind());
-    else
-        json_writer(out).document(example_seismic());
-    return out.close(done);
 }
 
 } // namespace tool
