@@ -1,18 +1,21 @@
 #!/usr/bin/env bash
-# refresh-docs.sh [--check] TOOL
+# refresh-docs.sh [--check] TOOL [CODES]
 #
 # Brings the generated blocks of README*.md and docs/**/*.md up to date, or with --check shows how they
-# differ from what they should be and fails. TOOL is the built staadkit. A block is a marker line and
-# the fence right after it, whose content is replaced:
+# differ from what they should be and fails. TOOL is the built staadkit, CODES the program that prints the
+# table of finding codes; by default that of the same build tree. A block is a marker line and the fence
+# right after it, whose content is replaced:
 #
 #   <!-- output: staadkit info examples/x.std -->   then ```text: the command and what it prints
 #   <!-- source: examples/x.cpp -->                 then ```cpp:  the file
+#
+# and <!-- table: finding-codes -->, where what stands up to <!-- end of table --> is replaced.
 #
 # Commands are run from the project's root; what goes to standard error is not taken.
 set -euo pipefail
 
 usage() {
-    echo "usage: refresh-docs.sh [--check] TOOL" >&2
+    echo "usage: refresh-docs.sh [--check] TOOL [CODES]" >&2
     exit 2
 }
 
@@ -21,8 +24,10 @@ if [ "${1:-}" = --check ]; then
     check=yes
     shift
 fi
-[ $# -eq 1 ] && [ -x "$1" ] || usage
-tool=$(cd "$(dirname "$1")" && pwd)/$(basename "$1")
+{ [ $# -eq 1 ] || [ $# -eq 2 ]; } && [ -x "$1" ] || usage
+absolute() { echo "$(cd "$(dirname "$1")" && pwd)/$(basename "$1")"; }
+tool=$(absolute "$1")
+codes=$(absolute "${2:-$(dirname "$tool")/../../tests/docs/staadkit_finding_codes}")
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 scratch=$(mktemp -d)
@@ -46,25 +51,33 @@ content() {
     source)
         cat "$2" || fail "no such file: $2"
         ;;
+    table)
+        [ "$2" = finding-codes ] || fail "no such table: $2"
+        "$codes" || fail "cannot print the table: $codes"
+        ;;
     esac | awk 1
 }
 
 # A markdown file from standard input with its blocks made anew.
 regenerate() { # file
     local file=$1 place=$1 number=0 line kind argument language
-    local marker='^<!-- (output|source): (.+) -->$'
+    local marker='^<!-- (output|source|table): (.+) -->$' end
     while IFS= read -r line || [ -n "$line" ]; do
         number=$((number + 1))
         place=$file:$number
         printf '%s\n' "$line"
         [[ $line =~ $marker ]] || continue
         kind=${BASH_REMATCH[1]} argument=${BASH_REMATCH[2]}
-        language=text
-        [ "$kind" = output ] || language=cpp
-        IFS= read -r line && [ "$line" = "\`\`\`$language" ] || fail "no \`\`\`$language after the marker"
-        printf '%s\n' "$line"
+        end='<!-- end of table -->'
+        if [ "$kind" != table ]; then
+            end='```' language=text
+            [ "$kind" = output ] || language=cpp
+            IFS= read -r line && [ "$line" = "\`\`\`$language" ] || fail "no \`\`\`$language after the marker"
+            number=$((number + 1))
+            printf '%s\n' "$line"
+        fi
         content "$kind" "$argument"
-        until [ "$line" = '```' ]; do
+        until [ "$line" = "$end" ]; do
             IFS= read -r line || fail "the block is not closed"
             number=$((number + 1))
         done

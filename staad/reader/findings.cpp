@@ -1,6 +1,7 @@
 #include "staad/reader/findings.h"
 
 #include "staad/reader/near_keyword.h"
+#include "staad/report/input_findings.h"
 #include "staad/text/words.h"
 #include "staad/units/unit_factors.h"
 
@@ -10,8 +11,8 @@
 namespace STAAD::detail {
 namespace {
 
-/// Texts are quoted in messages up to this length.
-constexpr std::size_t longest_quote = 60;
+/// Words of commands are shown up to this length.
+constexpr std::size_t longest_word = 60;
 
 /// Data lines begin with a digit, now and then behind blanks.
 bool is_data(std::string_view line) noexcept
@@ -33,10 +34,10 @@ std::string command_words(std::string_view line)
     word_cursor words(line);
     const std::string_view first = words.next_or_empty();
     const std::string_view second = words.next_or_empty();
-    std::string command(first.substr(0, longest_quote));
+    std::string command(first.substr(0, longest_word));
     if (!second.empty() && std::all_of(second.begin(), second.end(), is_letter)) {
         command += ' ';
-        command += second.substr(0, longest_quote);
+        command += second.substr(0, longest_word);
     }
     return command;
 }
@@ -86,16 +87,6 @@ private:
     std::vector<skipped_command> commands_;
 };
 
-/// Where to cut a text of at most `limit` bytes: behind a byte that is the second half of no
-/// character, in UTF-8 and in GBK alike; most often a blank.
-std::size_t cut_of(std::string_view text, std::size_t limit) noexcept
-{
-    for (std::size_t end = limit; end > 0; --end)
-        if (const auto byte = static_cast<unsigned char>(text[end - 1]); byte < 0x40)
-            return end;
-    return limit;
-}
-
 /// Words that no list understands, though engineers know them from other lists.
 bool is_list_word(std::string_view word) noexcept
 {
@@ -104,17 +95,9 @@ bool is_list_word(std::string_view word) noexcept
 
 } // namespace
 
-std::string quote(std::string_view text)
-{
-    text = trim_blanks(text);
-    if (text.size() <= longest_quote)
-        return "'" + std::string(text) + "'";
-    return "'" + std::string(text.substr(0, cut_of(text, longest_quote))) + "...'";
-}
-
 void tell_nobody(std::string_view what, const text_line& line, reading& run)
 {
-    run.findings.warn("list-nobody", line.place, [&] {
+    run.findings.add(FindingCode::list_nobody, line.place, [&] {
         return quote(line.text) + ": its list names nobody, so the " + std::string(what) + " has no effect";
     });
 }
@@ -123,7 +106,7 @@ void tell_list_stopped(std::string_view word, const text_line& line, reading& ru
 {
     if (word.empty())
         return;
-    run.findings.warn("list-stopped", line.place, [&] {
+    run.findings.add(FindingCode::list_stopped, line.place, [&] {
         return quote(line.text) + ": the list ends at " + quote(word) + ", what stands behind is not part of it";
     });
 }
@@ -134,9 +117,9 @@ void tell_list_word(std::string_view word, const text_line& line, reading& run)
         tell_list_stopped(word, line, run);
 }
 
-void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run)
+void tell_unknown(FindingCode code, std::string_view what, int number, const text_line& line, reading& run)
 {
-    run.findings.warn(code, line.place, [&] {
+    run.findings.add(code, line.place, [&] {
         return quote(line.text) + " names " + std::string(what) + " " + std::to_string(number) +
                ", which the file does not define";
     });
@@ -144,7 +127,7 @@ void tell_unknown(std::string_view code, std::string_view what, int number, cons
 
 void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run)
 {
-    run.findings.warn("joint-unknown", place, [&] {
+    run.findings.add(FindingCode::joint_unknown, place, [&] {
         return std::string(what) + " " + std::to_string(number) + " refers to joint " + std::to_string(joint) +
                ", which JOINT COORDINATES does not define";
     });
@@ -160,7 +143,7 @@ void tell_block_end(std::string_view keyword, const line_list& lines, std::size_
     const std::size_t lost = count_data_lines(lines, data);
     if (lost == 0)
         return;
-    run.findings.warn("block-ended", lines[end].place, [&] {
+    run.findings.add(FindingCode::block_ended, lines[end].place, [&] {
         return quote(lines[end].text) + " ends the lines under " + std::string(keyword) + "; " + std::to_string(lost) +
                " data " + (lost == 1 ? "line" : "lines") + " from there on are not read";
     });
@@ -169,7 +152,7 @@ void tell_block_end(std::string_view keyword, const line_list& lines, std::size_
 void tell_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& run)
 {
     if (begin < lines.size())
-        run.findings.warn("block-open", lines[begin].place, [&] {
+        run.findings.add(FindingCode::block_open, lines[begin].place, [&] {
             return quote(lines[begin].text) + " has no line '" + std::string(closing) + "' after it";
         });
 }
@@ -185,7 +168,7 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
         if (meant.empty())
             continue;
         const auto severity = meant == missing ? Finding::Error : Finding::Warning;
-        run.findings.add(severity, "keyword-near", lines[i].place, [&] {
+        run.findings.add_as(severity, FindingCode::keyword_near, lines[i].place, [&] {
             // As it stands: the blanks that make the difference are to be seen.
             const bool only_blanks = starts_with(trim_blanks(lines[i].text), meant);
             return "'" + std::string(lines[i].text) + "' is not '" + std::string(meant) + "'" +
@@ -197,13 +180,8 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
 void tell_file_trouble(file_bytes::state outcome, reading& run)
 {
     using state = file_bytes::state;
-    constexpr line_place whole_file{0, 0};
-    if (outcome == state::missing)
-        run.findings.fail("file-missing", whole_file, "the file does not exist");
-    else if (outcome == state::not_accessible)
-        run.findings.fail("file-access", whole_file, "the file cannot be opened for reading and writing");
-    else if (outcome == state::unreadable)
-        run.findings.fail("file-unreadable", whole_file, "the file cannot be read to its end");
+    report_file_trouble({.is_missing = outcome == state::missing, .is_refused = outcome == state::not_accessible},
+                        run.findings);
 }
 
 void tell_unit_words(std::string_view unit_line, line_place place, reading& run)
@@ -211,17 +189,8 @@ void tell_unit_words(std::string_view unit_line, line_place place, reading& run)
     if (!run.findings.listening())
         return;
     const unit_factors factors = factors_of_unit_line(unit_line);
-    if (factors.is_short)
-        run.findings.warn("unit-short", place,
-                          [&] { return quote(unit_line) + " has no force word: lengths count as mm, forces as kN"; });
-    const auto tell = [&](const std::string& word, const char* what, const char* counts_as) {
-        if (!word.empty())
-            run.findings.warn("unit-word", place,
-                              [&] { return quote(word) + " is not a known " + what + " unit: " + counts_as; });
-    };
-    tell(factors.unknown_length, "length", "lengths count as mm");
-    tell(factors.unknown_force, "force", "forces count as kN");
-    tell(factors.unknown_moment, "moment", "printed moments count as kN*mm");
+    report_unit_words(unit_line, factors.is_short,
+                      {factors.unknown_length, factors.unknown_force, factors.unknown_moment}, place, run.findings);
 }
 
 void tell_skipped(const line_list& lines, reading& run)
@@ -239,7 +208,7 @@ void tell_skipped(const line_list& lines, reading& run)
             tally.add_line(lines[i].place);
     }
     for (const skipped_command& skipped : tally.commands())
-        run.findings.list(Finding::Note, "skipped", skipped.first, skipped.words, skipped.count);
+        run.findings.list(FindingCode::skipped, skipped.first, skipped.words, skipped.count);
 }
 
 } // namespace STAAD::detail

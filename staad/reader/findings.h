@@ -12,9 +12,6 @@
 
 namespace STAAD::detail {
 
-/// `text` in quotes, cut short if it is long.
-std::string quote(std::string_view text);
-
 /// A data line that names nobody the model has: `what` was read for no joint, member or surface.
 void tell_nobody(std::string_view what, const text_line& line, reading& run);
 
@@ -25,7 +22,7 @@ void tell_list_stopped(std::string_view word, const text_line& line, reading& ru
 void tell_list_word(std::string_view word, const text_line& line, reading& run);
 
 /// A list names a single number that no joint, member or element has.
-void tell_unknown(std::string_view code, std::string_view what, int number, const text_line& line, reading& run);
+void tell_unknown(FindingCode code, std::string_view what, int number, const text_line& line, reading& run);
 
 /// A member, element or surface stands on a joint that the file does not define.
 void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run);

@@ -6,6 +6,7 @@
 #include "staad/reader/blocks/read_materials.h"
 #include "staad/reader/blocks/read_properties.h"
 #include "staad/reader/findings.h"
+#include "staad/units/unit_factors.h"
 
 #include <algorithm>
 #include <utility>
@@ -44,7 +45,7 @@ void tell_later_units(const line_list& lines, std::size_t governing, reading& ru
             return std::find(known.begin(), known.end(), word) != known.end();
         });
         if (!same)
-            run.findings.warn("unit-later", lines[i].place, [&] {
+            run.findings.add(FindingCode::unit_later, lines[i].place, [&] {
                 return detail::quote(lines[i].text) + " changes nothing: the whole file is read in " +
                        detail::quote(lines[governing].text);
             });
@@ -72,10 +73,10 @@ std::string why_no_unit(const line_list& lines)
 }
 
 /// No model: why, and the nearest line that looks like the one that is missing.
-bool no_model(std::string_view code, std::string_view missing, std::string why, const line_list& lines, reading& run)
+bool no_model(FindingCode code, std::string_view missing, std::string why, const line_list& lines, reading& run)
 {
     if (!lines.empty() || run.findings.empty()) // a file that could not be read has been told of
-        run.findings.fail(code, whole_text, std::move(why));
+        run.findings.add(code, whole_text, [&] { return std::move(why); });
     detail::tell_near_keywords(lines, missing, run);
     return false;
 }
@@ -89,6 +90,14 @@ line_list SdReader::get_all_lines_from_file(const char* path, const std::string&
         return {std::move(file.bytes), file.size, skip_prefix};
     detail::tell_file_trouble(file.outcome, run);
     return {};
+}
+
+void SdReader::unify_staadpro_unit()
+{
+    const detail::unit_factors factors = detail::factors_of_unit_line(unit_text);
+    length_factor = factors.length;
+    force_factor = factors.force;
+    force_length_factor = factors.force_length;
 }
 
 bool SdReader::read_file(const char* path, reading run)
@@ -133,19 +142,19 @@ bool SdReader::read_lines(line_list lines, reading& run)
 
     const std::size_t unit = lines.find_start("UNIT");
     if (unit >= lines.size() || unit + 1 == lines.size())
-        return no_model("no-unit", "UNIT", why_no_unit(lines), lines, run);
+        return no_model(FindingCode::no_unit, "UNIT", why_no_unit(lines), lines, run);
     unit_text = lines[unit].text;
     unify_staadpro_unit();
     tell_units(lines, unit, run);
 
     const std::size_t joints = lines.find_start("JOINT COORDINATES", unit + 1);
     if (joints == lines.size())
-        return no_model("no-joints", "JOINT COORDINATES", "no line after the UNIT line begins with 'JOINT COORDINATES'",
-                        lines, run);
+        return no_model(FindingCode::no_joints, "JOINT COORDINATES",
+                        "no line after the UNIT line begins with 'JOINT COORDINATES'", lines, run);
     const std::size_t members = lines.find_equal("MEMBER INCIDENCES", joints + 1);
     if (members == lines.size())
-        return no_model("no-members", "MEMBER INCIDENCES", "no line after the joints is exactly 'MEMBER INCIDENCES'",
-                        lines, run);
+        return no_model(FindingCode::no_members, "MEMBER INCIDENCES",
+                        "no line after the joints is exactly 'MEMBER INCIDENCES'", lines, run);
     run.used.mark(joints);
     run.used.mark(members);
     detail::read_joints(*this, lines, {joints + 1, members}, run);

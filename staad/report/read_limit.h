@@ -33,12 +33,15 @@ public:
     std::size_t first_line() const noexcept { return first_line_; }
     std::size_t last_line() const noexcept { return last_line_; }
     std::size_t limit() const noexcept { return limit_; }
+    /// What what() says, without the place: "a list of more than 16777216 numbers".
+    const char* text() const noexcept { return what_ + size_of_place_; }
 
 private:
     std::size_t first_line_;
     std::size_t last_line_;
     std::size_t limit_;
-    char text_[112] = {};
+    std::size_t size_of_place_ = 0;
+    char what_[112] = {};
 };
 
 } // namespace STAAD

@@ -3,13 +3,11 @@
 #ifndef STAAD_TEXT_ID_LIST_H
 #define STAAD_TEXT_ID_LIST_H
 
-#include "staad/report/read_limit.h"
 #include "staad/text/number.h"
 #include "staad/text/words.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 #include <string_view>
 
 namespace STAAD::detail {
@@ -65,7 +63,7 @@ public:
         return false;
     }
 
-    /// The words behind the list, from the one that ended it; valid once next() gave false.
+    /// The words after the list, from the one that ended it; valid once next() gave false.
     const Words& after_list() const noexcept { return after_list_; }
 
 private:
@@ -105,63 +103,6 @@ private:
     int previous_ = 0;
     bool ended_ = false;
 };
-
-/// Counts the numbers that the stored lists of one reading stand for, and the long texts that it gives
-/// out, and throws ReadLimitError before a list or all of them together take more than a reading holds.
-class id_budget {
-public:
-    /// A new list begins, at these physical lines.
-    void start_list(std::size_t first_line, std::size_t last_line) noexcept
-    {
-        first_line_ = first_line;
-        last_line_ = last_line;
-        in_list_ = 0;
-    }
-    /// Takes `count` numbers for the current list.
-    void take(std::size_t count)
-    {
-        if (count > most_numbers_per_list - in_list_)
-            throw ReadLimitError(first_line_, last_line_, most_numbers_per_list);
-        take_references(count);
-        in_list_ += count;
-    }
-    /// Takes `count` numbers that no list holds: load references of members and joints.
-    void take_references(std::size_t count)
-    {
-        if (count > most_numbers_per_reading - in_reading_)
-            throw ReadLimitError(first_line_, last_line_, most_numbers_per_reading);
-        in_reading_ += count;
-    }
-    /// One more record takes a text of `size` bytes.
-    void take_text(std::size_t size)
-    {
-        if (size <= longest_plain_text)
-            return;
-        if (size > most_text_per_reading - text_in_reading_)
-            throw ReadLimitError(first_line_, last_line_, most_text_per_reading);
-        text_in_reading_ += size;
-    }
-
-private:
-    std::size_t first_line_ = 0;
-    std::size_t last_line_ = 0;
-    std::size_t in_list_ = 0;
-    std::size_t in_reading_ = 0;
-    std::size_t text_in_reading_ = 0;
-};
-
-/// Appends the numbers of a list to `ids`, counted out; all of them or, past the budget, none.
-template<class Ids, class Words>
-void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
-{
-    id_list_walker<Words> counting = walker;
-    for (id_run run; counting.next(run);)
-        budget.take(run.size());
-    auto place = ids.end(); // for a list the end, for a set the likely place of the next number
-    for (id_run run; walker.next(run);)
-        for (std::int64_t number = run.first; number <= run.last; ++number)
-            place = std::next(ids.insert(place, static_cast<typename Ids::value_type>(number)));
-}
 
 } // namespace STAAD::detail
 

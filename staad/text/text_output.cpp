@@ -25,7 +25,7 @@ std::string text_output::take()
 
 void text_output::end_block()
 {
-    if (file_ != nullptr) {
+    if (write_block_) {
         hand_over();
         return;
     }
@@ -36,9 +36,9 @@ void text_output::end_block()
 
 void text_output::hand_over() noexcept
 {
-    if (file_ == nullptr)
+    if (!write_block_)
         return;
-    file_->write(text_);
+    write_block_(text_);
     text_.clear();
 }
 

@@ -2,11 +2,11 @@
 #ifndef STAAD_TEXT_TEXT_OUTPUT_H
 #define STAAD_TEXT_TEXT_OUTPUT_H
 
-#include "staad/io/file_access.h"
 #include "staad/text/number_text.h"
 
 #include <concepts>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,8 +19,17 @@ class text_output {
 public:
     /// Keeps all of the text; see take().
     text_output() = default;
-    /// Hands the text over to `file` a block at a time, the rest when it is destroyed.
-    explicit text_output(output_file& file) : file_(&file) {}
+    /// Hands the text over to `sink.write(text)` a block at a time, the rest when it is destroyed. A write
+    /// that fails must not throw: the sink keeps what went wrong.
+    template<class Sink>
+    requires requires(Sink& sink, std::string_view text)
+    {
+        {
+            sink.write(text)
+        }
+        noexcept;
+    }
+    explicit text_output(Sink& sink) : write_block_([&sink](std::string_view text) { sink.write(text); }) {}
     ~text_output() { hand_over(); }
     text_output(const text_output&) = delete;
     text_output& operator=(const text_output&) = delete;
@@ -57,7 +66,7 @@ private:
     void end_block();
     void hand_over() noexcept;
 
-    output_file* file_ = nullptr;
+    std::function<void(std::string_view)> write_block_; // empty: the text is kept
     std::vector<std::string> blocks_; // kept so far: one string of them all would be moved as it grows
     std::string text_;
 };

@@ -1,14 +1,12 @@
 #include "staad/units/unit_factors.h"
 
-#include "staad/model/sd_reader.h"
 #include "staad/text/words.h"
 #include "staad/units/unit_table.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace STAAD {
-namespace detail {
+namespace STAAD::detail {
 namespace {
 
 std::string without_first_hyphen(std::string word)
@@ -51,14 +49,4 @@ unit_factors factors_of_unit_line(std::string_view line)
     return factors;
 }
 
-} // namespace detail
-
-void SdReader::unify_staadpro_unit()
-{
-    const detail::unit_factors factors = detail::factors_of_unit_line(unit_text);
-    length_factor = factors.length;
-    force_factor = factors.force;
-    force_length_factor = factors.force_length;
-}
-
-} // namespace STAAD
+} // namespace STAAD::detail

@@ -91,7 +91,7 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
         words.next_or_empty(); // MEMB
         const detail::list_end list =
             detail::assign_to_list(assignments, static_cast<int>(angles.size()), words, [&](int number) {
-                detail::tell_unknown("member-unknown", "member", number, lines[i], run);
+                detail::tell_unknown(FindingCode::member_unknown, "member", number, lines[i], run);
             });
         detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], run);
         angles.push_back(angle);
@@ -123,7 +123,8 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& ru
     const std::string_view line = lines[chosen].text;
     constexpr std::size_t keyword_size = 7; // of DENSITY
     concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));
-    run.findings.warn("density", lines[chosen].place, [&] {
+    run.findings.density_from(lines[chosen].place);
+    run.findings.add(FindingCode::density, lines[chosen].place, [&] {
         return "the concrete density is taken from " + detail::quote(line) + " and becomes " +
                detail::format_real(concrete_density);
     });

@@ -40,7 +40,7 @@ void note_thickness(last_assignments& elements, SdReader& model, const text_line
     const list_end list =
         assign_to_list(elements, thickness, word_cursor(without_last_words(line.text, 2)), [&](int number) {
             model.shell_index.emplace(number, 0);
-            tell_unknown("element-unknown", "element", number, line, run);
+            tell_unknown(FindingCode::element_unknown, "element", number, line, run);
         });
     check_list_end("thickness", list, list.stopped_at.empty() || starts_with(list.stopped_at, "TH"), line, run);
 }

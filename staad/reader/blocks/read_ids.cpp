@@ -1,7 +1,7 @@
 // The number lists of the reader, counted out.
 
 #include "staad/model/sd_reader.h"
-#include "staad/text/id_list.h"
+#include "staad/report/id_budget.h"
 
 namespace STAAD {
 namespace {

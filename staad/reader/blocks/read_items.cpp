@@ -7,12 +7,12 @@ void check_item(std::string_view item, std::size_t words, int number, const item
                 finding_sink& findings)
 {
     if (words < kind.fewest_words)
-        findings.warn("item-short", place, [&] {
+        findings.add(FindingCode::item_short, place, [&] {
             return std::string(kind.name) + " " + quote(item) + " has " + std::to_string(words) + " of at least " +
                    std::to_string(kind.fewest_words) + " words; what is missing counts as 0";
         });
     else if (number < 1)
-        findings.warn("item-number", place, [&] {
+        findings.add(FindingCode::item_number, place, [&] {
             return std::string(kind.name) + " " + quote(item) + " has the number " + std::to_string(number) +
                    ", which no list can name";
         });

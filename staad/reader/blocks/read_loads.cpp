@@ -145,12 +145,12 @@ private:
     void check_case(const LoadCase& header, const detail::text_line& line)
     {
         if (header.id < 1)
-            run_.findings.warn("load-number", line.place, [&] {
+            run_.findings.add(FindingCode::load_number, line.place, [&] {
                 return detail::quote(line.text) + " has no number; what follows belongs to load case " +
                        std::to_string(header.id);
             });
         if (model_.load_cases.count(header.id) != 0)
-            run_.findings.warn("load-again", line.place, [&] {
+            run_.findings.add(FindingCode::load_again, line.place, [&] {
                 return "load case " + std::to_string(header.id) + " was there before; " + detail::quote(line.text) +
                        " takes the place of its header, loads of both stay";
             });
@@ -162,11 +162,11 @@ private:
         if (block_ == joint_load || is_understood(block_))
             return;
         if (detail::trim_blanks(block_) == joint_load)
-            run_.findings.warn("keyword-near", line.place, [&] {
+            run_.findings.add(FindingCode::keyword_near, line.place, [&] {
                 return "'" + std::string(block_) + "' is not 'JOINT LOAD': its numbers are taken for members";
             });
         else
-            run_.findings.warn("load-block", line.place, [&] {
+            run_.findings.add(FindingCode::load_block, line.place, [&] {
                 return detail::quote(block_) +
                        " is not understood: its loads are kept as text, their numbers taken for members";
             });

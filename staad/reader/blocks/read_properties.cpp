@@ -88,8 +88,9 @@ public:
         run_.used.mark(index);
         const list_end end =
             assign_to_list(members_, static_cast<int>(properties_.size()),
-                           word_cursor(without_last_words(line.text, words_never_members)),
-                           [&](int number) { tell_unknown("member-unknown", "member", number, line, run_); });
+                           word_cursor(without_last_words(line.text, words_never_members)), [&](int number) {
+                               tell_unknown(FindingCode::member_unknown, "member", number, line, run_);
+                           });
         check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run_);
         properties_.push_back({std::move(property), codes_.size() - 1, line.place});
     }

@@ -65,7 +65,7 @@ void check_description(const detail::id_list_walker<>& walker, detail::word_curs
 
 /// What the numbers of a block are numbers of.
 struct listed_records {
-    const char* code;
+    FindingCode code;
     const char* name;
     const detail::number_lookup& numbers;
 };
@@ -109,7 +109,7 @@ void check_number(std::string_view word, const text_line& line, reading& run)
 {
     if (!run.findings.listening() || word.find_first_of("0123456789") != std::string_view::npos)
         return;
-    run.findings.warn("number-word", line.place, [&] {
+    run.findings.add(FindingCode::number_word, line.place, [&] {
         return detail::quote(line.text) + ": " +
                (word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due") +
                " and counts as 0";
@@ -142,13 +142,13 @@ offset_line read_offset_line(const text_line& line, double length_factor, readin
 
 void SdReader::read_support(const detail::line_list& lines, detail::reading& run)
 {
-    read_described(supports, {"joint-unknown", "joint", run.joints}, lines,
+    read_described(supports, {FindingCode::joint_unknown, "joint", run.joints}, lines,
                    find_block("SUPPORTS", lines, is_support_line, run), run);
 }
 
 void SdReader::read_release(const detail::line_list& lines, detail::reading& run)
 {
-    read_described(releases, {"member-unknown", "member", run.members}, lines,
+    read_described(releases, {FindingCode::member_unknown, "member", run.members}, lines,
                    find_block("MEMBER RELEASE", lines, is_member_end_line, run), run);
 }
 
@@ -165,7 +165,7 @@ void SdReader::read_offset(const detail::line_list& lines, detail::reading& run)
         const offset_line line = read_offset_line(lines[i], length_factor, run);
         const detail::list_end list = detail::assign_to_list(
             line.end == "START" ? starts : ends, static_cast<int>(offsets.size()), detail::word_cursor(lines[i].text),
-            [&](int number) { detail::tell_unknown("member-unknown", "member", number, lines[i], run); });
+            [&](int number) { detail::tell_unknown(FindingCode::member_unknown, "member", number, lines[i], run); });
         detail::check_list_end("offset", list, list.stopped_at == "START" || list.stopped_at == "END", lines[i], run);
         offsets.push_back(line.offset);
     }

@@ -1,7 +1,6 @@
 /// How much the lists of one reading may hold, and the error that says where it was too much.
 
-#include "staad/report/read_limit.h"
-#include "staad/text/id_list.h"
+#include "staad/report/id_budget.h"
 #include "tests/support/sd_reader_access.h"
 
 #include <gtest/gtest.h>
@@ -31,6 +30,8 @@ TEST(ReadLimitError, SaysWhereAndHowMuch)
     EXPECT_EQ(error.first_line(), 118u);
     EXPECT_EQ(error.last_line(), 118u);
     EXPECT_EQ(error.limit(), 16777216u);
+    EXPECT_STREQ(error.text(), "a list of more than 16777216 numbers");
+    EXPECT_STREQ(ReadLimitError(0, 0, most_numbers_per_list).text(), "a list of more than 16777216 numbers");
 
     const ReadLimitError joined(118, 121, most_numbers_per_reading);
     const std::string text = joined.what();

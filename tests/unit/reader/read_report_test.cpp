@@ -292,6 +292,18 @@ TEST(ReadReport, ANewReadingEmptiesIt)
     EXPECT_TRUE(report.findings.empty());
 }
 
+TEST(ReadReport, SaysFromWhichLinesTheDensityCame)
+{
+    const std::string material = "DEFINE MATERIAL START\nISOTROPIC CONCRETE\nE 3 -\n0\nEND DEFINE MATERIAL\n";
+    SdReader model;
+    ReadReport report;
+    model.ReadSDDataFromText(head + material, report); // the head has five lines
+    EXPECT_EQ(report.density_from.first, 8U);
+    EXPECT_EQ(report.density_from.last, 9U);
+    model.ReadSDDataFromText(head, report);
+    EXPECT_EQ(report.density_from.first, 0U) << "the default, whatever was read before";
+}
+
 TEST(ReadReport, AMissingFileIsTheOnlyReason)
 {
     SdReader model;

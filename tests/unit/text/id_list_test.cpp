@@ -1,6 +1,6 @@
 /// Number lists with ranges, under each of the rules.
 
-#include "staad/text/id_list.h"
+#include "staad/report/id_budget.h"
 #include "tests/support/sd_reader_access.h"
 
 #include <gtest/gtest.h>

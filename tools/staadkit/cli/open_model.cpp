@@ -63,14 +63,6 @@ void read_forces(const std::string& path, STAAD::SdReader& model, STAAD::ReadRep
     add_error(report, "file-unreadable", 0, std::strerror(errno));
 }
 
-/// What the error says, without the place: that is the message's to tell.
-std::string limit_text(const STAAD::ReadLimitError& error)
-{
-    const std::string text = error.what();
-    const std::string place = "line " + std::to_string(error.first_line()) + ": ";
-    return text.starts_with(place) ? text.substr(place.size()) : text;
-}
-
 void fail_for_memory(opened_model& opened, const char* text)
 {
     opened.model = {};
@@ -90,7 +82,7 @@ opened_model open_model(const std::string& path)
             add_error(opened.report, "no-model", 0, "the input holds no model");
     } catch (const STAAD::ReadLimitError& error) {
         opened.model = {}; // what was read by then may fill the memory
-        add_error(opened.report, "limit", error.first_line(), limit_text(error));
+        add_error(opened.report, "limit", error.first_line(), error.text());
     } catch (const std::bad_alloc&) {
         fail_for_memory(opened, "not enough memory to read it");
     }

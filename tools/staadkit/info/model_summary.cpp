@@ -54,12 +54,6 @@ std::vector<skipped_summary> skipped_lines(const STAAD::ReadReport& report)
     return skipped;
 }
 
-bool has_finding(const STAAD::ReadReport& report, std::string_view code)
-{
-    return std::any_of(report.findings.begin(), report.findings.end(),
-                       [code](const STAAD::Finding& finding) { return finding.code == code; });
-}
-
 } // namespace
 
 bool extents::are_finite() const
@@ -77,7 +71,7 @@ model_summary summarise(const SdReader& model, const STAAD::ReadReport& report)
     summary.box = box_around(model.nodes);
     summary.levels = STAAD::detail::storey_levels(model);
     count_members(model, summary);
-    summary.has_default_density = !has_finding(report, "density");
+    summary.has_default_density = report.density_from.first == 0;
     summarise_lists(model, summary);
     summarise_sections(model, summary);
     summarise_loads(model, summary);

@@ -1,0 +1,186 @@
+#include "staad/report/finding_codes.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace STAAD {
+namespace {
+
+using code = FindingCode;
+
+constexpr Finding::Severity note = Finding::Note;
+constexpr Finding::Severity warning = Finding::Warning;
+constexpr Finding::Severity error = Finding::Error;
+
+// Meaning and advice are cells of a Markdown table, too: no "|" in them.
+constexpr FindingCodeInfo table[] = {
+    {code::file_missing, "file-missing", error, "The file does not exist.", "Check the path."},
+    {code::file_access, "file-access", error, "The file cannot be opened for reading and writing.",
+     "Check its permissions; a host may pass the text from memory instead."},
+    {code::file_unreadable, "file-unreadable", error, "The file or standard input cannot be read to its end.",
+     "Copy the file to a local disk and try again."},
+    {code::no_unit, "no-unit", error,
+     "No line begins with UNIT and has a line after it; or the text is UTF-16, or its "
+     "lines end with carriage returns alone.",
+     "Add the UNIT line; save the deck as plain text with line feeds."},
+    {code::no_joints, "no-joints", error, "No JOINT COORDINATES line follows the UNIT line.",
+     "See the line that was probably meant, reported with it."},
+    {code::no_members, "no-members", error, "No line after the joints is exactly MEMBER INCIDENCES.",
+     "See the line that was probably meant, reported with it."},
+    {code::no_model, "no-model", error, "The input holds no model.", "Check that it is a deck."},
+    {code::limit, "limit", error, "A list, all lists together or long texts grow past the limits of one reading.",
+     "Shorten the list at the line named."},
+    {code::memory, "memory", error, "There is not enough memory to read the input.",
+     "Close other programs, or use a machine with more memory."},
+
+    {code::keyword_near, "keyword-near", warning, "A line is nearly a keyword and is not read as one.",
+     "Write the keyword exactly: upper case, no other blanks, nothing after it."},
+    {code::skipped, "skipped", note, "Lines of a command that no block understood.",
+     "Check whether the model needs what they say."},
+    {code::block_open, "block-open", warning, "A block has no closing line.", "Add the closing line."},
+    {code::block_ended, "block-ended", warning, "A line ends a block although data lines come after it.",
+     "Remove the comment, leading blank or other line that ended it."},
+    {code::item_short, "item-short", warning, "A joint, member, element or surface has too few numbers.",
+     "Complete it: what is missing counts as 0."},
+    {code::item_number, "item-number", warning, "A joint, member, element or surface has a number below 1.",
+     "Number it from 1 on; a command among the joints is read as a joint of number 0."},
+    {code::number_word, "number-word", warning, "A word stands where a number is due, or a number is missing.",
+     "Write the number: what is none counts as 0."},
+    {code::list_stopped, "list-stopped", warning, "A list ends at a word that lists do not know, such as BY or ALL.",
+     "Write the numbers out, or as TO ranges."},
+    {code::list_nobody, "list-nobody", warning, "A line has no effect: the model has none of the numbers in its list.",
+     "Check the numbers."},
+    {code::joint_unknown, "joint-unknown", warning, "The number of a joint that the file does not define.",
+     "Define the joint, or correct the number."},
+    {code::member_unknown, "member-unknown", warning, "The number of a member that the file does not define.",
+     "Define the member, or correct the number."},
+    {code::element_unknown, "element-unknown", warning, "The number of an element that the file does not define.",
+     "Define the element, or correct the number."},
+    {code::unit_word, "unit-word", warning, "A unit is not known, or a moment unit is missing: its factor is 1.",
+     "Use a unit word of the tables; METERS and KIPS are none."},
+    {code::unit_short, "unit-short", warning, "The UNIT line has no force word: no factor is taken from it.",
+     "Give length and force: UNIT METER KN."},
+    {code::unit_later, "unit-later", warning, "A later UNIT line changes nothing, though its words differ.",
+     "Convert the values after it to the units of the first line."},
+    {code::density, "density", warning, "The concrete density is taken from a line of the material block.",
+     "Check the value; it is often that of E."},
+    {code::load_number, "load-number", warning, "The header of a load case has no number.",
+     "Number the case; reference loads are read as case 0."},
+    {code::load_again, "load-again", warning, "A load case has a second header; the loads of both stay.",
+     "Give each case a number of its own."},
+    {code::load_block, "load-block", warning, "A load block is not understood and kept as text.",
+     "Do not count on its loads: its numbers are taken for members."},
+
+    {code::force_no_model, "force-no-model", error, "The model has no members to take the forces.",
+     "Read the model before its forces."},
+    {code::force_no_title, "force-no-title", error, "No line of the listing is the title of a section of beam forces.",
+     "Print beam forces with the analysis, and choose that listing."},
+    {code::force_section, "force-section", note, "A section of forces was read; its members and its units.",
+     "None needed."},
+    {code::force_section_short, "force-section-short", warning, "A section ends before its unit line and is skipped.",
+     "Print the listing again."},
+    {code::force_short_line, "force-short-line", warning, "A line of the listing holds no station.",
+     "A station is a position, three forces and three moments."},
+    {code::force_no_member, "force-no-member", warning, "A station stands before any member and is skipped.",
+     "Print the listing again."},
+    {code::force_unknown_member, "force-unknown-member", warning,
+     "The listing has a member that the model does not have.", "Check that deck and listing belong together."},
+    {code::force_other_model, "force-other-model", warning,
+     "More members of the listing are missing in the model than are found.", "Choose the listing of this model."},
+    {code::force_last_case, "force-last-case", warning, "A load case of a member is left out: no other follows it.",
+     "Print one more load case, or one more member."},
+    {code::force_cut_off, "force-cut-off", warning, "The listing breaks off in a member.", "Print the listing again."},
+    {code::force_case_again, "force-case-again", warning, "A load case of a member is printed twice: stations add up.",
+     "Print each case once."},
+    {code::force_few_stations, "force-few-stations", warning, "A load case of a member has fewer than two stations.",
+     "Print two stations or more: the downstream lists go without it."},
+
+    {code::member_without_forces, "member-without-forces", warning, "A member asked for has no forces.",
+     "Check its number against the listing."},
+    {code::case_without_forces, "case-without-forces", warning, "A load case asked for has no forces.",
+     "Check its number against the listing."},
+    {code::nothing_selected, "nothing-selected", warning, "No member asked for has forces of a load case asked for.",
+     "Ask for fewer conditions."},
+
+    {code::json, "json", error, "A file of parameters is no JSON object.", "Correct it at the line and column named."},
+    {code::field_unknown, "field-unknown", error, "A field of parameters has a name that is not known.",
+     "See the names in the template."},
+    {code::field_missing, "field-missing", error, "A field of parameters is missing.", "Add it; see the template."},
+    {code::field_twice, "field-twice", error, "A field of parameters is there twice.", "Remove one."},
+    {code::field_value, "field-value", error, "A field of parameters has a value that it cannot have.",
+     "Correct the value; see the template."},
+    {code::field_word, "field-word", warning,
+     "A field of parameters has a word that is not known: its line is left "
+     "out.",
+     "Use one of the words named."},
+    {code::list_length, "list-length", warning, "Lists of parameters that belong together differ in length.",
+     "Give as many values in each."},
+    {code::spectrum, "spectrum", warning, "A response spectrum is not written.", "Complete its values."},
+
+    {code::numbers, "numbers", note, "Joints, members or elements have new numbers in the written deck.",
+     "Use the new numbers with it; lists named with the note still have the old ones."},
+    {code::kept_units, "kept-units", note, "Numbers in sections, supports and releases keep the units of the input.",
+     "Convert them by hand."},
+    {code::gravity, "gravity", note, "Equivalent gravity is written in kN and mm with two decimals.",
+     "Check that line loads have not come to nothing."},
+    {code::generated, "generated", note, "Four wind cases of one number and a seismic case are always written.",
+     "Give their parameters, or remove the cases."},
+    {code::loads, "loads", note, "Loads are written in kN and mm and in the model's axes.", "Check the line shown."},
+    {code::loads_left_out, "loads-left-out", note, "Loads that are not written.", "Add them by hand."},
+    {code::offsets, "offsets", note, "Member offsets are not written.", "Add them by hand."},
+    {code::trusses, "trusses", note, "Truss, tension-only and compression-only members are written as plain ones.",
+     "Declare them by hand."},
+    {code::surfaces, "surfaces", note, "Surfaces are written as elements.", "Mesh them, or define the surfaces again."},
+    {code::sections, "sections", note, "Sections are written as bare mm, which the analysis program cannot read.",
+     "Write them by hand."},
+    {code::no_section, "no-section", note, "The list of members without a section has nothing after it.",
+     "Give them a section."},
+    {code::materials, "materials", note, "A material is not in the material library that is written.",
+     "Define it in the written deck."},
+    {code::user_tables, "user-tables", note, "User tables are written in a form that cannot be read.",
+     "Copy them from the input."},
+};
+
+constexpr bool is_in_order_of_codes()
+{
+    for (std::size_t i = 0; i < std::size(table); ++i)
+        if (table[i].code != static_cast<FindingCode>(i))
+            return false;
+    return true;
+}
+static_assert(is_in_order_of_codes());
+static_assert(std::size(table) == number_of_finding_codes, "a code has no row");
+
+} // namespace
+
+FindingCodeList finding_codes() noexcept
+{
+    return {std::begin(table), std::end(table)};
+}
+
+const FindingCodeInfo& finding_code_info(FindingCode code) noexcept
+{
+    return table[static_cast<std::size_t>(code)];
+}
+
+const FindingCodeInfo* find_finding_code(std::string_view text) noexcept
+{
+    const auto found =
+        std::find_if(std::begin(table), std::end(table), [text](const auto& row) { return row.text == text; });
+    return found == std::end(table) ? nullptr : found;
+}
+
+Finding make_finding(FindingCode code, std::string text, std::size_t first_line, std::size_t last_line)
+{
+    const FindingCodeInfo& info = finding_code_info(code);
+    Finding finding;
+    finding.severity = info.severity;
+    finding.code = info.text;
+    finding.first_line = first_line;
+    finding.last_line = last_line;
+    finding.text = std::move(text);
+    return finding;
+}
+
+} // namespace STAAD
