@@ -1,5 +1,7 @@
 #include "staad/compare/joint_grid.h"
 
+#include "staad/compare/match.h"
+
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -8,14 +10,14 @@
 namespace STAAD::detail {
 namespace {
 
-// Wider than the tolerance twice over, so that a place has joints in two cells of each axis at most.
+// A cell is 0.5 mm wide, more than twice the tolerance: a place reaches into two cells of each axis at most.
 // Coordinates in whole and half mm, which is nearly all of them, lie in the middle of a cell.
 constexpr double cells_per_mm = 2.0;
 
-// A little wider than the tolerance: the sums below round.
+// A little wider than `same_place`: the sums below are rounded.
 constexpr double reach = 0.1001;
 
-/// The cell of a coordinate. Never falls where the coordinate rises.
+/// The cell of a coordinate, never lower for a higher coordinate.
 double cell_of(double coordinate) noexcept
 {
     return std::floor(coordinate * cells_per_mm + 0.5);
@@ -49,13 +51,14 @@ struct cell_range {
     std::size_t count;
 };
 
-} // namespace
-
+/// Whether the coordinates differ by less than `same_place` each.
 bool is_same_place(const SdNode& left, const SdNode& right) noexcept
 {
     return std::abs(left.x - right.x) < same_place && std::abs(left.y - right.y) < same_place &&
            std::abs(left.z - right.z) < same_place;
 }
+
+} // namespace
 
 joint_grid::joint_grid(const std::vector<SdNode>& joints)
     : joints_(joints), cells_(joints.size()), nexts_(joints.size(), no_index), taken_(joints.size(), false)
@@ -77,8 +80,8 @@ std::int32_t& joint_grid::head_of(const cell& key)
                      [&](std::int32_t other) { return cell_of(joints_[static_cast<std::size_t>(other)]) == key; });
 }
 
-/// Walks a cell, and takes joints out of it that have been matched since the last walk. The last one stays,
-/// matched or not: a cell that once had joints keeps one to be known by.
+/// Walks a cell and takes out of it the joints that have been matched since the last walk, but for the last:
+/// `cells_` knows a cell by the joints in it.
 std::int32_t joint_grid::first_match(std::int32_t& head, const SdNode& joint)
 {
     for (std::int32_t* link = &head; *link != no_index;) {

@@ -11,12 +11,6 @@
 
 namespace STAAD::detail {
 
-/// Joints closer than this in each coordinate are the same, mm.
-inline constexpr double same_place = 0.1;
-
-/// Whether the coordinates differ by less than `same_place` each.
-bool is_same_place(const SdNode& left, const SdNode& right) noexcept;
-
 /// Cells of space, each with the joints in it that are still free.
 class joint_grid {
 public:

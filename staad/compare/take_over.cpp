@@ -1,100 +1,108 @@
-/// Groups, supports and releases of an earlier project, taken over in the numbers of this model.
-#include "staad/host/platform_services.h"
+#include "staad/compare/take_over.h"
+
 #include "staad/model/positions.h"
 #include "staad/model/sd_reader.h"
 #include "staad/text/number_lookup.h"
 
 #include <map>
-#include <string>
 #include <utility>
-#include <vector>
 
 namespace STAAD {
 namespace {
 
-/// Turns numbers of one list of the earlier model into those of this model's counterparts.
+/// Turns numbers of one list of the earlier model into those of their counterparts.
 template<class Record>
 class number_translation {
 public:
-    /// `old_to_new` holds positions.
     number_translation(const std::vector<Record>& earlier, const std::vector<Record>& now,
-                       const std::map<int, int>& old_to_new)
+                       const std::vector<int>& new_of_old)
         : positions_(detail::number_lookup::of(earlier, detail::same_number::first_counts)), now_(now),
-          old_to_new_(old_to_new)
+          new_of_old_(new_of_old)
     {
     }
 
-    /// Numbers without a counterpart are left out.
-    template<class Id>
-    std::vector<Id> operator()(const std::vector<Id>& numbers) const
+    /// Numbers without a counterpart go to `lost`.
+    template<class Number>
+    std::vector<Number> operator()(const std::vector<Number>& numbers, std::vector<int>& lost) const
     {
-        std::vector<Id> translated;
-        for (const Id number : numbers) {
-            const auto entry = old_to_new_.find(positions_.position(static_cast<int>(number)));
-            const Record* const record =
-                entry == old_to_new_.end() ? nullptr : detail::at_position(now_, entry->second);
-            if (record != nullptr)
-                translated.push_back(static_cast<Id>(record->id));
+        std::vector<Number> translated;
+        for (const Number number : numbers) {
+            if (const Record* const record = counterpart(static_cast<int>(number)))
+                translated.push_back(static_cast<Number>(record->id));
+            else
+                lost.push_back(static_cast<int>(number));
         }
         return translated;
     }
 
 private:
+    const Record* counterpart(int number) const
+    {
+        const int* const position = at_position(new_of_old_, positions_.position(number));
+        return position == nullptr ? nullptr : at_position(now_, *position);
+    }
+
     detail::number_lookup positions_; // in the earlier list
     const std::vector<Record>& now_;
-    const std::map<int, int>& old_to_new_;
+    const std::vector<int>& new_of_old_;
 };
 
-/// The lists under every description, also those that end empty.
-template<class Lists, class Translation>
-Lists translated(const Lists& lists, const Translation& translate)
+template<class Translation>
+std::vector<TakenList> translated(const std::map<std::string, std::vector<unsigned>>& lists,
+                                  const Translation& translate)
 {
-    Lists result;
-    for (const auto& [description, numbers] : lists)
-        result.emplace_hint(result.end(), description, translate(numbers));
+    std::vector<TakenList> result;
+    result.reserve(lists.size());
+    for (const auto& [description, numbers] : lists) {
+        TakenList& list = result.emplace_back();
+        list.description = description;
+        list.numbers = translate(numbers, list.lost);
+    }
     return result;
 }
 
 } // namespace
 
-void SdReader::compWithOldProj(const char* path)
+TakenOver definitions_to_take_over(const SdReader& now, const SdReader& earlier, const ModelMatch& matched)
 {
-    PlatformServices& services = GetPlatformServices();
-    if (path == nullptr || !services.CanRead(path))
-        return;
-    // The project data already exist. Compare, and take over the earlier data?
-    const PlatformServices::Message question{{},
-                                             u"\u5DE5\u7A0B\u6570\u636E\u5DF2\u5B58\u5728\uFF0C\u662F\u5426"
-                                             u"\u5BF9\u6BD4\u5E76\u63D0\u53D6\u539F\u6709\u7684\u6570\u636E\uFF1F",
-                                             PlatformServices::Buttons::YesNo,
-                                             PlatformServices::Icon::None};
-    if (services.ShowMessage(question) != PlatformServices::Answer::Yes)
-        return;
-    SdReader earlier;
-    if (earlier.ReadSDDataFromStdFile(path))
-        TakeOverFrom(earlier);
+    const number_translation joints(earlier.nodes, now.nodes, matched.joints.of_old);
+    const number_translation members(earlier.beams, now.beams, matched.members.of_old);
+    TakenOver result;
+    result.groups.reserve(earlier.groups.size());
+    for (const SdGroup& group : earlier.groups) {
+        TakenGroup& taken = result.groups.emplace_back();
+        taken.group.kind = group.kind;
+        taken.group.name = group.name;
+        taken.group.ids =
+            group.GetIdType() == SdGroup::MemberId ? members(group.ids, taken.lost) : joints(group.ids, taken.lost);
+    }
+    result.supports = translated(earlier.supports, joints);
+    result.releases = translated(earlier.releases, members);
+    return result;
+}
+
+void take_over(SdReader& model, TakenOver definitions)
+{
+    std::vector<SdGroup> groups;
+    groups.reserve(definitions.groups.size());
+    for (TakenGroup& taken : definitions.groups) {
+        if (!taken.group.ids.empty())
+            groups.push_back(std::move(taken.group));
+    }
+    std::map<std::string, std::vector<unsigned>> supports;
+    for (TakenList& list : definitions.supports)
+        supports[std::move(list.description)] = std::move(list.numbers);
+    model.groups = std::move(groups);
+    model.supports = std::move(supports);
+    for (TakenList& list : definitions.releases)
+        model.releases[std::move(list.description)] = std::move(list.numbers);
 }
 
 void SdReader::TakeOverFrom(const SdReader& earlier)
 {
-    MakeMap(earlier);
-    const number_translation joints(earlier.nodes, nodes, old_proj_maps.joints_old_to_new);
-    const number_translation members(earlier.beams, beams, old_proj_maps.members_old_to_new);
-
-    // Complete before any of it replaces what is here: `earlier` may be this very model.
-    std::vector<SdGroup> taken_groups;
-    for (SdGroup group : earlier.groups) {
-        // Element groups go by joints, too: the numbers in them are taken for those of joints.
-        group.ids = group.GetIdType() == SdGroup::MemberId ? members(group.ids) : joints(group.ids);
-        if (!group.ids.empty())
-            taken_groups.push_back(std::move(group));
-    }
-    auto taken_supports = translated(earlier.supports, joints);
-    auto taken_releases = translated(earlier.releases, members);
-    groups = std::move(taken_groups);
-    supports = std::move(taken_supports);
-    for (auto& [description, numbers] : taken_releases)
-        releases[description] = std::move(numbers);
+    const ModelMatch matched = match(*this, earlier);
+    old_proj_maps = to_maps(matched);
+    take_over(*this, definitions_to_take_over(*this, earlier, matched));
 }
 
 } // namespace STAAD

@@ -1,13 +1,13 @@
-/// 1-based positions in the model's lists.
+/// 1-based positions in the model's lists: members and shells name their joints by them.
 #ifndef STAAD_MODEL_POSITIONS_H
 #define STAAD_MODEL_POSITIONS_H
 
 #include <cstddef>
 #include <vector>
 
-namespace STAAD::detail {
+namespace STAAD {
 
-/// The record at the 1-based `position`; null where the list has none.
+/// The record at the 1-based `position`; null where the list has none. Any number may be asked for.
 template<class Record>
 const Record* at_position(const std::vector<Record>& list, int position) noexcept
 {
@@ -21,6 +21,6 @@ Record* at_position(std::vector<Record>& list, int position) noexcept
     return const_cast<Record*>(at_position(static_cast<const std::vector<Record>&>(list), position));
 }
 
-} // namespace STAAD::detail
+} // namespace STAAD
 
 #endif

@@ -27,8 +27,8 @@ BeamType SdReader::GetBeamType(const SdBeam& member) const
 
 bool SdReader::IsColumn(const SdBeam& member) const
 {
-    const SdNode* const start = detail::at_position(nodes, member.node_start);
-    const SdNode* const end = detail::at_position(nodes, member.node_end);
+    const SdNode* const start = at_position(nodes, member.node_start);
+    const SdNode* const end = at_position(nodes, member.node_end);
     return start != nullptr && end != nullptr && column_tolerance > std::fabs(start->x - end->x) &&
            column_tolerance > std::fabs(start->y - end->y);
 }
@@ -40,8 +40,8 @@ bool SdReader::IsBrace(const SdBeam& member) const
 
 bool SdReader::IsHBrace(const SdBeam& member) const
 {
-    const SdNode* const start = detail::at_position(nodes, member.node_start);
-    const SdNode* const end = detail::at_position(nodes, member.node_end);
+    const SdNode* const start = at_position(nodes, member.node_start);
+    const SdNode* const end = at_position(nodes, member.node_end);
     return IsBrace(member) && start != nullptr && end != nullptr && level_tolerance > std::fabs(start->z - end->z);
 }
 

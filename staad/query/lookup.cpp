@@ -1,4 +1,4 @@
-// Numbers to positions, and the renumbering before a model is written.
+#include "staad/query/lookup.h"
 
 #include "staad/model/sd_reader.h"
 
@@ -15,6 +15,11 @@ int locate(const Records& records, int id)
 }
 
 } // namespace
+
+std::size_t element_count(const SdReader& model) noexcept
+{
+    return model.shells.size() - std::min(model.shells.size(), model.surfaces.size());
+}
 
 int SdReader::locateBeamIndex(int id) const
 {

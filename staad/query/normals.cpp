@@ -38,7 +38,7 @@ vector_3 newell_sums(const std::vector<SdNode>& nodes, const std::vector<int>& c
 bool are_joints(const std::vector<SdNode>& nodes, const std::vector<int>& corners)
 {
     return std::all_of(corners.begin(), corners.end(),
-                       [&](int position) { return detail::at_position(nodes, position) != nullptr; });
+                       [&](int position) { return at_position(nodes, position) != nullptr; });
 }
 
 } // namespace
@@ -48,7 +48,7 @@ void SdReader::NormalOfShell(int index, double& nx, double& ny, double& nz) cons
     nx = 0.0;
     ny = 0.0;
     nz = 1.0;
-    const SdShell* const shell = detail::at_position(shells, index);
+    const SdShell* const shell = at_position(shells, index);
     if (shell == nullptr || shell->node_ids.empty() || !are_joints(nodes, shell->node_ids))
         return;
     const vector_3 sum = newell_sums(nodes, shell->node_ids);

@@ -36,7 +36,7 @@ private:
 };
 
 /// Room for what every level will hold: records are large, and lists of them are not to be moved about.
-void reserve(std::vector<StoreyLayer>& contents, const detail::level_assignment& assigned)
+void reserve(std::vector<StoreyLayer>& contents, const LevelAssignment& assigned)
 {
     std::vector<std::size_t> members(contents.size());
     std::vector<std::size_t> shells(contents.size());
@@ -51,7 +51,7 @@ void reserve(std::vector<StoreyLayer>& contents, const detail::level_assignment&
 }
 
 /// The contents of every level: members and elements of a storey once its base and height are known.
-std::vector<StoreyLayer> contents_of_levels(SdReader& model, const detail::level_assignment& assigned,
+std::vector<StoreyLayer> contents_of_levels(SdReader& model, const LevelAssignment& assigned,
                                             section_register& sections)
 {
     std::vector<StoreyLayer> contents(assigned.levels.size() + 1); // one for what lies above every level
@@ -114,7 +114,7 @@ bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces, Re
 
 bool StaadProProject_layered::BuildFromModel(SdReader model)
 {
-    detail::level_assignment assigned = detail::assign_levels(model);
+    LevelAssignment assigned = assign_levels(model);
     const bool has_levels = !assigned.levels.empty();
     if (has_levels) {
         section_register numbered;

@@ -1,12 +1,13 @@
 #include "staad/storeys/levels.h"
 
 #include "staad/model/positions.h"
+#include "staad/model/sd_reader.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 
-namespace STAAD::detail {
+namespace STAAD {
 namespace {
 
 /// To the nearest whole number, halves upward.
@@ -17,7 +18,7 @@ double rounded(double value)
 
 void add_level(std::vector<double>& levels, double height)
 {
-    // A host may hand over anything, and a NaN has no place in an order.
+    // A host's model may hold a NaN, which no sorting can place.
     if (!std::isnan(height))
         levels.push_back(rounded(height));
 }
@@ -75,9 +76,9 @@ std::vector<double> storey_levels(const SdReader& model)
     return levels;
 }
 
-level_assignment assign_levels(const SdReader& model)
+LevelAssignment assign_levels(const SdReader& model)
 {
-    level_assignment result;
+    LevelAssignment result;
     result.levels = storey_levels(model);
     result.joint_levels = levels_of_joints(model.nodes, result.levels);
     result.member_levels.reserve(model.beams.size());
@@ -90,4 +91,4 @@ level_assignment assign_levels(const SdReader& model)
     return result;
 }
 
-} // namespace STAAD::detail
+} // namespace STAAD

@@ -2,32 +2,37 @@
 #ifndef STAAD_STOREYS_LEVELS_H
 #define STAAD_STOREYS_LEVELS_H
 
-#include "staad/model/sd_reader.h"
+#include "staad/export.h"
 #include "staad/model/storey_layer.h"
 
 #include <cstddef>
 #include <vector>
 
-namespace STAAD::detail {
+namespace STAAD {
+
+class SdReader;
 
 /// Levels of `model` in whole mm, ascending, each once.
 ///
-/// A column, its ends one exactly above the other, gives the heights of both ends; a member with
-/// both ends at exactly the same height gives that height; inclined members give none. Members
-/// with an end that is no joint give none either.
-/// Cost: n log n in the number of members, memory for two heights of each.
-std::vector<double> storey_levels(const SdReader& model);
+/// A column, its ends one exactly above the other, gives the heights of both ends; a member with both ends
+/// at exactly the same height gives that height; inclined members give none, nor do members with an end
+/// that is no joint.
+/// Throws: std::bad_alloc. Cost: n log n in the number of members, memory for two heights of each.
+STAAD_API std::vector<double> storey_levels(const SdReader& model);
 
-/// Where everything of a model stands among its levels.
-struct level_assignment {
+/// The level of every joint, member and shell of a model: an index in `levels`, from 0.
+struct STAAD_API LevelAssignment {
     std::vector<double> levels;             ///< as storey_levels
-    std::vector<NodeLevel> joint_levels;    ///< one per joint; `levels.size()` for one above every level
-    std::vector<std::size_t> member_levels; ///< that of the higher end; 0 if no end is a joint
-    std::vector<std::size_t> shell_levels;  ///< that of the highest corner; 0 if no corner is a joint
+    std::vector<NodeLevel> joint_levels;    ///< by index in SdReader::nodes
+    std::vector<std::size_t> member_levels; ///< by index in `beams`: that of the higher end
+    std::vector<std::size_t> shell_levels;  ///< by index in `shells`: that of the highest corner
 };
 
-level_assignment assign_levels(const SdReader& model);
+/// A joint belongs to the lowest level that is not below it once both are in whole mm; above every level that
+/// is `levels.size()`. Ends and corners that are no joints do not count; without any the level is 0.
+/// Throws: std::bad_alloc. Cost: that of storey_levels, and a binary search for each joint.
+STAAD_API LevelAssignment assign_levels(const SdReader& model);
 
-} // namespace STAAD::detail
+} // namespace STAAD
 
 #endif

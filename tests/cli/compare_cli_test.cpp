@@ -59,7 +59,10 @@ TEST(Compare, ModelsThatDoNotDiffer)
     EXPECT_EQ(result.exit_code, 0) << result.err;
     EXPECT_EQ(result.out, "NEW: " + models.new_path() + "\nOLD: " + models.old_path() +
                               "\n"
-                              "the models do not differ\n"
+                              "no difference in what is compared\n"
+                              "compared: joints, members, elements, surfaces, sections\n"
+                              "not compared: supports, releases, groups, materials, thicknesses, offsets, beta angles, "
+                              "member kinds, user tables, loads, units\n"
                               "            in NEW  in OLD  matched  renumbered  resectioned  moved  new  gone\n"
                               "  joints         4       4        4           0            -      0    0     0\n"
                               "  members        3       3        3           0            0      0    0     0\n"
@@ -71,6 +74,8 @@ TEST(Compare, ModelsThatDoNotDiffer)
                               "replaced in NEW: nothing\n");
     const json report = models.report(0);
     EXPECT_EQ(report["differ"], false);
+    EXPECT_EQ(report["compared"], json({"joints", "members", "elements", "surfaces", "sections"}));
+    EXPECT_EQ(report["not_compared"].size(), 11U);
     EXPECT_EQ(report["tolerance_mm"], 0.1);
     EXPECT_EQ(report["new"]["file"], models.new_path());
     EXPECT_EQ(report["old"]["file"], models.old_path());

@@ -163,7 +163,7 @@ TEST(TakeOver, JsonBesideAFileThatIsWritten)
     EXPECT_EQ(both.err, "staadkit: error: --take-over - and --json both need standard output\n");
 }
 
-TEST(TakeOver, NobodyToAskIsARefusal)
+TEST(TakeOver, WithoutATerminalToAskAtItIsRefused)
 {
     const tool_run tool;
     const std::string now = tool.write("new.std", today_deck());
@@ -172,7 +172,7 @@ TEST(TakeOver, NobodyToAskIsARefusal)
     EXPECT_EQ(result.exit_code, 4);
     EXPECT_EQ(result.out, "");
     EXPECT_EQ(result.err, "staadkit: error: " + out +
-                              ": nobody is there to be asked; --yes takes over and writes without a question\n");
+                              ": there is no terminal to ask at; --yes takes over and writes without a question\n");
     EXPECT_FALSE(fs::exists(out));
 }
 

@@ -41,7 +41,7 @@ detail::number_lookup surface_numbers(const SdReader& model)
 {
     std::vector<detail::numbered_position> entries;
     for (const auto& [number, position] : model.surface_index)
-        if (detail::at_position(model.surfaces, position) != nullptr)
+        if (at_position(model.surfaces, position) != nullptr)
             entries.push_back({number, position});
     return {std::move(entries), detail::same_number::last_counts};
 }

@@ -1,5 +1,7 @@
 #include "staad/storeys/levels.h"
 
+#include "staad/model/sd_reader.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>
@@ -10,7 +12,7 @@ namespace {
 using STAAD::SdBeam;
 using STAAD::SdNode;
 using STAAD::SdReader;
-using STAAD::detail::storey_levels;
+using STAAD::storey_levels;
 
 /// A model of one member per pair of ends, each on joints of its own.
 SdReader members_between(const std::vector<std::vector<SdNode>>& pairs)

@@ -1,4 +1,4 @@
-// The verb "compare": how a model differs from an earlier one, and what it can take over from it.
+// The verb "compare": how a model differs from an earlier one, and what it can take over.
 
 #include "cli/messages.h"
 #include "cli/open_model.h"
@@ -8,7 +8,6 @@
 #include "compare/comparison_fields.h"
 #include "compare/comparison_text.h"
 #include "compare/model_comparison.h"
-#include "compare/taken_over.h"
 #include "convert/conversion_notes.h"
 #include "output/json_writer.h"
 #include "output/model_output.h"
@@ -33,7 +32,7 @@ struct compare_options {
     bool with_notes = false;
 
     bool takes_over() const { return !out.empty(); }
-    /// The model itself needs standard output: the report has to stand back.
+    /// The model goes to standard output, so there is no report.
     bool out_is_standard_output() const { return out == "-"; }
 };
 
@@ -55,23 +54,14 @@ std::string why_no_take_over(const compare_options& options)
     if (std::string reason = why_not_there(options.out, {options.now, options.earlier}, options.force); !reason.empty())
         return reason;
     return options.yes || can_ask() ? std::string()
-                                    : "nobody is there to be asked; --yes takes over and writes without a question";
-}
-
-compared_models compare(opened_model& now, opened_model& earlier)
-{
-    compared_models compared;
-    compared.comparison = compare_models(now.model, earlier.model);
-    compared.taken = summarise_take_over(now.model, earlier.model);
-    return compared;
+                                    : "there is no terminal to ask at; --yes takes over and writes without a question";
 }
 
 exit_code put_text(const comparison_document& document, exit_code so_far)
 {
     std_output out;
     out.put("NEW: " + printable_name(document.now.name) + "\nOLD: " + printable_name(document.earlier.name) + '\n');
-    put_comparison(out, document.compared->comparison);
-    put_taken_over(out, document.compared->taken);
+    put_comparison(out, *document.compared);
     return out.close(so_far);
 }
 
@@ -95,11 +85,11 @@ exit_code take_over(opened_model& now, const opened_model& earlier, const compar
     return write_output(options.out, text, so_far);
 }
 
-exit_code compare_read(opened_model& now, opened_model& earlier, const compare_options& options)
+exit_code compare_read(opened_model& now, const opened_model& earlier, const compare_options& options)
 {
     exit_code result = done;
     {
-        const compared_models compared = compare(now, earlier);
+        const compared_models compared = compare_models(now.model, earlier.model);
         result = compared.comparison.differ() ? done_with_findings : done;
         result = put_report({now, earlier, &compared}, options, result);
     }
@@ -112,7 +102,7 @@ exit_code compare_read(opened_model& now, opened_model& earlier, const compare_o
     }
 }
 
-opened_model open_and_tell(const std::string& path, const compare_options& options)
+opened_model open_and_report(const std::string& path, const compare_options& options)
 {
     opened_model opened = open_model(path);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
@@ -127,8 +117,8 @@ exit_code run_compare(const compare_options& options)
     }
     if (const std::string reason = why_no_take_over(options); !reason.empty())
         return fail_to_write(options.out, reason);
-    opened_model now = open_and_tell(options.now, options);
-    opened_model earlier = open_and_tell(options.earlier, options);
+    opened_model now = open_and_report(options.now, options);
+    opened_model earlier = open_and_report(options.earlier, options);
     try {
         if (now.was_read && earlier.was_read)
             return compare_read(now, earlier, options);

@@ -4,10 +4,11 @@
 
 #include "cli/open_model.h"
 #include "compare/model_comparison.h"
-#include "compare/taken_over.h"
 #include "output/finding_fields.h"
-#include "staad/compare/joint_grid.h"
+#include "staad/compare/match.h"
 
+#include <cstddef>
+#include <string>
 #include <vector>
 
 namespace tool {
@@ -41,34 +42,39 @@ void each_field(const section_change& change, Visit visit)
     visit("member_numbers", change.members);
 }
 
-template<class Visit>
-void visit_numbers(const taken_list& list, Visit& visit)
+template<class Numbers, class Visit>
+void visit_numbers(const Numbers& taken, const std::vector<int>& lost, Visit& visit)
 {
-    visit("numbers", list.numbers);
-    visit("taken", list.taken());
-    visit("lost", list.lost);
+    visit("numbers", taken.size() + lost.size());
+    visit("taken", taken.size());
+    visit("lost", lost);
 }
 
 struct taken_group {
-    const taken_list& list;
+    const STAAD::TakenGroup& taken;
 };
 
 template<class Visit>
-void each_field(const taken_group& group, Visit visit)
+void each_field(const taken_group& item, Visit visit)
 {
-    visit("name", group.list.name);
-    visit("kind", group.list.kind);
-    visit_numbers(group.list, visit);
-    visit("by_joint_numbers", group.list.by_joints);
-    visit("dropped", group.list.taken() == 0);
+    const STAAD::SdGroup& group = item.taken.group;
+    visit("name", group.name);
+    visit("kind", group.kind);
+    visit_numbers(group.ids, item.taken.lost, visit);
+    visit("by_joint_numbers", group.GetIdType() == STAAD::SdGroup::ElementId);
+    visit("dropped", group.ids.empty());
 }
 
-/// Supports and releases.
+/// Supports or releases.
+struct taken_list {
+    const STAAD::TakenList& taken;
+};
+
 template<class Visit>
-void each_field(const taken_list& list, Visit visit)
+void each_field(const taken_list& item, Visit visit)
 {
-    visit("description", list.name);
-    visit_numbers(list, visit);
+    visit("description", item.taken.description);
+    visit_numbers(item.taken.numbers, item.taken.lost, visit);
 }
 
 template<class Visit>
@@ -79,16 +85,19 @@ void each_field(const replaced_lists& replaced, Visit visit)
     visit("releases", replaced.releases);
 }
 
+struct take_over_record {
+    const STAAD::TakenOver& taken;
+    const replaced_lists& replaced;
+};
+
 template<class Visit>
-void each_field(const taken_over& taken, Visit visit)
+void each_field(const take_over_record& record, Visit visit)
 {
-    std::vector<taken_group> groups;
-    for (const taken_list& list : taken.groups)
-        groups.push_back({list});
-    visit("groups", groups);
-    visit("supports", taken.supports);
-    visit("releases", taken.releases);
-    visit("replaced_in_new", taken.replaced);
+    const STAAD::TakenOver& taken = record.taken;
+    visit("groups", std::vector<taken_group>(taken.groups.begin(), taken.groups.end()));
+    visit("supports", std::vector<taken_list>(taken.supports.begin(), taken.supports.end()));
+    visit("releases", std::vector<taken_list>(taken.releases.begin(), taken.releases.end()));
+    visit("replaced_in_new", record.replaced);
 }
 
 template<class Visit>
@@ -99,18 +108,18 @@ void each_field(const opened_model& opened, Visit visit)
     visit("findings", opened.report.findings);
 }
 
-/// What there is to tell about two models that were read.
-struct compared_models {
-    model_comparison comparison;
-    taken_over taken;
-};
-
 /// All of it.
 struct comparison_document {
     const opened_model& now;
     const opened_model& earlier;
     const compared_models* compared; ///< null: one of them was not read
 };
+
+template<std::size_t Count>
+std::vector<std::string> texts_of(const char* const (&texts)[Count])
+{
+    return {texts, texts + Count};
+}
 
 template<class Visit>
 void each_field(const comparison_document& document, Visit visit)
@@ -120,7 +129,9 @@ void each_field(const comparison_document& document, Visit visit)
     if (document.compared == nullptr)
         return;
     const model_comparison& comparison = document.compared->comparison;
-    visit("tolerance_mm", STAAD::detail::same_place);
+    visit("tolerance_mm", STAAD::same_place);
+    visit("compared", texts_of(compared_parts));
+    visit("not_compared", texts_of(parts_not_compared));
     visit("differ", comparison.differ());
     visit("joints", comparison.joints);
     visit("members", comparison.members);
@@ -128,7 +139,7 @@ void each_field(const comparison_document& document, Visit visit)
     visit("surfaces", comparison.surfaces);
     visit("moved_joints", comparison.moved_joints);
     visit("resectioned", comparison.resectioned);
-    visit("take_over", document.compared->taken);
+    visit("take_over", take_over_record{document.compared->taken, document.compared->replaced});
 }
 
 } // namespace tool

@@ -84,15 +84,15 @@ void put_sections(std_output& out, const std::vector<section_change>& changes)
 }
 
 /// "9 of 9 joints", and what is lost.
-void add_counts(std::vector<std::string>& row, const taken_list& list, const char* noun, const char* if_nothing)
+void add_counts(std::vector<std::string>& row, std::size_t taken, const std::vector<int>& lost, const char* noun,
+                const char* if_nothing)
 {
-    row.push_back(std::to_string(list.taken()) + " of " + count_of(list.numbers, noun));
-    if (list.lost.empty() && list.numbers != 0)
-        return;
-    std::string text = list.taken() == 0 ? if_nothing : "";
-    if (!list.lost.empty())
-        text += (text.empty() ? "lost: " : "; lost: ") + run_list(list.lost);
-    row.push_back(std::move(text));
+    row.push_back(std::to_string(taken) + " of " + count_of(taken + lost.size(), noun));
+    std::string text = taken == 0 ? if_nothing : "";
+    if (!lost.empty())
+        text += (text.empty() ? "lost: " : "; lost: ") + run_list(lost);
+    if (!text.empty())
+        row.push_back(std::move(text));
 }
 
 void put_heading(std_output& out, const char* name, std::size_t count)
@@ -100,26 +100,28 @@ void put_heading(std_output& out, const char* name, std::size_t count)
     out.put(std::string(name) + ": " + (count == 0 ? "none" : std::to_string(count)) + '\n');
 }
 
-void put_groups(std_output& out, const std::vector<taken_list>& groups)
+void put_groups(std_output& out, const std::vector<STAAD::TakenGroup>& groups)
 {
     table rows;
-    for (const taken_list& group : groups) {
+    for (const auto& [group, lost] : groups) {
         std::vector<std::string> row = {cell_text(group.name, "(no name)"), cell_text(group.kind, "(no kind)")};
-        add_counts(row, group, "number", "dropped");
+        add_counts(row, group.ids.size(), lost, "number", "dropped");
         rows.add_row(std::move(row));
     }
     put_heading(out, "groups to take over", groups.size());
     rows.put(out);
-    if (std::any_of(groups.begin(), groups.end(), [](const taken_list& group) { return group.by_joints; }))
+    if (std::any_of(groups.begin(), groups.end(), [](const STAAD::TakenGroup& taken) {
+            return taken.group.GetIdType() == STAAD::SdGroup::ElementId;
+        }))
         out.put("  (numbers in ELEMENT and FLOOR groups are taken for those of joints)\n");
 }
 
-void put_described(std_output& out, const char* heading, const std::vector<taken_list>& lists, const char* noun)
+void put_described(std_output& out, const char* heading, const std::vector<STAAD::TakenList>& lists, const char* noun)
 {
     table rows;
-    for (const taken_list& list : lists) {
-        std::vector<std::string> row = {cell_text(list.name, "(no description)")};
-        add_counts(row, list, noun, "an empty list");
+    for (const STAAD::TakenList& list : lists) {
+        std::vector<std::string> row = {cell_text(list.description, "(no description)")};
+        add_counts(row, list.numbers.size(), list.lost, noun, "an empty list");
         rows.add_row(std::move(row));
     }
     put_heading(out, heading, lists.size());
@@ -139,22 +141,33 @@ void put_replaced(std_output& out, const replaced_lists& replaced)
     out.put("replaced in NEW: " + (text.empty() ? "nothing" : text) + '\n');
 }
 
-} // namespace
-
-void put_comparison(std_output& out, const model_comparison& comparison)
+template<std::size_t Count>
+std::string in_words(const char* const (&parts)[Count])
 {
-    out.put(comparison.differ() ? "the models differ\n" : "the models do not differ\n");
+    std::string text;
+    for (const char* const part : parts)
+        text += (text.empty() ? "" : ", ") + std::string(part);
+    return text + '\n';
+}
+
+void put_differences(std_output& out, const model_comparison& comparison)
+{
+    out.put(comparison.differ() ? "the models differ\n" : "no difference in what is compared\n");
+    out.put("compared: " + in_words(compared_parts) + "not compared: " + in_words(parts_not_compared));
     put_counts(out, comparison);
     put_places(out, comparison);
     put_sections(out, comparison.resectioned);
 }
 
-void put_taken_over(std_output& out, const taken_over& taken)
+} // namespace
+
+void put_comparison(std_output& out, const compared_models& compared)
 {
-    put_groups(out, taken.groups);
-    put_described(out, "supports to take over", taken.supports, "joint");
-    put_described(out, "releases to take over", taken.releases, "member");
-    put_replaced(out, taken.replaced);
+    put_differences(out, compared.comparison);
+    put_groups(out, compared.taken.groups);
+    put_described(out, "supports to take over", compared.taken.supports, "joint");
+    put_described(out, "releases to take over", compared.taken.releases, "member");
+    put_replaced(out, compared.replaced);
 }
 
 } // namespace tool

@@ -1,7 +1,8 @@
-/// How a model differs from an earlier one: what "compare" tells before it is put in words.
+/// How a model differs from an earlier one: what "compare" reports, before it is put in words.
 #ifndef TOOLS_STAADKIT_COMPARE_MODEL_COMPARISON_H
 #define TOOLS_STAADKIT_COMPARE_MODEL_COMPARISON_H
 
+#include "staad/compare/take_over.h"
 #include "staad/model/sd_reader.h"
 
 #include <array>
@@ -11,10 +12,14 @@
 
 namespace tool {
 
-/// Joints, members, elements or surfaces of both models.
-///
-/// What stands at the same place is the same, whatever its number. What has no counterpart there, and the
-/// number of something of the other model that has none either, has been moved.
+/// What the comparison looks at, and what it leaves out, in the words of the report.
+inline constexpr const char* compared_parts[] = {"joints", "members", "elements", "surfaces", "sections"};
+inline constexpr const char* parts_not_compared[] = {
+    "supports",    "releases",     "groups",      "materials", "thicknesses", "offsets",
+    "beta angles", "member kinds", "user tables", "loads",     "units",
+};
+
+/// Joints, members, elements or surfaces of both models, paired as STAAD::pair_records does.
 struct kind_comparison {
     std::size_t in_new = 0;
     std::size_t in_old = 0;
@@ -56,9 +61,22 @@ struct model_comparison {
     bool differ() const noexcept;
 };
 
-/// Fills the `old_proj_maps` of both models: of `now` as SdReader::MakeMap does, those of `earlier` are empty
-/// afterwards.
-model_comparison compare_models(STAAD::SdReader& now, STAAD::SdReader& earlier);
+/// Names of a model's own definitions that make room for the earlier ones.
+struct replaced_lists {
+    std::vector<std::string> groups;
+    std::vector<std::string> supports;
+    std::vector<std::string> releases;
+};
+
+/// How two models differ, and what the new one would take over.
+struct compared_models {
+    model_comparison comparison;
+    STAAD::TakenOver taken;
+    replaced_lists replaced;
+};
+
+/// Changes neither model.
+compared_models compare_models(const STAAD::SdReader& now, const STAAD::SdReader& earlier);
 
 } // namespace tool
 

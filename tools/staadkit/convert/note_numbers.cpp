@@ -1,7 +1,7 @@
 // Joints, members and elements get new numbers; the lists of some blocks keep the old ones.
 
 #include "convert/conversion_notes.h"
-#include "output/element_count.h"
+#include "staad/query/lookup.h"
 
 #include <algorithm>
 #include <map>
@@ -63,7 +63,7 @@ struct renumberings {
     explicit renumberings(const SdReader& model)
         : joints(renumber("joint", "JOINT COORDINATES", model.nodes, model.nodes.size(), model.node_index, 0)),
           members(renumber("member", "MEMBER INCIDENCES", model.beams, model.beams.size(), model.beam_index, 0)),
-          elements(renumber("element", "ELEMENT INCIDENCES SHELL", model.shells, element_count(model),
+          elements(renumber("element", "ELEMENT INCIDENCES SHELL", model.shells, STAAD::element_count(model),
                             model.shell_index, static_cast<int>(model.beams.size())))
     {
     }

@@ -2,9 +2,9 @@
 
 #include "cli/text_encoding.h"
 #include "info/load_words.h"
-#include "output/element_count.h"
 #include "output/table.h"
 #include "output/words.h"
+#include "staad/query/lookup.h"
 
 #include <algorithm>
 #include <string_view>
@@ -236,7 +236,7 @@ std::string one_line_report(const opened_model& opened)
     const SdReader& model = opened.model;
     const std::size_t surfaces = model.surfaces.size();
     return printable_name(opened.name) + ": " + count_of(model.nodes.size(), "joint") + ", " +
-           count_of(model.beams.size(), "member") + ", " + count_of(element_count(model), "element") + ", " +
+           count_of(model.beams.size(), "member") + ", " + count_of(STAAD::element_count(model), "element") + ", " +
            count_of(surfaces, "surface") + ", " + count_of(model.load_cases.size(), "load case") + '\n';
 }
 

@@ -1,7 +1,7 @@
 #include "info/model_summary.h"
 
 #include "cli/messages.h"
-#include "output/element_count.h"
+#include "staad/query/lookup.h"
 #include "staad/storeys/levels.h"
 
 #include <algorithm>
@@ -67,9 +67,9 @@ model_summary summarise(const SdReader& model, const STAAD::ReadReport& report)
     summary.joints = model.nodes.size();
     summary.members = model.beams.size();
     summary.surfaces = model.surfaces.size();
-    summary.elements = element_count(model);
+    summary.elements = STAAD::element_count(model);
     summary.box = box_around(model.nodes);
-    summary.levels = STAAD::detail::storey_levels(model);
+    summary.levels = STAAD::storey_levels(model);
     count_members(model, summary);
     summary.has_default_density = report.density_from.first == 0;
     summarise_lists(model, summary);

@@ -1,7 +1,7 @@
 #include "storeys/storey_summary.h"
 
-#include "output/element_count.h"
 #include "staad/model/positions.h"
+#include "staad/query/lookup.h"
 #include "staad/storeys/layered_project.h"
 #include "staad/storeys/levels.h"
 
@@ -20,7 +20,7 @@ using STAAD::SdReader;
 class level_sorter {
 public:
     explicit level_sorter(const SdReader& model)
-        : model_(model), assigned_(STAAD::detail::assign_levels(model)), contents_(assigned_.levels.size() + 1)
+        : model_(model), assigned_(STAAD::assign_levels(model)), contents_(assigned_.levels.size() + 1)
     {
         for (std::size_t i = 0; i < model.nodes.size(); ++i)
             contents_[static_cast<std::size_t>(assigned_.joint_levels[i].level)].joints.push_back(model.nodes[i].id);
@@ -55,7 +55,7 @@ private:
     {
         const STAAD::SdShell& shell = model_.shells[index];
         level_contents& place = place_of(assigned_.shell_levels[index], shell.node_ids);
-        (index < element_count(model_) ? place.elements : place.surfaces).push_back(shell.id);
+        (index < STAAD::element_count(model_) ? place.elements : place.surfaces).push_back(shell.id);
     }
 
     /// What is in no storey for want of a joint would perhaps be in one if it had them all.
@@ -69,12 +69,12 @@ private:
     bool has_all(const Positions& joints) const
     {
         return !joints.empty() && std::all_of(joints.begin(), joints.end(), [this](int position) {
-            return STAAD::detail::at_position(model_.nodes, position) != nullptr;
+            return STAAD::at_position(model_.nodes, position) != nullptr;
         });
     }
 
     const SdReader& model_;
-    STAAD::detail::level_assignment assigned_;
+    STAAD::LevelAssignment assigned_;
     std::vector<level_contents> contents_; // by level, and what lies above the last
     level_contents without_joints_;
     std::map<std::string, std::size_t> properties_in_none_;

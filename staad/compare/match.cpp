@@ -1,4 +1,5 @@
-/// Which joint, member and shell of an earlier model each of this model is.
+#include "staad/compare/match.h"
+
 #include "staad/compare/hash_table.h"
 #include "staad/compare/joint_grid.h"
 #include "staad/model/sd_reader.h"
@@ -13,7 +14,7 @@
 namespace STAAD {
 namespace {
 
-/// 1-based positions of the counterparts in the order of this model's records; 0 for none.
+/// As Counterparts::of_new.
 using counterparts = std::vector<int>;
 
 counterparts match_joints(const std::vector<SdNode>& joints, const std::vector<SdNode>& earlier)
@@ -26,7 +27,7 @@ counterparts match_joints(const std::vector<SdNode>& joints, const std::vector<S
     return matches;
 }
 
-/// The counterpart of a joint of this model, 0 if it has none or is no joint.
+/// The counterpart of a joint of the new model, 0 if it has none or is no joint.
 int counterpart_of(int position, const counterparts& joint_matches)
 {
     const bool is_joint = position > 0 && static_cast<std::size_t>(position) <= joint_matches.size();
@@ -38,7 +39,7 @@ std::uint64_t mixed(std::uint64_t hash, int position) noexcept
     return detail::mixed(hash, static_cast<std::uint64_t>(position));
 }
 
-/// The joints that a member stands on; it is the same in either direction.
+/// The joints that a member stands on, the same in either direction.
 struct member_joints {
     explicit member_joints(const SdBeam& member) : low(member.node_start), high(member.node_end) { put_in_order(); }
 
@@ -64,7 +65,7 @@ private:
     }
 };
 
-/// The corners of a shell in order: with another first corner, or the other way round, it is another one.
+/// The corners of a shell in order: one that begins at another corner, or goes the other way round, is another shell.
 struct shell_joints {
     explicit shell_joints(const SdShell& shell) : corners(shell.node_ids) {}
 
@@ -86,8 +87,8 @@ private:
     std::uint64_t seed() const noexcept { return corners.size(); }
 };
 
-/// Finds records of an earlier model by the joints they stand on: the first of several. Keeps the joints
-/// of every record beside each other: records are large, and far apart in memory.
+/// Finds the first record of an earlier model on given joints. Keeps copies of the joints side by side:
+/// records are large, and far apart in memory.
 template<class Joints>
 class joints_index {
 public:
@@ -129,37 +130,49 @@ counterparts match_by_joints(const std::vector<Record>& records, const std::vect
     return matches;
 }
 
-/// The entries and their inverse: of several with one counterpart the last stands in the inverse.
-void fill(std::map<int, int>& new_to_old, std::map<int, int>& old_to_new, const counterparts& matches,
-          std::size_t earlier_count)
+Counterparts with_inverse(counterparts matches, std::size_t earlier_count)
 {
-    new_to_old.clear();
-    old_to_new.clear();
-    counterparts inverse(earlier_count, 0);
+    Counterparts result;
+    result.of_old.resize(earlier_count);
     for (std::size_t i = 0; i < matches.size(); ++i) {
-        if (matches[i] == 0)
-            continue;
-        const int position = static_cast<int>(i) + 1;
-        new_to_old.emplace_hint(new_to_old.end(), position, matches[i]);
-        inverse[static_cast<std::size_t>(matches[i]) - 1] = position;
+        if (matches[i] != 0)
+            result.of_old[static_cast<std::size_t>(matches[i]) - 1] = static_cast<int>(i) + 1;
     }
-    for (std::size_t i = 0; i < inverse.size(); ++i) {
-        if (inverse[i] != 0)
-            old_to_new.emplace_hint(old_to_new.end(), static_cast<int>(i) + 1, inverse[i]);
+    result.of_new = std::move(matches);
+    return result;
+}
+
+std::map<int, int> to_map(const std::vector<int>& positions)
+{
+    std::map<int, int> entries;
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        if (positions[i] != 0)
+            entries.emplace_hint(entries.end(), static_cast<int>(i) + 1, positions[i]);
     }
+    return entries;
 }
 
 } // namespace
 
+ModelMatch match(const SdReader& now, const SdReader& earlier)
+{
+    counterparts joints = match_joints(now.nodes, earlier.nodes);
+    counterparts members = match_by_joints<member_joints>(now.beams, earlier.beams, joints);
+    counterparts shells = match_by_joints<shell_joints>(now.shells, earlier.shells, joints);
+    return {with_inverse(std::move(joints), earlier.nodes.size()),
+            with_inverse(std::move(members), earlier.beams.size()),
+            with_inverse(std::move(shells), earlier.shells.size())};
+}
+
+OldProjMaps to_maps(const ModelMatch& matched)
+{
+    return {to_map(matched.joints.of_new), to_map(matched.members.of_new), to_map(matched.shells.of_new),
+            to_map(matched.joints.of_old), to_map(matched.members.of_old), to_map(matched.shells.of_old)};
+}
+
 void SdReader::MakeMap(const SdReader& old)
 {
-    const counterparts joints = match_joints(nodes, old.nodes);
-    const counterparts members = match_by_joints<member_joints>(beams, old.beams, joints);
-    const counterparts elements = match_by_joints<shell_joints>(shells, old.shells, joints);
-    OldProjMaps& maps = old_proj_maps;
-    fill(maps.joints_new_to_old, maps.joints_old_to_new, joints, old.nodes.size());
-    fill(maps.members_new_to_old, maps.members_old_to_new, members, old.beams.size());
-    fill(maps.shells_new_to_old, maps.shells_old_to_new, elements, old.shells.size());
+    old_proj_maps = to_maps(match(*this, old));
 }
 
 } // namespace STAAD

@@ -1,0 +1,46 @@
+/// Groups, supports and releases of an earlier model in the numbers of a new one.
+#ifndef STAAD_COMPARE_TAKE_OVER_H
+#define STAAD_COMPARE_TAKE_OVER_H
+
+#include "staad/compare/match.h"
+#include "staad/export.h"
+#include "staad/model/group.h"
+
+#include <string>
+#include <vector>
+
+namespace STAAD {
+
+/// A group of the earlier model. ELEMENT and FLOOR groups go by joints, like joint groups: the numbers in
+/// them are taken for joint numbers.
+struct STAAD_API TakenGroup {
+    SdGroup group;         ///< `ids` in the new model's numbers
+    std::vector<int> lost; ///< earlier numbers without a counterpart, in their order, repeats kept
+};
+
+/// One description of supports or releases of the earlier model.
+struct STAAD_API TakenList {
+    std::string description;
+    std::vector<unsigned> numbers; ///< of joints for supports, of members for releases; the new model's
+    std::vector<int> lost;         ///< as TakenGroup::lost
+};
+
+/// All that there is to take over, in the earlier model's order.
+struct STAAD_API TakenOver {
+    std::vector<TakenGroup> groups; ///< also those of which nothing is left
+    std::vector<TakenList> supports;
+    std::vector<TakenList> releases;
+};
+
+/// Translates what `earlier` has into the numbers of `now`; changes neither. Of several earlier records
+/// with one number the first counts. `matched` is match(now, earlier).
+/// Throws: std::bad_alloc. Cost: linear in the numbers translated, n log n in the earlier lists.
+STAAD_API TakenOver definitions_to_take_over(const SdReader& now, const SdReader& earlier, const ModelMatch& matched);
+
+/// Puts them into a model. Its groups are replaced by those of which something is left, its supports by the
+/// earlier ones, empty lists included; earlier releases replace those of the same description.
+STAAD_API void take_over(SdReader& model, TakenOver definitions);
+
+} // namespace STAAD
+
+#endif
