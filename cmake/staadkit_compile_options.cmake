@@ -57,8 +57,28 @@ function(staadkit_driver_options target)
     endif()
 endfunction()
 
-# Spares a test program of many files what each of them includes, `more` among it. Not in the preset for
-# 32 bits: there, a file that forgets to include something does not compile.
-function(staadkit_test_headers target) # more...
+# Spares a test program of many files most of its compilation: what each of them includes, `more` among it, is compiled
+# once, and the files of a folder are compiled as one, so that names in their anonymous namespaces must differ within a
+# folder; `staadkit_compiled_alone` excepts those that share one. With CMAKE_DISABLE_PRECOMPILE_HEADERS, as in the
+# preset for 32 bits, each file is compiled by itself: there, one that forgets to include something does not compile.
+function(staadkit_test_batches target) # more...
     target_precompile_headers(${target} PRIVATE <gtest/gtest.h> <string> <vector> ${ARGN})
+    if(CMAKE_DISABLE_PRECOMPILE_HEADERS)
+        return()
+    endif()
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+    get_target_property(sources ${target} SOURCES)
+    foreach(source IN LISTS sources)
+        cmake_path(GET source PARENT_PATH folder)
+        cmake_path(GET folder FILENAME group)
+        set_source_files_properties(${source} PROPERTIES UNITY_GROUP "batch_${group}")
+    endforeach()
+    if(NOT MSVC)
+        # A local name may be that of something in another file of the folder.
+        target_compile_options(${target} PRIVATE -Wno-shadow)
+    endif()
+endfunction()
+
+function(staadkit_compiled_alone) # sources...
+    set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()

@@ -1,5 +1,6 @@
 #include "process.h"
 
+#include <iostream>
 #include <stdexcept>
 #include <string_view>
 
@@ -31,6 +32,11 @@ std::wstring quoted(const std::wstring& word)
     return text.append(backslashes, L'\\') + L'"';
 }
 
+std::string with_last_error(const std::string& message)
+{
+    return message + ": error " + std::to_string(GetLastError());
+}
+
 /// A handle that the program to be inherits.
 class stream {
 public:
@@ -40,7 +46,7 @@ public:
         handle_ = CreateFileW(wide(name).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, disposition,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
         if (handle_ == INVALID_HANDLE_VALUE)
-            throw std::runtime_error("cannot open " + name);
+            throw std::runtime_error(with_last_error("cannot open " + name));
     }
     ~stream() { CloseHandle(handle_); }
     stream(const stream&) = delete;
@@ -62,6 +68,24 @@ int exit_code_of(HANDLE process)
     return code >= first_exception ? -1 : static_cast<int>(code);
 }
 
+/// Under Wine a start was seen to fail that succeeds a moment later: it is tried a few times, and each failure is
+/// printed with its error.
+PROCESS_INFORMATION start(const std::string& name, std::wstring command, STARTUPINFOW& startup)
+{
+    constexpr int most_tries = 5;
+    constexpr DWORD pause = 300; // ms
+    for (int tries = 1;; ++tries) {
+        PROCESS_INFORMATION process{};
+        if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
+            return process;
+        const std::string message = with_last_error("cannot start " + name);
+        if (tries == most_tries)
+            throw std::runtime_error(message);
+        std::cerr << message << "; trying again\n";
+        Sleep(pause);
+    }
+}
+
 } // namespace
 
 int run_to_end(std::vector<std::string> words, const process_streams& streams)
@@ -78,9 +102,7 @@ int run_to_end(std::vector<std::string> words, const process_streams& streams)
     startup.hStdInput = in.get();
     startup.hStdOutput = out.get();
     startup.hStdError = err.get();
-    PROCESS_INFORMATION process{};
-    if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process) == 0)
-        throw std::runtime_error("cannot start " + words.front());
+    const PROCESS_INFORMATION process = start(words.front(), command, startup);
     const int code = exit_code_of(process.hProcess);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);

@@ -1,5 +1,6 @@
-/// Memory that runs out at each of the first allocations of an operation, once or from then on: the operation throws
-/// std::bad_alloc or ends as it should, nothing leaks, and what it worked on can be destroyed or used again.
+/// Memory that runs out at each of the first allocations of an operation and at many later ones, once or from then on:
+/// the operation throws std::bad_alloc or ends as it should, nothing leaks, and what it worked on can be destroyed or
+/// used again.
 
 #include "staad/host/platform_services.h"
 #include "staad/model/sd_reader.h"
@@ -27,9 +28,11 @@ namespace {
 
 using differences = std::vector<std::string>;
 
-/// No more of an operation are failed one by one.
+/// The first allocations of an operation fail each; of those after them, up to `most_allocations`, every seventh: by
+/// then an operation repeats itself record by record, and steps of seven come upon every part of a record in turn.
+constexpr std::size_t each_fails = 500;
 constexpr std::size_t most_allocations = 2000;
-/// Of these, every so many; the environment may set more, for what runs slowly.
+/// The steps are so many times as long; the environment may set more, for what runs slowly.
 std::size_t step()
 {
     if (const char* const apart = std::getenv("STAADKIT_ALLOCATIONS_APART"))
@@ -56,9 +59,10 @@ void fail_each_allocation(Make make, Operation operate, Check check)
     ASSERT_GT(needed, 0U);
     const std::size_t apart = step();
     for (const auto how : {allocations::failure::once, allocations::failure::from_then_on}) {
-        for (std::size_t number = 1; number <= std::min(needed, most_allocations); number += apart) {
+        for (std::size_t number = 1; number <= std::min(needed, most_allocations);
+             number += number < each_fails ? apart : 7 * apart) {
             SCOPED_TRACE("allocation " + std::to_string(number) +
-                         (how == allocations::failure::once ? " fails" : " fails, and all behind it"));
+                         (how == allocations::failure::once ? " fails" : " fails, and all after it"));
             const std::size_t live = allocations::live();
             {
                 auto subject = make();
@@ -116,7 +120,7 @@ void expect_reads_again(SdReader& model, const std::string& text, const SdReader
     EXPECT_EQ(model_differences(model, want), differences{});
 }
 
-struct told_model {
+struct reported_model {
     SdReader model;
     ReadReport report;
 };
@@ -144,15 +148,16 @@ TEST_P(Exhaustion, OfAReadingFromAFileWithAReport)
     const std::string path = examples::path(name() + ".std");
     ReadReport whole_report;
     SdReader().ReadSDDataFromText(text_, whole_report);
-    fail_each_allocation([] { return told_model(); },
-                         [&](told_model& told) { told.model.ReadSDDataFromStdFile(path.c_str(), told.report); },
-                         [&](told_model& told, outcome end) {
-                             if (end == outcome::finished) {
-                                 EXPECT_EQ(model_differences(told.model, whole_), differences{});
-                                 EXPECT_EQ(told.report.findings.size(), whole_report.findings.size());
-                             }
-                             expect_reads_again(told.model, text_, whole_);
-                         });
+    fail_each_allocation(
+        [] { return reported_model(); },
+        [&](reported_model& result) { result.model.ReadSDDataFromStdFile(path.c_str(), result.report); },
+        [&](reported_model& result, outcome end) {
+            if (end == outcome::finished) {
+                EXPECT_EQ(model_differences(result.model, whole_), differences{});
+                EXPECT_EQ(result.report.findings.size(), whole_report.findings.size());
+            }
+            expect_reads_again(result.model, text_, whole_);
+        });
 }
 
 TEST_P(Exhaustion, OfAWritingToMemory)
@@ -286,16 +291,16 @@ TEST_P(ExhaustionOfForces, WithAReport)
     whole.ReadForceMomentFromText(listing_, whole_report);
     fail_each_allocation(
         [&] {
-            return told_model{whole_, {}};
+            return reported_model{whole_, {}};
         },
-        [&](told_model& told) { told.model.ReadForceMomentFromText(listing_, told.report); },
-        [&](told_model& told, outcome end) {
+        [&](reported_model& result) { result.model.ReadForceMomentFromText(listing_, result.report); },
+        [&](reported_model& result, outcome end) {
             if (end == outcome::finished) {
-                EXPECT_EQ(model_differences(told.model, whole), differences{});
-                EXPECT_EQ(told.report.findings.size(), whole_report.findings.size());
+                EXPECT_EQ(model_differences(result.model, whole), differences{});
+                EXPECT_EQ(result.report.findings.size(), whole_report.findings.size());
             }
-            told.model.ReadForceMomentFromText(listing_, told.report);
-            EXPECT_EQ(model_differences(told.model, whole), differences{});
+            result.model.ReadForceMomentFromText(listing_, result.report);
+            EXPECT_EQ(model_differences(result.model, whole), differences{});
         });
 }
 
