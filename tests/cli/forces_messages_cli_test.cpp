@@ -4,51 +4,47 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
 namespace cli_test {
 namespace {
 
 struct listing_case {
     const char* why;
     std::string listing;
-    const char* place; ///< behind the name of the listing
+    const char* message; ///< after the name of the listing
 };
 
 const std::vector<std::string> short_section = {"11 1:A 0 1 1 1 1 1 1", "4 1 1 1 1 1 1", "2:B 0 1 1 1 1 1 1",
                                                 "4 1 1 1 1 1 1"};
+const std::string whole = force_listing();
 
-std::vector<listing_case> doubtful_listings()
-{
-    const std::string cut_off = force_listing();
-    return {
-        {"a member that the model does not have", force_listing(), ":18: warning force-unknown-member: member 77 "},
-        {"the last load case of a section", force_listing(), ":22: warning force-last-case: load case 2 of member 13 "},
-        {"a unit that is in no table", force_section(short_section, "(ell) (kN) (kN-m)"),
-         ":5: warning unit-word: 'ell' "},
-        {"no moment unit", force_section(short_section, "(m) (kN)"), ":5: warning unit-word: "},
-        {"a load case of one station", force_section({"11 1:A 0 1 1 1 1 1 1", "2:B 0 1 1 1 1 1 1", "4 1 1 1 1 1 1"}),
-         ": warning force-few-stations: load case 1 of member 11 "},
-        {"cut off in the middle of a line", cut_off.substr(0, cut_off.find("\n 4 2 0 0 0") + 6),
-         ":20: warning force-cut-off: the listing breaks off in member 13, load case 1"},
-        {"most members are not in the model",
-         force_section({"71 1:A 0 1 1 1 1 1 1", "72 1:A 0 1 1 1 1 1 1", "11 1:A 0 1 1 1 1 1 1", "2:B 0 1 1 1 1 1 1"}),
-         ": warning force-other-model: 2 of 3 members "},
-        {"a line of few words", force_section({"11 1:A 0 1 1 1 1 1 1", "4 1 1 1", "2:B 0 1 1 1 1 1 1"}),
-         ":7: warning force-short-line: '"},
-        {"what is no number", force_section({"11 1:A 0 one 1 1 1 1 1", "2:B 0 1 1 1 1 1 1"}),
-         ":6: warning number-word: 'one' "},
-    };
-}
+const listing_case doubtful_listings[] = {
+    {"a member that the model does not have", whole, ":18: warning force-unknown-member: member 77 "},
+    {"the last load case of a section", whole, ":22: warning force-last-case: load case 2 of member 13 "},
+    {"a unit that is in no table", force_section(short_section, "(ell) (kN) (kN-m)"), ":5: warning unit-word: 'ell' "},
+    {"no moment unit", force_section(short_section, "(m) (kN)"), ":5: warning unit-word: "},
+    {"a load case of one station", force_section({"11 1:A 0 1 1 1 1 1 1", "2:B 0 1 1 1 1 1 1", "4 1 1 1 1 1 1"}),
+     ": warning force-few-stations: load case 1 of member 11 "},
+    {"cut off in the middle of a line", whole.substr(0, whole.find("\n 4 2 0 0 0") + 6),
+     ":20: warning force-cut-off: the listing breaks off in member 13, load case 1"},
+    {"most members are not in the model",
+     force_section({"71 1:A 0 1 1 1 1 1 1", "72 1:A 0 1 1 1 1 1 1", "11 1:A 0 1 1 1 1 1 1", "2:B 0 1 1 1 1 1 1"}),
+     ": warning force-other-model: 2 of 3 members "},
+    {"a line of few words", force_section({"11 1:A 0 1 1 1 1 1 1", "4 1 1 1", "2:B 0 1 1 1 1 1 1"}),
+     ":7: warning force-short-line: '"},
+    {"what is no number", force_section({"11 1:A 0 one 1 1 1 1 1", "2:B 0 1 1 1 1 1 1"}),
+     ":6: warning number-word: 'one' "},
+};
 
 TEST(ForcesMessages, DoubtfulListingsAreShownAndWarnedOf)
 {
-    for (const listing_case& each : doubtful_listings()) {
+    for (const listing_case& each : doubtful_listings) {
         const force_files forces(each.listing);
         const tool_result result = forces();
         EXPECT_EQ(result.exit_code, 0) << each.why;
-        EXPECT_TRUE(contains('\n' + result.err, '\n' + forces.listing + each.place)) << each.why << ": " << result.err;
+        EXPECT_TRUE(contains('\n' + result.err, '\n' + forces.listing + each.message))
+            << each.why << ": " << result.err;
         EXPECT_TRUE(contains(result.out, "\nsections: 1\n")) << each.why;
+        EXPECT_FALSE(contains(result.err, ": note ")) << each.why;
     }
 }
 
@@ -57,78 +53,44 @@ TEST(ForcesMessages, SectionsAsNotesOnRequest)
     const force_files forces;
     const std::string note = ":1: note force-section: forces of 3 members in 'UNIT m kN kN-m'";
     EXPECT_TRUE(has_line(forces({"--notes"}).err, forces.listing + note));
-    EXPECT_FALSE(contains(forces().err, ": note "));
 }
 
 TEST(ForcesMessages, FindingsOfTheModelNameTheModel)
 {
     std::string deck = force_model();
     deck.replace(deck.find("UNIT METER"), 10, "UNIT METERS");
-    const force_files forces(force_listing(), deck);
+    const force_files forces(whole, deck);
     const tool_result result = forces();
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_TRUE(contains('\n' + result.err, '\n' + forces.model + ":2: warning unit-word: ")) << result.err;
 }
 
-TEST(ForcesMessages, ListingThatGivesNothingIsAnError)
+TEST(ForcesMessages, NoForces)
 {
     const force_files forces("Internal forces\n 11 1:A 0 1 1 1 1 1 1\n");
-    const tool_result result = forces();
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err.rfind(forces.listing + ": error force-no-title: ", 0), 0U) << result.err;
-    const std::string missing = forces.tool.missing("nowhere.txt");
-    const tool_result no_file = forces.tool({"forces", forces.model, missing});
-    EXPECT_EQ(no_file.exit_code, 3);
-    EXPECT_EQ(no_file.out, "");
-    EXPECT_EQ(no_file.err.rfind(missing + ": error file-missing: ", 0), 0U) << no_file.err;
-}
-
-TEST(ForcesMessages, ListingThatCannotBeReadIsAnError)
-{
-    const force_files forces;
-    const tool_result folder = forces.tool({"forces", forces.model, forces.tool.folder()});
-    EXPECT_EQ(folder.exit_code, 3);
-    EXPECT_EQ(folder.err.rfind(forces.tool.folder() + ": error file-", 0), 0U) << folder.err;
-#ifndef _WIN32 // has no streams from folders
-    const tool_result input = forces.tool.from(forces.tool.folder(), {"forces", forces.model, "-"});
-    EXPECT_EQ(input.exit_code, 3);
-    EXPECT_EQ(input.err.rfind("<stdin>: error file-unreadable: ", 0), 0U) << input.err;
-#endif
-}
-
-TEST(ForcesMessages, ListingThatIsWriteProtectedIsAnError)
-{
-    const force_files forces;
-    namespace fs = std::filesystem;
-    fs::permissions(forces.listing, fs::perms::owner_read);
-    if (std::ofstream(forces.listing, std::ios::app))
-        GTEST_SKIP() << "permissions do not bind this user";
-    const tool_result result = forces();
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err.rfind(forces.listing + ": error file-access: ", 0), 0U) << result.err;
-}
-
-TEST(ForcesMessages, NoModelNoForces)
-{
-    const force_files forces;
-    const std::string missing = forces.tool.missing("nowhere.std");
-    const tool_result result = forces.tool({"forces", missing, forces.tool.missing("nowhere.txt")});
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err.rfind(missing + ": error file-missing: ", 0), 0U) << result.err;
-    EXPECT_FALSE(contains(result.err, "nowhere.txt")) << "the listing is not opened";
-}
-
-TEST(ForcesMessages, ModelWithoutMembers)
-{
-    const force_files forces(force_listing(), "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0;\n"
-                                              "MEMBER INCIDENCES\nFINISH\n");
-    const tool_result result = forces();
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, "");
-    EXPECT_TRUE(contains(result.err, forces.listing + ": error force-no-model: ")) << result.err;
+    const std::string& model = forces.model;
+    const std::string& listing = forces.listing;
+    const std::string no_members =
+        forces.tool.write("joint.std", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n");
+    const std::string nowhere = forces.tool.missing("nowhere");
+    struct {
+        const char* why;
+        std::string model, listing, message;
+    } const cases[] = {
+        {"no title", model, listing, listing + ": error force-no-title: "},
+        {"no listing", model, nowhere, nowhere + ": error file-missing: "},
+        {"no members", no_members, listing, listing + ": error force-no-model: "},
+        {"no model: the listing is not opened", nowhere + ".std", nowhere, nowhere + ".std: error file-missing: "},
+    };
+    for (const auto& each : cases) {
+        for (const char* form : {"--pkpm", "--csv"}) {
+            const tool_result result = forces.tool({"forces", each.model, each.listing, form});
+            EXPECT_EQ(result.exit_code, 3) << each.why;
+            EXPECT_EQ(result.out, "") << each.why;
+            EXPECT_TRUE(contains('\n' + result.err, '\n' + each.message)) << each.why << ": " << result.err;
+        }
+    }
+    EXPECT_FALSE(contains(forces.tool({"forces", nowhere + ".std", nowhere}).err, nowhere + ": "));
 }
 
 struct option_case {
@@ -142,18 +104,29 @@ const option_case option_cases[] = {
     {"no such member", {"--member", "99"}, 2, "staadkit: error: --member 99: the model has no such member\n"},
     {"a member of the listing only", {"--member", "77"}, 2, "--member 77: the model has no such member\n"},
     {"a position is no number of a member", {"--member", "1"}, 2, "--member 1: the model has no such member\n"},
+    {"those of a list that are unknown; a range is if all of it is",
+     {"--member", "12 98 1 TO 10 13 TO 20", "--member", "99"},
+     2,
+     "--member 98 1 TO 10 99: the model has no such member\n"},
     {"no such load case", {"--case", "8"}, 2, "--case 8: neither the model nor the listing has such a load case\n"},
     {"one of several is unknown", {"--case", "1", "--case", "8"}, 2, "--case 8: "},
     {"a load case of the model without forces",
      {"--case", "5"},
      0,
      ": warning case-without-forces: no forces of load case 5\n"},
+    {"two of them", {"--case", "1 5 TO 6"}, 0, ": warning case-without-forces: no forces of load cases 5 TO 6\n"},
     {"a member and a load case that do not meet",
      {"--member", "11", "--case", "9"},
      0,
      ": warning nothing-selected: no member asked for has forces of a load case asked for\n"},
-    {"no number", {"--member", "A1"}, 2, "--member = A1\nTry: staadkit forces --help\n"},
-    {"no number at all", {"--case"}, 2, "--case: 1 required N missing\nTry: staadkit forces --help\n"},
+    {"no number", {"--member", "A1"}, 2, "--member: 'A1' is no list of numbers such as '1 5 TO 9'\nTry: "},
+    {"commas", {"--member", "1,5"}, 2, "--member: '1,5' is no list of numbers such as '1 5 TO 9'\n"},
+    {"a range without end", {"--member", "1 TO"}, 2, "--member: '1 TO' is no list "},
+    {"a range to a range", {"--member", "1 TO 5 TO 9"}, 2, "--member: '1 TO 5 TO 9' is no list "},
+    {"a number too large", {"--member", "2147483648"}, 2, "--member: '2147483648' is no list "},
+    {"a range downward", {"--case", "9 TO 1"}, 2, "--case: '9 TO 1' has no numbers: the first is the larger one\n"},
+    {"blanks alone", {"--case", " "}, 2, "--case: the list is empty\n"},
+    {"no list at all", {"--case"}, 2, "--case: 1 required LIST missing\nTry: staadkit forces --help\n"},
     {"two forms", {"--json", "--csv"}, 2, "--json excludes --csv\n"},
     {"two views", {"--extremes", "--pkpm"}, 2, "--extremes excludes --pkpm\n"},
     {"a letter missing", {"--extreme"}, 2, "unknown option '--extreme'; did you mean '--extremes'?\n"},
@@ -174,15 +147,16 @@ TEST(ForcesMessages, Options)
 TEST(ForcesMessages, MemberOfTheModelWithoutForces)
 {
     const force_files forces(force_section(short_section));
-    const tool_result result = forces({"--member", "11", "--member", "13"});
+    const std::string warning = forces.listing + ": warning member-without-forces: no forces of member";
+    const tool_result result = forces({"--member", "11 TO 13"});
     EXPECT_EQ(result.exit_code, 0);
-    EXPECT_TRUE(has_line(result.err, forces.listing + ": warning member-without-forces: no forces of member 13"))
-        << result.err;
+    EXPECT_TRUE(has_line(result.err, warning + "s 12 TO 13")) << result.err;
     EXPECT_TRUE(has_line(result.out, "Member 11, load case 1: dead, SELF WEIGHT")) << result.out;
     const tool_result none = forces({"--member", "13"});
     EXPECT_EQ(none.exit_code, 0);
+    EXPECT_TRUE(has_line(none.err, warning + " 13")) << none.err;
     EXPECT_TRUE(has_line(none.out, "shown: 0 members, 0 load cases, 0 stations")) << none.out;
-    EXPECT_FALSE(contains(none.err, "nothing-selected")) << "it is told already: " << none.err;
+    EXPECT_FALSE(contains(none.err, "nothing-selected")) << "once is enough: " << none.err;
 }
 
 TEST(ForcesMessages, FilesAreRequiredAndNotBothStandardInput)
@@ -196,17 +170,6 @@ TEST(ForcesMessages, FilesAreRequiredAndNotBothStandardInput)
         EXPECT_TRUE(contains(result.err, messages[i])) << result.err;
         EXPECT_TRUE(has_line(result.err, "Try: staadkit forces --help")) << result.err;
     }
-}
-
-TEST(ForcesMessages, Help)
-{
-    const tool_run tool;
-    EXPECT_TRUE(contains(tool({"--help"}).out, "\n  forces "));
-    const std::string help = tool({"forces", "--help"}).out;
-    EXPECT_TRUE(contains(help, "Usage: staadkit forces [OPTIONS] MODEL FORCES\n")) << help;
-    for (const char* option : {"--member N ", "--case N ", "--extremes ", "--pkpm ", "--json ", "--csv ", "--notes "})
-        EXPECT_TRUE(contains(help, std::string("\n  ") + option)) << option;
-    EXPECT_TRUE(has_line(help, "  3  no model in the input"));
 }
 
 TEST(ForcesMessages, TextsOfTheFilesCannotDriveTheTerminal)
@@ -235,7 +198,7 @@ TEST(ForcesMessages, OutputThatCannotBeWrittenIsAnError)
     }
 }
 
-/// Long enough that a terminal would be told that it is being read.
+/// More than 16 MB.
 std::string long_listing()
 {
     std::vector<std::string> data;
@@ -247,28 +210,23 @@ std::string long_listing()
     return force_section(data);
 }
 
-TEST(ForcesMessages, NoProgressWhereNobodyWatches)
+TEST(ForcesMessages, LongListings)
 {
     const force_files forces(long_listing());
-    ASSERT_GT(std::filesystem::file_size(forces.listing), 16'000'000U);
     const tool_result result = forces({"--extremes"});
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_TRUE(has_line(result.out, "stations: " + std::to_string(19999 * 12))) << result.out.substr(0, 200);
-    EXPECT_FALSE(contains(result.err, "reading")) << result.err;
-}
-
+    EXPECT_FALSE(contains(result.err, "reading")) << "progress where nobody watches: " << result.err;
 #ifndef _WIN32
-TEST(ForcesMessages, ListingThatMemoryDoesNotSufficeFor)
-{
     if (tool_has_address_sanitizer)
         GTEST_SKIP() << "the sanitizer takes more memory than the limit";
-    const force_files forces(long_listing());
-    const tool_result result = forces.tool.within(32, forces.call({"--extremes"}));
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, "");
-    EXPECT_TRUE(has_line(result.err, forces.listing + ": error memory: not enough memory to read it")) << result.err;
-}
+    const tool_result no_memory = forces.tool.within(32, forces.call({"--extremes"}));
+    EXPECT_EQ(no_memory.exit_code, 3);
+    EXPECT_EQ(no_memory.out, "");
+    EXPECT_TRUE(has_line(no_memory.err, forces.listing + ": error memory: not enough memory to read it"))
+        << no_memory.err;
 #endif
+}
 
 } // namespace
 } // namespace cli_test

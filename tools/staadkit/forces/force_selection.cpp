@@ -1,8 +1,13 @@
 #include "forces/force_selection.h"
 
-#include <algorithm>
+#include "output/run_list.h"
+#include "staad/text/ranges.h"
+#include "staad/text/split_string.h"
+
+#include <charconv>
+#include <limits>
+#include <optional>
 #include <set>
-#include <utility>
 
 namespace tool {
 namespace {
@@ -10,21 +15,66 @@ namespace {
 using STAAD::Finding;
 using STAAD::SdReader;
 
-std::set<int> set_of(const std::vector<int>& numbers)
+std::optional<int> whole_number(const std::string& word)
 {
-    return {numbers.begin(), numbers.end()};
+    int number = 0;
+    const std::from_chars_result end = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (end.ec != std::errc() || end.ptr != word.data() + word.size())
+        return std::nullopt;
+    return number;
 }
 
-bool has_forces(const SdReader& model, int member)
+std::set<int> member_numbers(const SdReader& model)
 {
-    const auto position = model.beam_index.find(member);
-    return position != model.beam_index.end() && model.beam_forces.count(position->second) != 0;
+    std::set<int> numbers;
+    for (const STAAD::SdBeam& member : model.beams)
+        numbers.insert(member.id);
+    return numbers;
 }
 
-bool has_forces_of(const SdReader& model, int load_case)
+std::set<int> members_with_forces(const SdReader& model)
 {
-    return std::any_of(model.beam_forces.begin(), model.beam_forces.end(),
-                       [load_case](const auto& entry) { return entry.second.records.count(load_case) != 0; });
+    std::set<int> numbers;
+    for (const auto& [position, forces] : model.beam_forces)
+        numbers.insert(member_number(model, forces));
+    return numbers;
+}
+
+std::set<int> cases_with_forces(const SdReader& model)
+{
+    std::set<int> numbers;
+    each_record(model,
+                [&numbers](int /*member*/, int load_case, const auto& /*record*/) { numbers.insert(load_case); });
+    return numbers;
+}
+
+std::set<int> case_numbers(const SdReader& model)
+{
+    std::set<int> numbers = cases_with_forces(model);
+    for (const auto& [number, load_case] : model.load_cases)
+        numbers.insert(number);
+    return numbers;
+}
+
+/// Those of the `known` numbers that are in the ranges.
+std::set<int> numbers_in(const number_ranges& ranges, const std::set<int>& known)
+{
+    std::set<int> numbers;
+    for (const auto& [first, last] : ranges)
+        numbers.insert(known.lower_bound(first), known.upper_bound(last));
+    return numbers;
+}
+
+/// The ranges without any of the `known` numbers, as a list; gaps within a range are none of them.
+std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& known)
+{
+    number_ranges unknown;
+    for (const auto& [first, last] : ranges) {
+        const auto found = known.lower_bound(first);
+        if (found == known.end() || *found > last)
+            unknown.emplace_back(first, last);
+    }
+    return STAAD::format_id_ranges({}, unknown, std::numeric_limits<std::size_t>::max());
 }
 
 void warn(STAAD::ReadReport& report, const char* code, std::string text)
@@ -36,41 +86,58 @@ void warn(STAAD::ReadReport& report, const char* code, std::string text)
     report.findings.push_back(std::move(finding));
 }
 
-/// Whether anything was told.
-bool tell_missing(const force_selection& wanted, const SdReader& model, STAAD::ReadReport& report)
+/// Warns of those of the `wanted` numbers that are not in `present`.
+void report_missing(const std::set<int>& wanted, const std::set<int>& present, const char* code, const char* what,
+                    STAAD::ReadReport& report)
 {
-    const std::size_t before = report.findings.size();
-    for (const int member : wanted.members) {
-        if (!has_forces(model, member))
-            warn(report, "member-without-forces", "no forces of member " + std::to_string(member));
+    std::vector<int> missing;
+    for (const int number : wanted) {
+        if (present.count(number) == 0)
+            missing.push_back(number);
     }
-    for (const int load_case : wanted.cases) {
-        if (!has_forces_of(model, load_case))
-            warn(report, "case-without-forces", "no forces of load case " + std::to_string(load_case));
-    }
-    return report.findings.size() != before;
+    if (!missing.empty())
+        warn(report, code, std::string("no forces of ") + what + (missing.size() > 1 ? "s " : " ") + run_list(missing));
 }
 
 } // namespace
 
+std::string add_number_list(const std::string& text, number_ranges& ranges)
+{
+    const std::vector<std::string> words = STAAD::SplitString(text, " ");
+    const auto is_to = [&words](std::size_t i) { return i < words.size() && (words[i] == "TO" || words[i] == "to"); };
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        const std::optional<int> first = whole_number(words[i]);
+        const bool is_range = is_to(i + 1);
+        const std::optional<int> last = !is_range              ? first
+                                        : i + 2 < words.size() ? whole_number(words[i + 2])
+                                                               : std::nullopt;
+        if (!first || !last)
+            return '\'' + text + "' is no list of numbers such as '1 5 TO 9'";
+        if (*last < *first)
+            return '\'' + words[i] + " TO " + words[i + 2] + "' has no numbers: the first is the larger one";
+        ranges.emplace_back(*first, *last);
+        i += is_range ? 2 : 0;
+    }
+    return words.empty() ? "the list is empty" : std::string();
+}
+
 std::string unknown_in(const force_selection& wanted, const SdReader& model)
 {
-    for (const int member : wanted.members) {
-        if (model.beam_index.count(member) == 0)
-            return "--member " + std::to_string(member) + ": the model has no such member";
-    }
-    for (const int load_case : wanted.cases) {
-        if (model.load_cases.count(load_case) == 0 && !has_forces_of(model, load_case))
-            return "--case " + std::to_string(load_case) + ": neither the model nor the listing has such a load case";
-    }
+    if (const std::string unknown = unknown_ranges(wanted.members, member_numbers(model)); !unknown.empty())
+        return "--member " + unknown + ": the model has no such member";
+    if (const std::string unknown = unknown_ranges(wanted.cases, case_numbers(model)); !unknown.empty())
+        return "--case " + unknown + ": neither the model nor the listing has such a load case";
     return {};
 }
 
 void keep_selected(const force_selection& wanted, SdReader& model, STAAD::ReadReport& report)
 {
-    const bool is_told = tell_missing(wanted, model, report) || model.beam_forces.empty();
-    const std::set<int> members = set_of(wanted.members);
-    const std::set<int> cases = set_of(wanted.cases);
+    const std::size_t findings_before = report.findings.size();
+    const std::set<int> members = numbers_in(wanted.members, member_numbers(model));
+    const std::set<int> cases = numbers_in(wanted.cases, case_numbers(model));
+    report_missing(members, members_with_forces(model), "member-without-forces", "member", report);
+    report_missing(cases, cases_with_forces(model), "case-without-forces", "load case", report);
+    const bool is_reported = report.findings.size() != findings_before || model.beam_forces.empty();
     if (!members.empty())
         std::erase_if(model.beam_forces,
                       [&](const auto& entry) { return members.count(member_number(model, entry.second)) == 0; });
@@ -79,7 +146,7 @@ void keep_selected(const force_selection& wanted, SdReader& model, STAAD::ReadRe
             std::erase_if(forces.records, [&](const auto& entry) { return cases.count(entry.first) == 0; });
         std::erase_if(model.beam_forces, [](const auto& entry) { return entry.second.records.empty(); });
     }
-    if (model.beam_forces.empty() && !is_told)
+    if (model.beam_forces.empty() && !is_reported)
         warn(report, "nothing-selected", "no member asked for has forces of a load case asked for");
 }
 

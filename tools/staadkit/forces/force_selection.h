@@ -5,25 +5,31 @@
 #include "staad/model/sd_reader.h"
 #include "staad/report/read_report.h"
 
-#include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tool {
 
-/// Numbers that were asked for; none: all of them.
+/// Ranges (first, last) of numbers as they were asked for, not counted out.
+using number_ranges = std::vector<std::pair<int, int>>;
+
+/// Adds the numbers of a list such as "1 5 TO 9" to `ranges`. Empty if it is one, else what is wrong with it.
+std::string add_number_list(const std::string& text, number_ranges& ranges);
+
+/// Members and load cases that were asked for; empty: all of them.
 struct force_selection {
-    std::vector<int> members;
-    std::vector<int> cases;
+    number_ranges members;
+    number_ranges cases;
 
     bool is_all() const noexcept { return members.empty() && cases.empty(); }
 };
 
-/// Why nothing can be shown: one of the numbers is that of nothing the model or its forces have. Empty if
-/// all are known.
+/// Why nothing can be shown: a number, or a whole range, is that of nothing the model or its forces have. Empty
+/// if there is no such number.
 std::string unknown_in(const force_selection& wanted, const STAAD::SdReader& model);
 
-/// Takes the other forces out of the model, and adds to `report` what was asked for and is not there.
+/// Takes the other forces out of the model, and adds to `report` what was asked for and has no forces.
 void keep_selected(const force_selection& wanted, STAAD::SdReader& model, STAAD::ReadReport& report);
 
 /// The number of a member that has forces.

@@ -1,11 +1,9 @@
-// The report of "forces" for spreadsheets: RFC 4180 but for the line ends, which are LF. No cell needs
-// quotes: all are numbers and words of ours.
+// The report of "forces" for spreadsheets. No cell needs quotes: all are numbers and words of ours.
 
-#include "forces/force_columns.h"
-#include "forces/force_extremes.h"
-#include "forces/force_lists.h"
+#include "forces/force_selection.h"
+#include "forces/force_tables.h"
 #include "forces/forces_report.h"
-#include "info/load_words.h"
+#include "output/words.h"
 
 #include <charconv>
 #include <initializer_list>

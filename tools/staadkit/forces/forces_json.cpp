@@ -1,12 +1,11 @@
 // The report of "forces" for programs: numbers exact, written member by member.
 
-#include "forces/force_columns.h"
-#include "forces/force_extremes.h"
-#include "forces/force_lists.h"
+#include "forces/force_selection.h"
+#include "forces/force_tables.h"
 #include "forces/forces_report.h"
-#include "info/load_words.h"
 #include "output/finding_fields.h"
 #include "output/json_writer.h"
+#include "output/words.h"
 
 #include <string>
 #include <vector>

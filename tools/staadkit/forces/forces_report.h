@@ -1,13 +1,36 @@
-/// What "forces" prints, as text, JSON or CSV.
+/// What "forces" shows, as text, JSON or CSV.
 #ifndef TOOLS_STAADKIT_FORCES_FORCES_REPORT_H
 #define TOOLS_STAADKIT_FORCES_FORCES_REPORT_H
 
 #include "cli/open_model.h"
-#include "forces/force_selection.h"
-#include "forces/force_summary.h"
 #include "output/std_output.h"
 
+#include <cstddef>
+#include <optional>
+#include <vector>
+
 namespace tool {
+
+/// One load case of the listing.
+struct force_case_summary {
+    int number = 0;
+    std::optional<STAAD::LoadCase> of_model; ///< none for combinations, which the model does not hold
+    std::size_t members = 0;
+};
+
+/// What was read from a listing, in numbers.
+struct force_summary {
+    std::vector<STAAD::Finding> sections; ///< one each, as far as the report lists them
+    std::size_t section_count = 0;
+    std::size_t members = 0;
+    std::size_t members_in_model = 0;
+    std::size_t unknown_member_lines = 0;  ///< lines of the listing that begin a member the model does not have
+    std::vector<force_case_summary> cases; ///< ascending
+    std::size_t stations = 0;
+};
+
+/// `report` is that of the listing.
+force_summary summarise_forces(const STAAD::SdReader& model, const STAAD::ReadReport& report);
 
 enum class forces_view {
     stations, ///< every printed station
@@ -15,7 +38,7 @@ enum class forces_view {
     lists     ///< of the downstream design program
 };
 
-/// One run of the verb: all of it but the form in which it is printed.
+/// All that one call of the verb shows, but for the form in which it is printed.
 struct forces_report {
     opened_model model; ///< with the forces that are shown
     opened_forces listing;
@@ -29,6 +52,7 @@ void put_forces_text(std_output& out, const forces_report& report);
 /// One object, also where model or listing could not be read.
 void put_forces_json(std_output& out, const forces_report& report);
 
+/// RFC 4180 but for the line ends, which are LF.
 void put_forces_csv(std_output& out, const forces_report& report);
 
 } // namespace tool

@@ -1,11 +1,9 @@
 // The report of "forces" for people.
 
 #include "cli/text_encoding.h"
-#include "forces/force_columns.h"
-#include "forces/force_extremes.h"
-#include "forces/force_lists.h"
+#include "forces/force_selection.h"
+#include "forces/force_tables.h"
 #include "forces/forces_report.h"
-#include "info/load_words.h"
 #include "output/table.h"
 #include "output/words.h"
 
@@ -17,13 +15,12 @@
 namespace tool {
 namespace {
 
-/// Longer titles are cut: --json has the findings, the model has the titles.
-constexpr std::size_t most_shown = 120;
 constexpr std::size_t most_sections = 10;
 
+/// Longer titles are cut: --json has the findings, the model has the titles.
 std::string shown(std::string_view text)
 {
-    return clipped(printable_text(text), most_shown);
+    return cell_text(text, "");
 }
 
 /// Decimals as the column has them; what is too large for a column of digits with a power of ten.
@@ -48,7 +45,7 @@ std::string type_in_words(const STAAD::LoadCase& load_case)
 
 constexpr const char* not_in_model = "not in the model";
 
-/// ": dead, DEAD" behind the number of a load case.
+/// ": dead, DEAD", to be put after the number of a load case.
 std::string case_in_words(const STAAD::LoadCase* load_case)
 {
     if (load_case == nullptr)
@@ -63,16 +60,16 @@ void put_sections(std_output& out, const force_summary& summary)
 {
     out.put("sections: " + std::to_string(summary.section_count) + '\n');
     table rows;
-    std::size_t told = 0;
+    std::size_t shown_sections = 0;
     for (const STAAD::Finding& section : summary.sections) {
         if (rows.size() == most_sections || section.count != 1)
             break;
         rows.add_row({"line " + std::to_string(section.first_line), shown(section.text)});
-        ++told;
+        ++shown_sections;
     }
     rows.put(out);
-    if (told < summary.section_count)
-        out.put("  and " + std::to_string(summary.section_count - told) + " more\n");
+    if (shown_sections < summary.section_count)
+        out.put("  and " + std::to_string(summary.section_count - shown_sections) + " more\n");
 }
 
 std::string members_in_words(const force_summary& summary)
@@ -196,7 +193,7 @@ void put_list(std_output& out, const STAAD::SdReader& model, const member_list& 
 {
     const std::string member = "\nMember " + std::to_string(list.member);
     if (list.stations.empty()) {
-        out.put(member + ": no list, for want of a dead, live, wind or seismic load case with two stations\n");
+        out.put(member + ": no list, as no dead, live, wind or seismic load case has two stations\n");
         return;
     }
     for (std::size_t i = 0; i < std::size(list_kinds); ++i) {

@@ -46,8 +46,8 @@ exit_code put(const forces_report& report, const forces_options& options, exit_c
     return out.close(so_far);
 }
 
-/// Reads both files and takes out of the model what is not shown. False if something was asked for that
-/// there cannot be, which is told.
+/// Reads the listing and takes out of the model what is not shown. False, after a message, if a member or load case
+/// was asked for that there is not.
 bool fill(forces_report& report, const forces_options& options)
 {
     STAAD::SdReader& model = report.model.model;
@@ -80,13 +80,24 @@ exit_code run_forces(const forces_options& options)
     return put(report, options, report.listing.was_read ? done : no_model);
 }
 
-/// Numbers of members or load cases; each occurrence of the option takes one.
-void add_numbers(CLI::App& command, const std::string& name, std::vector<int>& numbers, const std::string& help)
+/// Numbers of members or load cases; each occurrence of the option takes one list.
+void add_numbers(CLI::App& command, const std::string& name, number_ranges& ranges, const std::string& help)
 {
-    command.add_option(name, numbers, help)->allow_extra_args(false)->type_name("N")->option_text("N");
+    const auto take = [&ranges](const std::string& list) { add_number_list(list, ranges); };
+    command
+        .add_option_function<std::vector<std::string>>(
+            name, [](const std::vector<std::string>&) {}, help)
+        ->allow_extra_args(false)
+        ->check([](const std::string& list) {
+            number_ranges ignored;
+            return add_number_list(list, ignored);
+        })
+        ->each(take)
+        ->type_name("LIST")
+        ->option_text("LIST");
 }
 
-/// The help has no room for what the flag excludes: a message tells that to those who need it.
+/// The help has no room for what the flag excludes: a message says so to those who need it.
 CLI::Option* add_flag(CLI::App& command, const std::string& name, bool& flag, const std::string& help)
 {
     return command.add_flag(name, flag, help)->option_text(" ");
@@ -107,8 +118,9 @@ verb_action set_up_forces(CLI::App& command)
             const bool is_taken = listing == "-" && options->model == "-";
             return std::string(is_taken ? "standard input is the model already" : "");
         });
-    add_numbers(command, "--member", options->selection.members, "Only this member; may be given several times");
-    add_numbers(command, "--case", options->selection.cases, "Only this load case; may be given several times");
+    add_numbers(command, "--member", options->selection.members,
+                "Only these members, such as 7 or \"1 5 TO 9\"; may be given several times");
+    add_numbers(command, "--case", options->selection.cases, "Only these load cases, in the same way");
     CLI::Option* const extremes =
         add_flag(command, "--extremes", options->extremes, "Largest and smallest of each force and moment, and where");
     add_flag(command, "--pkpm", options->lists,

@@ -1,173 +1,199 @@
-#include "info/info_json.h"
+// The report of "info" for programs: numbers not rounded, texts in full.
 
-#include "cli/messages.h"
-#include "cli/text_encoding.h"
-#include "info/load_words.h"
+#include "info/info_report.h"
+#include "output/finding_fields.h"
+#include "output/json_writer.h"
+#include "output/words.h"
+
+#include <array>
+#include <optional>
+#include <vector>
 
 namespace tool {
-namespace {
 
-using json = nlohmann::ordered_json;
-
-json findings(const STAAD::ReadReport& report)
+template<class Visit>
+void each_field(const section_summary& section, Visit visit)
 {
-    json list = json::array();
-    for (const STAAD::Finding& finding : report.findings)
-        list.push_back({{"severity", severity_word(finding.severity)},
-                        {"code", finding.code},
-                        {"first_line", finding.first_line},
-                        {"last_line", finding.last_line},
-                        {"text", utf8_text(finding.text)},
-                        {"count", finding.count}});
-    return list;
+    visit("code", section.country);
+    visit("text", section.text);
+    visit("members", section.members);
+    visit("family", section.family);
+    visit("dimensions_mm", section.dimensions);
+    visit("trouble", section.trouble);
 }
 
-json units(const STAAD::SdReader& model)
+template<class Visit>
+void each_field(const user_table_summary& table, Visit visit)
 {
-    return {{"text", utf8_text(model.unit_text)},
-            {"length_factor", model.length_factor},
-            {"force_factor", model.force_factor},
-            {"force_length_factor", model.force_length_factor}};
+    visit("number", table.number);
+    visit("family", table.family);
+    visit("unit", table.unit);
+    visit("rows", table.rows);
 }
 
-json members(const model_summary& summary)
-{
-    const auto of = [&summary](STAAD::BeamType type) { return summary.members_of[static_cast<std::size_t>(type)]; };
-    return {{"total", summary.members},
-            {"columns", of(STAAD::Column)},
-            {"beams", of(STAAD::Beam)},
-            {"braces", of(STAAD::Brace)},
-            {"horizontal_braces", of(STAAD::HorizontalBrace)},
-            {"with_offsets", summary.members_with_offsets},
-            {"with_beta", summary.members_with_beta},
-            {"without_section", summary.members_without_section}};
-}
-
-json extents_mm(const model_summary& summary)
-{
-    if (summary.joints == 0)
-        return nullptr;
-    const extents& box = summary.box;
-    return {{"file_x", {box.low[1], box.high[1]}},
-            {"file_z", {box.low[0], box.high[0]}},
-            {"height", {box.low[2], box.high[2]}}};
-}
-
-json storeys(const model_summary& summary)
-{
-    json heights = json::array();
-    for (std::size_t i = 1; i < summary.levels.size(); ++i)
-        heights.push_back(summary.levels[i] - summary.levels[i - 1]);
-    return {{"levels_mm", summary.levels}, {"heights_mm", std::move(heights)}};
-}
-
-json groups(const model_summary& summary)
+template<class Visit>
+void each_field(const group_summary& group, Visit visit)
 {
     constexpr const char* counted[] = {"joints", "members", "elements"};
-    json list = json::array();
-    for (const group_summary& group : summary.groups)
-        list.push_back({{"name", utf8_text(group.name)},
-                        {"kind", utf8_text(group.kind)},
-                        {counted[group.type], group.numbers.known},
-                        {"unknown_numbers", group.numbers.unknown}});
-    return list;
+    visit("name", group.name);
+    visit("kind", group.kind);
+    visit(counted[group.type], group.numbers.known);
+    visit("unknown_numbers", group.numbers.unknown);
 }
 
-json descriptions(const std::vector<description_summary>& described, const char* counted)
+template<class Visit>
+void each_field(const kind_count& definitions, Visit visit)
 {
-    json list = json::array();
+    visit("kind", definitions.kind);
+    visit("count", definitions.count);
+}
+
+template<class Visit>
+void each_field(const load_case_summary& load_case, Visit visit)
+{
+    visit("number", load_case.number);
+    visit("type", std::string(load_type_word(load_case.type)));
+    visit("type_text", load_case.type_text);
+    visit("title", load_case.title);
+    visit("definitions", load_case.definitions);
+    visit("members_loaded", load_case.members);
+    visit("joints_loaded", load_case.joints);
+}
+
+template<class Visit>
+void each_field(const skipped_summary& skipped, Visit visit)
+{
+    visit("words", skipped.words);
+    visit("lines", skipped.lines);
+}
+
+namespace {
+
+struct units_item {
+    const STAAD::SdReader& model;
+};
+
+template<class Visit>
+void each_field(const units_item& item, Visit visit)
+{
+    visit("text", item.model.unit_text);
+    visit("length_factor", item.model.length_factor);
+    visit("force_factor", item.model.force_factor);
+    visit("force_length_factor", item.model.force_length_factor);
+}
+
+struct members_item {
+    const model_summary& summary;
+};
+
+template<class Visit>
+void each_field(const members_item& item, Visit visit)
+{
+    const auto of = [&item](STAAD::BeamType type) { return item.summary.members_of[static_cast<std::size_t>(type)]; };
+    visit("total", item.summary.members);
+    visit("columns", of(STAAD::Column));
+    visit("beams", of(STAAD::Beam));
+    visit("braces", of(STAAD::Brace));
+    visit("horizontal_braces", of(STAAD::HorizontalBrace));
+    visit("with_offsets", item.summary.members_with_offsets);
+    visit("with_beta", item.summary.members_with_beta);
+    visit("without_section", item.summary.members_without_section);
+}
+
+struct extents_item {
+    extents box;
+};
+
+template<class Visit>
+void each_field(const extents_item& item, Visit visit)
+{
+    const auto range = [&item](std::size_t axis) { return std::array{item.box.low[axis], item.box.high[axis]}; };
+    visit("file_x", range(1));
+    visit("file_z", range(0));
+    visit("height", range(2));
+}
+
+struct storeys_item {
+    const std::vector<double>& levels;
+};
+
+template<class Visit>
+void each_field(const storeys_item& item, Visit visit)
+{
+    std::vector<double> heights;
+    for (std::size_t i = 1; i < item.levels.size(); ++i)
+        heights.push_back(item.levels[i] - item.levels[i - 1]);
+    visit("levels_mm", item.levels);
+    visit("heights_mm", heights);
+}
+
+/// Supports or releases.
+struct description_item {
+    const description_summary* summary;
+    const char* counted;
+};
+
+template<class Visit>
+void each_field(const description_item& item, Visit visit)
+{
+    visit("description", item.summary->description);
+    visit(item.counted, item.summary->numbers.known);
+    visit("unknown_numbers", item.summary->numbers.unknown);
+}
+
+std::vector<description_item> items_of(const std::vector<description_summary>& described, const char* counted)
+{
+    std::vector<description_item> items;
+    items.reserve(described.size());
     for (const description_summary& each : described)
-        list.push_back({{"description", utf8_text(each.description)},
-                        {counted, each.numbers.known},
-                        {"unknown_numbers", each.numbers.unknown}});
-    return list;
+        items.push_back({&each, counted});
+    return items;
 }
 
-json sections(const model_summary& summary)
+template<class Visit>
+void visit_model(const STAAD::SdReader& model, const model_summary& summary, Visit& visit)
 {
-    json list = json::array();
-    for (const section_summary& section : summary.sections)
-        list.push_back({{"code", utf8_text(section.country)},
-                        {"text", utf8_text(section.text)},
-                        {"members", section.members},
-                        {"family", section.family},
-                        {"dimensions_mm", section.dimensions},
-                        {"trouble", section.trouble}});
-    return list;
+    std::optional<extents_item> box;
+    if (summary.joints != 0)
+        box = extents_item{summary.box};
+    visit("units", units_item{model});
+    visit("joints", summary.joints);
+    visit("members", members_item{summary});
+    visit("elements", summary.elements);
+    visit("surfaces", summary.surfaces);
+    visit("extents_mm", box);
+    visit("storeys", storeys_item{summary.levels});
+    visit("concrete_density", model.concrete_density);
+    visit("concrete_density_is_default", summary.has_default_density);
+    visit("groups", summary.groups);
+    visit("supports", items_of(summary.supports, "joints"));
+    visit("releases", items_of(summary.releases, "members"));
+    visit("sections", summary.sections);
+    visit("user_tables", summary.user_tables);
+    visit("load_cases", summary.load_cases);
+    visit("not_in_the_model", summary.skipped);
 }
 
-json user_tables(const model_summary& summary)
-{
-    json list = json::array();
-    for (const user_table_summary& table : summary.user_tables)
-        list.push_back({{"number", table.number},
-                        {"family", utf8_text(table.family)},
-                        {"unit", utf8_text(table.unit)},
-                        {"rows", table.rows}});
-    return list;
-}
+struct document_item {
+    const info_report& report;
+};
 
-json load_case(const load_case_summary& summary)
+template<class Visit>
+void each_field(const document_item& item, Visit visit)
 {
-    json definitions = json::array();
-    for (const kind_count& each : summary.definitions)
-        definitions.push_back({{"kind", utf8_text(each.kind)}, {"count", each.count}});
-    return {{"number", summary.number},
-            {"type", load_type_word(summary.type)},
-            {"type_text", utf8_text(summary.type_text)},
-            {"title", utf8_text(summary.title)},
-            {"definitions", std::move(definitions)},
-            {"members_loaded", summary.members},
-            {"joints_loaded", summary.joints}};
-}
-
-json load_cases(const model_summary& summary)
-{
-    json list = json::array();
-    for (const load_case_summary& each : summary.load_cases)
-        list.push_back(load_case(each));
-    return list;
-}
-
-json skipped(const model_summary& summary)
-{
-    json list = json::array();
-    for (const skipped_summary& each : summary.skipped)
-        list.push_back({{"words", utf8_text(each.words)}, {"lines", each.lines}});
-    return list;
-}
-
-void add_model(json& report, const STAAD::SdReader& model, const model_summary& summary)
-{
-    report["units"] = units(model);
-    report["joints"] = summary.joints;
-    report["members"] = members(summary);
-    report["elements"] = summary.elements;
-    report["surfaces"] = summary.surfaces;
-    report["extents_mm"] = extents_mm(summary);
-    report["storeys"] = storeys(summary);
-    report["concrete_density"] = model.concrete_density;
-    report["concrete_density_is_default"] = summary.has_default_density;
-    report["groups"] = groups(summary);
-    report["supports"] = descriptions(summary.supports, "joints");
-    report["releases"] = descriptions(summary.releases, "members");
-    report["sections"] = sections(summary);
-    report["user_tables"] = user_tables(summary);
-    report["load_cases"] = load_cases(summary);
-    report["not_in_the_model"] = skipped(summary);
+    const opened_model& opened = item.report.opened;
+    visit("file", opened.name);
+    visit("was_read", opened.was_read);
+    if (item.report.summary != nullptr)
+        visit_model(opened.model, *item.report.summary, visit);
+    visit("findings", opened.report.findings);
 }
 
 } // namespace
 
-json json_report(const opened_model& opened, const model_summary* summary)
+void put_info_json(std_output& out, const info_report& report)
 {
-    json report;
-    report["file"] = utf8_text(opened.name);
-    report["was_read"] = opened.was_read;
-    if (summary != nullptr)
-        add_model(report, opened.model, *summary);
-    report["findings"] = findings(opened.report);
-    return report;
+    json_writer(out).document(document_item{report});
 }
 
 } // namespace tool

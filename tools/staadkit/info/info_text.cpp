@@ -1,7 +1,8 @@
-#include "info/info_text.h"
+// The report of "info" for people.
+
+#include "info/info_report.h"
 
 #include "cli/text_encoding.h"
-#include "info/load_words.h"
 #include "output/table.h"
 #include "output/words.h"
 #include "staad/query/lookup.h"
@@ -16,17 +17,10 @@ namespace {
 
 using STAAD::SdReader;
 
-/// Longer texts of the file are cut: a screen is no place for them, and --json tells them in full.
-constexpr std::size_t most_shown = 120;
-
+/// Longer texts of the file are cut: --json has them in full.
 std::string shown(std::string_view text)
 {
-    return clipped(printable_text(text), most_shown);
-}
-
-std::string shown_or(std::string_view text, const char* instead)
-{
-    return text.empty() ? instead : shown(text);
+    return cell_text(text, "");
 }
 
 std::string line(std::string_view name, const std::string& text)
@@ -71,13 +65,13 @@ std::string extents_in_words(const model_summary& summary)
 std::string geometry(const model_summary& summary)
 {
     return line("joints", std::to_string(summary.joints)) + line("members", members(summary)) +
-           line("shells", count_of(summary.elements, "element")) + line("surfaces", std::to_string(summary.surfaces)) +
+           line("elements", std::to_string(summary.elements)) + line("surfaces", std::to_string(summary.surfaces)) +
            line("extents", extents_in_words(summary)) + line("storeys", storeys_in_words(summary.levels));
 }
 
 std::string member_extras(const SdReader& model, const model_summary& summary)
 {
-    const char* origin = summary.has_default_density ? " (default)" : " (as written behind ISOTROPIC CONCRETE)";
+    const char* origin = summary.has_default_density ? " (default)" : " (as written after ISOTROPIC CONCRETE)";
     return line("concrete density", short_number(model.concrete_density) + origin) +
            line("offsets", count_of(summary.members_with_offsets, "member")) +
            line("beta angles", count_of(summary.members_with_beta, "member"));
@@ -98,7 +92,7 @@ void put_groups(std_output& out, const model_summary& summary)
     constexpr const char* nouns[] = {"joint", "member", "element"};
     table rows;
     for (const group_summary& group : summary.groups) {
-        std::vector<std::string> row = {shown(group.name), shown_or(group.kind, "(no kind)")};
+        std::vector<std::string> row = {shown(group.name), cell_text(group.kind, "(no kind)")};
         add_numbers(row, group.numbers, nouns[group.type]);
         rows.add_row(std::move(row));
     }
@@ -110,7 +104,7 @@ void put_descriptions(std_output& out, std::string_view name, const std::vector<
 {
     table rows;
     for (const description_summary& each : described) {
-        std::vector<std::string> row = {shown_or(each.description, "(no description)")};
+        std::vector<std::string> row = {cell_text(each.description, "(no description)")};
         add_numbers(row, each.numbers, noun);
         rows.add_row(std::move(row));
     }
@@ -134,8 +128,8 @@ void put_sections(std_output& out, const model_summary& summary)
 {
     table rows;
     for (const section_summary& section : summary.sections)
-        rows.add_row({shown_or(section.country, "(no code)"), shown_or(section.text, "(empty)"),
-                      count_of(section.members, "member"), clipped(dimensions(section), most_shown)});
+        rows.add_row({cell_text(section.country, "(no code)"), cell_text(section.text, "(empty)"),
+                      count_of(section.members, "member"), cell_text(dimensions(section), "")});
     put_block(out, "sections", rows);
     if (summary.members_without_section != 0)
         out.put(line("without section", count_of(summary.members_without_section, "member")));
@@ -145,14 +139,14 @@ void put_user_tables(std_output& out, const model_summary& summary)
 {
     table rows;
     for (const user_table_summary& each : summary.user_tables)
-        rows.add_row({std::to_string(each.number), shown_or(each.family, "(no family)"), count_of(each.rows, "row"),
+        rows.add_row({std::to_string(each.number), cell_text(each.family, "(no family)"), count_of(each.rows, "row"),
                       shown(each.unit)});
     put_block(out, "user tables", rows);
 }
 
 std::string load_type(const load_case_summary& load_case)
 {
-    return load_case.type == STAAD::LoadCase::Unknown ? shown_or(load_case.type_text, "-")
+    return load_case.type == STAAD::LoadCase::Unknown ? cell_text(load_case.type_text, "-")
                                                       : load_type_word(load_case.type);
 }
 
@@ -160,7 +154,7 @@ std::string load_type(const load_case_summary& load_case)
 std::string short_kind(const std::string& kind)
 {
     const std::string member_load = "MEMBER LOAD ";
-    return shown_or(kind.rfind(member_load, 0) == 0 ? kind.substr(member_load.size()) : kind, "not understood");
+    return cell_text(kind.rfind(member_load, 0) == 0 ? kind.substr(member_load.size()) : kind, "not understood");
 }
 
 std::string definitions(const load_case_summary& load_case)
@@ -184,7 +178,7 @@ std::string loaded(const load_case_summary& load_case)
     return count_of(load_case.members, "member") + ", " + count_of(load_case.joints, "joint");
 }
 
-bool is_case_0(const load_case_summary& load_case)
+bool is_load_case_0(const load_case_summary& load_case)
 {
     return load_case.number == 0;
 }
@@ -193,11 +187,11 @@ void put_load_cases(std_output& out, const model_summary& summary)
 {
     table rows;
     for (const load_case_summary& each : summary.load_cases)
-        rows.add_row({std::to_string(each.number), load_type(each), shown_or(each.title, "-"), loaded(each),
-                      clipped(definitions(each), most_shown)});
+        rows.add_row({std::to_string(each.number), load_type(each), cell_text(each.title, "-"), loaded(each),
+                      cell_text(definitions(each), "")});
     put_block(out, "load cases", rows);
-    if (std::any_of(summary.load_cases.begin(), summary.load_cases.end(), is_case_0))
-        out.put(line("case 0", "what stands under headers without a number (LOAD R1) or with 0"));
+    if (std::any_of(summary.load_cases.begin(), summary.load_cases.end(), is_load_case_0))
+        out.put(line("load case 0", "what stands under headers without a number (LOAD R1) or with 0"));
 }
 
 void put_skipped(std_output& out, const model_summary& summary)
@@ -214,8 +208,10 @@ void put_skipped(std_output& out, const model_summary& summary)
 
 } // namespace
 
-void put_full_report(std_output& out, const opened_model& opened, const model_summary& summary)
+void put_info_text(std_output& out, const info_report& report)
 {
+    const opened_model& opened = report.opened;
+    const model_summary& summary = *report.summary;
     out.put(printable_name(opened.name) + '\n');
     out.put(units(opened.model));
     out.put(geometry(summary));
@@ -229,7 +225,7 @@ void put_full_report(std_output& out, const opened_model& opened, const model_su
     put_skipped(out, summary);
 }
 
-std::string one_line_report(const opened_model& opened)
+std::string info_line(const opened_model& opened)
 {
     if (!opened.was_read)
         return printable_name(opened.name) + ": error: " + printable_text(first_error(opened.report)) + '\n';

@@ -3,9 +3,7 @@
 #include "cli/messages.h"
 #include "cli/open_model.h"
 #include "cli/verbs.h"
-#include "info/info_json.h"
-#include "info/info_text.h"
-#include "info/model_summary.h"
+#include "info/info_report.h"
 #include "output/std_output.h"
 
 #include <CLI/CLI.hpp>
@@ -13,9 +11,8 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <optional>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
 namespace tool {
@@ -27,73 +24,57 @@ struct info_options {
     bool with_notes = false;
 };
 
-/// Opens the files one after the other; of several models only one is held at a time.
-class info_run {
-public:
-    explicit info_run(const info_options& options) : options_(options), is_single_(options.files.size() == 1) {}
+/// What the model holds; none if there is no model, or no memory for it, which becomes an error of `opened`.
+std::optional<model_summary> summary_of(opened_model& opened)
+{
+    try {
+        if (opened.was_read)
+            return summarise(opened.model, opened.report);
+    } catch (const std::bad_alloc&) {
+        give_up_for_memory(opened);
+    }
+    return std::nullopt;
+}
 
-    exit_code run()
+/// Opens the files one after the other; of several models only one is held at a time.
+class info_printer {
+public:
+    explicit info_printer(const info_options& options) : options_(options), is_single_(options.files.size() == 1) {}
+
+    exit_code print()
     {
-        for (const std::string& file : options_.files)
-            tell(open_model(file));
-        if (options_.as_json && !is_single_)
-            out_.put("\n]\n");
+        const bool is_array = options_.as_json && !is_single_;
+        const char* before = "[\n";
+        for (const std::string& file : options_.files) {
+            if (is_array)
+                out_.put(before);
+            before = ",\n";
+            put_report(open_model(file));
+        }
+        if (is_array)
+            out_.put("]\n");
         return out_.close(worst_);
     }
 
 private:
-    void tell(opened_model opened)
+    void put_report(opened_model opened)
     {
+        const std::optional<model_summary> summary = summary_of(opened);
         // What was skipped stands in the report itself.
         print_findings(opened.name, opened.report, least_severity(options_.with_notes), skipped_code);
-        try {
-            put_report(opened);
-        } catch (const std::bad_alloc&) {
-            give_up_for_memory(opened);
-            print_finding(opened.name, opened.report.findings.back());
-            put_report(opened);
-        }
-        if (!opened.was_read)
+        if (!summary)
             worst_ = std::max(worst_, no_model);
-    }
-
-    void put_report(const opened_model& opened)
-    {
+        const info_report report{opened, summary ? &*summary : nullptr};
         if (options_.as_json)
-            put_json(opened);
+            put_info_json(out_, report);
         else if (!is_single_)
-            out_.put(one_line_report(opened));
-        else if (opened.was_read)
-            put_full_report(out_, opened, summarise(opened.model, opened.report));
-    }
-
-    void put_json(const opened_model& opened)
-    {
-        nlohmann::ordered_json report = json_of(opened);
-        if (is_single_) {
-            out_.put(report.dump(2) += '\n');
-            return;
-        }
-        // The array is written item by item, so that one report at a time takes memory.
-        nlohmann::ordered_json items = nlohmann::ordered_json::array();
-        items.push_back(std::move(report));
-        const std::string text = items.dump(2);
-        out_.put(is_first_item_ ? '[' : ',');
-        out_.put(std::string_view(text).substr(1, text.size() - 3)); // without "[" and "\n]"
-        is_first_item_ = false;
-    }
-
-    static nlohmann::ordered_json json_of(const opened_model& opened)
-    {
-        if (!opened.was_read)
-            return json_report(opened, nullptr);
-        const model_summary summary = summarise(opened.model, opened.report);
-        return json_report(opened, &summary);
+            out_.put(info_line(opened));
+        else if (summary)
+            put_info_text(out_, report);
     }
 
     const info_options& options_;
     const bool is_single_;
-    bool is_first_item_ = true;
     std_output out_;
     exit_code worst_ = done;
 };
@@ -108,7 +89,7 @@ verb_action set_up_info(CLI::App& command)
         ->option_text(" ");
     command.add_flag("--json", options->as_json, "Print JSON: an object, for several files an array of them");
     command.add_flag("--notes", options->with_notes, "Also print notes, not only warnings and errors");
-    return [options] { return info_run(*options).run(); };
+    return [options] { return info_printer(*options).print(); };
 }
 
 } // namespace tool

@@ -89,4 +89,10 @@ std::string storeys_in_words(const std::vector<double>& levels)
            storey_metres(levels.front()) + " m";
 }
 
+const char* load_type_word(STAAD::LoadCase::LoadType type) noexcept
+{
+    constexpr const char* words[] = {"unknown", "dead", "live", "wind", "seismic"};
+    return words[type];
+}
+
 } // namespace tool

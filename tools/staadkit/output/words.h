@@ -2,6 +2,8 @@
 #ifndef TOOLS_STAADKIT_OUTPUT_WORDS_H
 #define TOOLS_STAADKIT_OUTPUT_WORDS_H
 
+#include "staad/model/load.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -23,6 +25,9 @@ std::string metres(double length);
 /// Storeys between ascending levels in mm: "3 (4.20 + 2 x 3.60 m), base at -0.50 m", at most twelve
 /// terms.
 std::string storeys_in_words(const std::vector<double>& levels);
+
+/// "dead", "live", "wind", "seismic"; "unknown" for all others.
+const char* load_type_word(STAAD::LoadCase::LoadType type) noexcept;
 
 } // namespace tool
 

@@ -1,4 +1,4 @@
-#include "forces/force_summary.h"
+#include "forces/forces_report.h"
 
 #include "forces/force_selection.h"
 
