@@ -1,7 +1,7 @@
 #include "cli/messages.h"
 
 #include "cli/text_encoding.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,8 +1,8 @@
 #include "compare/comparison_text.h"
 
+#include "output/phrases.h"
 #include "output/run_list.h"
 #include "output/table.h"
-#include "output/words.h"
 
 #include <algorithm>
 #include <string>

@@ -1,7 +1,7 @@
 #include "convert/conversion_notes.h"
 
 #include "cli/messages.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <algorithm>
 #include <utility>

@@ -2,7 +2,7 @@
 
 #include "cli/messages.h"
 #include "convert/conversion_notes.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <algorithm>
 #include <array>

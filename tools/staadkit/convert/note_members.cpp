@@ -1,7 +1,7 @@
 // Members and elements: what they had in the input and do not have in the written file.
 
 #include "convert/conversion_notes.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,7 +1,7 @@
 // Sections, user tables and materials that the analysis program cannot read from the written file.
 
 #include "convert/conversion_notes.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -3,7 +3,7 @@
 #include "forces/force_selection.h"
 #include "forces/force_tables.h"
 #include "forces/forces_report.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <charconv>
 #include <initializer_list>

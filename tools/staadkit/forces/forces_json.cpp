@@ -5,7 +5,7 @@
 #include "forces/forces_report.h"
 #include "output/finding_fields.h"
 #include "output/json_writer.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <string>
 #include <vector>

@@ -4,8 +4,8 @@
 #include "forces/force_selection.h"
 #include "forces/force_tables.h"
 #include "forces/forces_report.h"
+#include "output/phrases.h"
 #include "output/table.h"
-#include "output/words.h"
 
 #include <cmath>
 #include <string>

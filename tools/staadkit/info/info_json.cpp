@@ -3,7 +3,7 @@
 #include "info/info_report.h"
 #include "output/finding_fields.h"
 #include "output/json_writer.h"
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <array>
 #include <optional>

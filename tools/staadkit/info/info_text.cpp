@@ -3,8 +3,8 @@
 #include "info/info_report.h"
 
 #include "cli/text_encoding.h"
+#include "output/phrases.h"
 #include "output/table.h"
-#include "output/words.h"
 #include "staad/query/lookup.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "output/words.h"
+#include "output/phrases.h"
 
 #include <algorithm>
 #include <charconv>

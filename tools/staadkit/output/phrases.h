@@ -1,6 +1,6 @@
 /// Numbers and counts as people write them. No locale has a say.
-#ifndef TOOLS_STAADKIT_OUTPUT_WORDS_H
-#define TOOLS_STAADKIT_OUTPUT_WORDS_H
+#ifndef TOOLS_STAADKIT_OUTPUT_PHRASES_H
+#define TOOLS_STAADKIT_OUTPUT_PHRASES_H
 
 #include "staad/model/load.h"
 
