@@ -1,5 +1,7 @@
 #include "staad/text/ranges.h"
 
+#include "staad/text/run_lines.h"
+
 #include <algorithm>
 
 namespace STAAD {

@@ -1,6 +1,6 @@
 /// The group definitions.
 #include "staad/model/sd_reader.h"
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 #include "staad/writer/normalised/id_groups.h"
 
 #include <string_view>

@@ -1,6 +1,6 @@
 /// The material library, and what the constants block gives to members and elements.
 #include "staad/model/sd_reader.h"
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 #include "staad/writer/normalised/id_groups.h"
 
 #include <cmath>

@@ -1,6 +1,6 @@
 /// Element thicknesses.
 #include "staad/model/sd_reader.h"
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 #include "staad/writer/normalised/id_groups.h"
 
 namespace STAAD {

@@ -1,6 +1,6 @@
 /// Supports and member releases.
 #include "staad/model/sd_reader.h"
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 
 #include <map>
 #include <string>

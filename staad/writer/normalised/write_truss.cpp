@@ -1,6 +1,6 @@
 /// Truss members.
 #include "staad/model/sd_reader.h"
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 
 #include <vector>
 

@@ -1,6 +1,6 @@
 #include "staad/writer/normalised/written_loads.h"
 
-#include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 
 #include <algorithm>
 #include <cmath>

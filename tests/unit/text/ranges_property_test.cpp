@@ -1,6 +1,7 @@
 /// Random lists of ranges laid out on lines, against the rule taken step by step, and read back.
 
 #include "staad/text/ranges.h"
+#include "staad/text/run_lines.h"
 
 #include "tests/support/random_text.h"
 

@@ -18,7 +18,7 @@ inline std::string nearest_word(std::string_view typed, const std::vector<std::s
     std::string nearest;
     std::size_t smallest = 2 + typed.size() / 3;
     for (const std::string& word : words) {
-        const std::size_t distance = STAAD::detail::edit_distance(typed, word);
+        const std::size_t distance = STAAD::edit_distance(typed, word);
         if (distance < smallest && distance < word.size()) {
             smallest = distance;
             nearest = word;

@@ -135,8 +135,8 @@ void json_writer::key(const std::string& text, used_keys& used)
     if (is_ascii(text) || used.insert(utf8_text(text)).second)
         return key(text);
     std::string bytes = text;
-    while (!used.insert(utf8_from_bytes(bytes)).second)
-        bytes = utf8_from_bytes(bytes);
+    while (!used.insert(STAAD::utf8_from_latin1(bytes)).second)
+        bytes = STAAD::utf8_from_latin1(bytes);
     quoted_bytes(bytes);
     out_.put(": ");
 }
