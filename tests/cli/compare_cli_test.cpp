@@ -99,12 +99,6 @@ TEST(Compare, OtherNumbersAndAnotherOrderAreNoDifference)
     EXPECT_EQ(report["resectioned"], json::array());
 }
 
-TEST(Compare, OtherUnitsAreNoDifference)
-{
-    const std::string in_mm = "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3000 0\nMEMBER INCIDENCES\n1 1 2\nFINISH\n";
-    EXPECT_EQ(comparison(small_deck(), in_mm).text().exit_code, 0);
-}
-
 TEST(Compare, MovedJointsTakeTheirMembersAndElementsAlong)
 {
     frame_parts parts;
@@ -112,10 +106,10 @@ TEST(Compare, MovedJointsTakeTheirMembersAndElementsAlong)
     const comparison models(frame_deck(parts), frame_deck());
     const tool_result result = models.text();
     EXPECT_EQ(result.exit_code, 1) << result.err;
-    EXPECT_TRUE(has_line(result.out, "the models differ")) << result.out;
-    EXPECT_TRUE(has_line(result.out, "  joints         4       4        3           0            -      1    0     0"))
-        << result.out;
-    EXPECT_TRUE(has_line(result.out, "  members        3       3        1           0            0      2    0     0"))
+    EXPECT_TRUE(contains(result.out, "the models differ\ncompared: ")) << result.out;
+    EXPECT_TRUE(contains(result.out,
+                         "  joints         4       4        3           0            -      1    0     0\n"
+                         "  members        3       3        1           0            0      2    0     0\n"))
         << result.out;
     EXPECT_TRUE(contains(result.out, "  moved  1 joint    4\n"
                                      "                    by up to 500 mm along an axis\n"
@@ -130,16 +124,6 @@ TEST(Compare, MovedJointsTakeTheirMembersAndElementsAlong)
     EXPECT_EQ(
         report["moved_joints"],
         json::array({{{"number", 4}, {"old_file_xyz_mm", {6000, 4000, 0}}, {"new_file_xyz_mm", {6000, 4250, 500}}}}));
-}
-
-TEST(Compare, LessThanATenthOfAMillimetreIsTheSamePlace)
-{
-    // Joint 1 stands at 0, where the distance is what the file says to the last bit.
-    frame_parts parts;
-    parts.joints = "1 0.00005 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0;\n";
-    EXPECT_EQ(comparison(frame_deck(parts), frame_deck()).text().exit_code, 0);
-    parts.joints = "1 0.0001 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0;\n";
-    EXPECT_EQ(comparison(frame_deck(parts), frame_deck()).report(1)["joints"]["moved"], json({1}));
 }
 
 TEST(Compare, NewAndGone)
@@ -164,24 +148,6 @@ TEST(Compare, NewAndGone)
         << text;
 }
 
-TEST(Compare, ANumberThatStandsForAnotherPlaceNowIsNotMoved)
-{
-    // Today's joints 3 and 4 have changed numbers: both are still there.
-    frame_parts now;
-    now.joints = "1 0 0 0; 2 6 0 0; 4 0 4 0; 3 6 4 0;\n";
-    now.members = "1 1 4; 2 2 3; 3 4 3;\n";
-    now.elements = "11 1 2 3 4;\n";
-    const json report = comparison(frame_deck(now), frame_deck()).report(0);
-    EXPECT_EQ(report["joints"], counts(4, 4, 4, 2));
-}
-
-TEST(Compare, ShellCornersFromAnotherOneOnAreAnotherShell)
-{
-    frame_parts now;
-    now.elements = "11 2 4 3 1;\n";
-    EXPECT_EQ(comparison(frame_deck(now), frame_deck()).report(1)["elements"]["moved"], json({11}));
-}
-
 TEST(Compare, SurfacesAreCountedApart)
 {
     const std::string surface = "SURFACE INCIDENCE\n1 2 4 3 SUR 11\n";
@@ -194,48 +160,9 @@ TEST(Compare, SurfacesAreCountedApart)
     EXPECT_EQ(report["elements"], counts(1, 1, 1, 0));
     EXPECT_EQ(report["surfaces"], with(counts(1, 0, 0, 0), "new", {11}));
     EXPECT_EQ(comparison(frame_deck(now), frame_deck(now)).report(0)["surfaces"], counts(1, 1, 1, 0));
-}
-
-TEST(Compare, SeveralAtOnePlaceAreAsManyAsThereAre)
-{
-    frame_parts two;
-    two.members = "1 1 3; 2 2 4; 3 3 4; 4 4 3;\n";
-    two.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 PRIS YD 0.5 ZD 0.3\n4 PRIS YD 0.6 ZD 0.3\n";
-    EXPECT_EQ(comparison(frame_deck(two), frame_deck(two)).report(0)["members"], counts(4, 4, 4, 0));
-    // Of two members between the joints 3 and 4 the one that keeps its number is the one that stayed.
-    frame_parts one = two;
-    one.members = "1 1 3; 2 2 4; 4 4 3;\n";
-    const json fewer = comparison(frame_deck(one), frame_deck(two)).report(1);
-    EXPECT_EQ(fewer["members"], with(counts(3, 4, 3, 0), "gone", {3}));
-    EXPECT_EQ(fewer["resectioned"], json::array());
-    EXPECT_EQ(comparison(frame_deck(two), frame_deck(one)).report(1)["members"], with(counts(4, 3, 3, 0), "new", {3}));
-}
-
-TEST(Compare, WhatLacksAJointGoesByItsNumber)
-{
-    frame_parts loose;
-    loose.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99;\n";
-    EXPECT_EQ(comparison(frame_deck(loose), frame_deck(loose)).report(0)["members"], counts(4, 4, 4, 0));
-    frame_parts elsewhere = loose;
-    elsewhere.members = "1 1 3; 2 2 4; 3 3 4; 4 2 99;\n";
-    EXPECT_EQ(comparison(frame_deck(loose), frame_deck(elsewhere)).report(1)["members"]["moved"], json({4}));
-    frame_parts renumbered = loose;
-    renumbered.members = "1 1 3; 2 2 4; 3 3 4; 5 1 99;\n";
-    const json report = comparison(frame_deck(loose), frame_deck(renumbered)).report(1);
-    EXPECT_EQ(report["members"]["new"], json({4}));
-    EXPECT_EQ(report["members"]["gone"], json({5}));
-}
-
-TEST(Compare, NumbersThatStandTwice)
-{
-    frame_parts twice;
-    twice.joints = "1 0 0 0; 2 6 0 0; 3 0 4 0; 4 6 4 0; 4 6 8 0;\n";
-    twice.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99; 4 2 99; 4 3 99;\n";
-    EXPECT_EQ(comparison(frame_deck(twice), frame_deck(twice)).report(0)["members"], counts(6, 6, 6, 0));
-    frame_parts fewer = twice;
-    fewer.members = "1 1 3; 2 2 4; 3 3 4; 4 1 99;\n";
-    EXPECT_EQ(comparison(frame_deck(twice), frame_deck(fewer)).report(1)["members"],
-              with(counts(6, 4, 4, 0), "new", {4, 4}));
+    now.elements = surface;
+    EXPECT_EQ(comparison(frame_deck(now), frame_deck(earlier)).report(0)["surfaces"], counts(1, 0, 1, 1))
+        << "surface 11 in the place of element 11 has a new number: surfaces have numbers of their own";
 }
 
 TEST(Compare, ResectionedMembersByTheirTexts)
@@ -255,13 +182,12 @@ TEST(Compare, ResectionedMembersByTheirTexts)
         json::array({{{"old", "PRIS400X400"}, {"new", "PRIS450X400"}, {"members", 2}, {"member_numbers", {1, 2}}}}));
 }
 
-TEST(Compare, AnotherMaterialOrCaseIsNoOtherSection)
+TEST(Compare, OtherUnitsMaterialsAndCapitalsAreNoDifference)
 {
-    frame_parts earlier;
-    earlier.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 TABLE ST h300x150\n";
-    frame_parts now;
-    now.sections = "1 2 PRIS YD 0.4 ZD 0.4\n3 TABLE ST H300X150\n";
-    EXPECT_EQ(comparison(frame_deck(now), frame_deck(earlier)).text().exit_code, 0);
+    const std::string in_mm = "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3000 0\nMEMBER INCIDENCES\n1 1 2\n"
+                              "MEMBER PROPERTY\n1 TABLE ST h300x150\nCONSTANTS\nMATERIAL Q345 ALL\nFINISH\n";
+    const std::string now = small_deck("MEMBER PROPERTY\n1 TABLE ST H300X150\n");
+    EXPECT_EQ(comparison(now, in_mm).text().exit_code, 0);
 }
 
 TEST(Compare, StandardInputIsOneOfThem)

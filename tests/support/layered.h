@@ -6,7 +6,6 @@
 #include "tests/support/placed_models.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace STAAD::layered {
@@ -33,10 +32,8 @@ SdReader floors(const std::vector<double>& heights);
 /// The project of a model that has a level.
 StaadProProject_layered project_of(const SdReader& model);
 
-/// Storeys with the numbers of their members and, behind a bar, elements: "0+3000: 101 102 | 1001; 3000+3500:".
+/// Storeys with the numbers of their members and, after a bar, elements: "0+3000: 101 102 | 1001; 3000+3500:".
 std::string storeys(const StaadProProject_layered& project);
-/// Base and height of the storeys.
-std::vector<std::pair<double, double>> bases_and_heights(const StaadProProject_layered& project);
 /// The level of each joint.
 std::vector<int> joint_levels(const StaadProProject_layered& project);
 

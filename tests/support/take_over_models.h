@@ -5,7 +5,7 @@
 #include "staad/model/sd_reader.h"
 #include "tests/support/placed_models.h"
 
-namespace STAAD::take_over {
+namespace STAAD::take_over_models {
 
 /// Joints 10, 20, 30 and 40 on a line, members 7, 8 and 9 between them, and shell 20, whose number joint 20
 /// has as well, over the first three.
@@ -31,6 +31,6 @@ inline SdReader now()
     return model;
 }
 
-} // namespace STAAD::take_over
+} // namespace STAAD::take_over_models
 
 #endif

@@ -21,25 +21,25 @@ namespace {
 
 using texts = std::vector<std::string>;
 
-/// A field of a record by its name.
-struct named_field {
-    const char* name;
-    const void* place;
-};
-
-/// The list of the record's fields has these types, and these names and places in this order.
+/// The list of the record's fields has these types, names and places, in this order.
 template<class... Types, class Record>
-void expect_fields(const Record& record, const std::vector<named_field>& want)
+void expect_fields(const Record& record, const std::string& names, const std::vector<const void*>& places)
 {
-    const auto fields = RecordFields<Record>::of(record);
-    static_assert(std::is_same_v<decltype(fields), const std::tuple<const Types&...>>);
-    ASSERT_EQ(want.size(), sizeof...(Types));
-    std::size_t index = 0;
+    static_assert(std::is_same_v<decltype(RecordFields<Record>::of(record)), std::tuple<const Types&...>>);
+    std::string names_found;
+    std::vector<const void*> places_found;
     each_field(record, [&](const char* name, const auto& field) {
-        EXPECT_STREQ(name, want[index].name);
-        EXPECT_EQ(static_cast<const void*>(&field), want[index].place) << name;
-        ++index;
+        names_found += (names_found.empty() ? "" : " ") + std::string(name);
+        places_found.push_back(&field);
     });
+    EXPECT_EQ(names_found, names);
+    EXPECT_EQ(places_found, places) << names;
+}
+
+template<class... Fields>
+std::vector<const void*> places(const Fields&... fields)
+{
+    return {&fields...};
 }
 
 using std::map;
@@ -50,83 +50,64 @@ TEST(FieldOrder, OfJointsAndMembers)
 {
     const SdNode joint;
     expect_fields<int, double, double, double, vector<int>>(
-        joint, {{"id", &joint.id}, {"x", &joint.x}, {"y", &joint.y}, {"z", &joint.z}, {"extra_ids", &joint.extra_ids}});
+        joint, "id x y z extra_ids", places(joint.id, joint.x, joint.y, joint.z, joint.extra_ids));
     const SdOffset offset;
-    expect_fields<double, double, double>(offset, {{"x", &offset.x}, {"y", &offset.y}, {"z", &offset.z}});
+    expect_fields<double, double, double>(offset, "x y z", places(offset.x, offset.y, offset.z));
     const SdBeam member;
     expect_fields<int, int, int, SdOffset, SdOffset, int, double, vector<int>, string, string, string, string, string>(
-        member, {{"id", &member.id},
-                 {"node_start", &member.node_start},
-                 {"node_end", &member.node_end},
-                 {"offset_start", &member.offset_start},
-                 {"offset_end", &member.offset_end},
-                 {"kind_code", &member.kind_code},
-                 {"beta", &member.beta},
-                 {"int_list", &member.int_list},
-                 {"material", &member.material},
-                 {"sect_text", &member.sect_text},
-                 {"sect_country", &member.sect_country},
-                 {"sect_extra", &member.sect_extra},
-                 {"sect_name", &member.sect_name}});
+        member,
+        "id node_start node_end offset_start offset_end kind_code beta int_list material sect_text sect_country "
+        "sect_extra sect_name",
+        places(member.id, member.node_start, member.node_end, member.offset_start, member.offset_end, member.kind_code,
+               member.beta, member.int_list, member.material, member.sect_text, member.sect_country, member.sect_extra,
+               member.sect_name));
 }
 
 TEST(FieldOrder, OfShellsSurfacesAndGroups)
 {
     const SdShell shell;
-    expect_fields<int, vector<int>, int, string>(shell, {{"id", &shell.id},
-                                                         {"node_ids", &shell.node_ids},
-                                                         {"thickness", &shell.thickness},
-                                                         {"material", &shell.material}});
+    expect_fields<int, vector<int>, int, string>(shell, "id node_ids thickness material",
+                                                 places(shell.id, shell.node_ids, shell.thickness, shell.material));
     const SdSurface surface;
-    expect_fields<int, vector<int>, int, string>(surface, {{"id", &surface.id},
-                                                           {"node_ids", &surface.node_ids},
-                                                           {"thickness", &surface.thickness},
-                                                           {"material", &surface.material}});
+    expect_fields<int, vector<int>, int, string>(
+        surface, "id node_ids thickness material",
+        places(surface.id, surface.node_ids, surface.thickness, surface.material));
     const SdGroup group;
-    expect_fields<string, string, vector<int>>(group,
-                                               {{"kind", &group.kind}, {"name", &group.name}, {"ids", &group.ids}});
+    expect_fields<string, string, vector<int>>(group, "kind name ids", places(group.kind, group.name, group.ids));
 }
 
 TEST(FieldOrder, OfSectionsAndLoads)
 {
     const Section section;
-    expect_fields<int, string, string, string>(section, {{"tag", &section.tag},
-                                                         {"type", &section.type},
-                                                         {"material", &section.material},
-                                                         {"property", &section.property}});
+    expect_fields<int, string, string, string>(section, "tag type material property",
+                                               places(section.tag, section.type, section.material, section.property));
     const SdUserSectionTable table;
-    expect_fields<string, string, map<string, string>>(
-        table, {{"type", &table.type}, {"unit", &table.unit}, {"records", &table.records}});
+    expect_fields<string, string, map<string, string>>(table, "type unit records",
+                                                       places(table.type, table.unit, table.records));
     const LoadCase load_case;
-    expect_fields<int, string, string>(
-        load_case, {{"id", &load_case.id}, {"type_text", &load_case.type_text}, {"title", &load_case.title}});
+    expect_fields<int, string, string>(load_case, "id type_text title",
+                                       places(load_case.id, load_case.type_text, load_case.title));
     const LoadDef_raw raw;
-    expect_fields<string, int>(raw, {{"text", &raw.text}, {"load_case", &raw.load_case}});
+    expect_fields<string, int>(raw, "text load_case", places(raw.text, raw.load_case));
     const LoadDefination load;
-    expect_fields<string, string, vector<double>, int>(load, {{"kind", &load.kind},
-                                                              {"direction", &load.direction},
-                                                              {"values", &load.values},
-                                                              {"load_case", &load.load_case}});
+    expect_fields<string, string, vector<double>, int>(load, "kind direction values load_case",
+                                                       places(load.kind, load.direction, load.values, load.load_case));
 }
 
 TEST(FieldOrder, OfForces)
 {
     const ForcePoint point;
-    expect_fields<double, double, double, double, double, double, double>(point, {{"position", &point.position},
-                                                                                  {"f1", &point.f1},
-                                                                                  {"f2", &point.f2},
-                                                                                  {"f3", &point.f3},
-                                                                                  {"m1", &point.m1},
-                                                                                  {"m2", &point.m2},
-                                                                                  {"m3", &point.m3}});
+    expect_fields<double, double, double, double, double, double, double>(
+        point, "position f1 f2 f3 m1 m2 m3",
+        places(point.position, point.f1, point.f2, point.f3, point.m1, point.m2, point.m3));
     const BeamLoadCaseRecord record;
     expect_fields<int, vector<ForcePoint>, vector<ForcePoint>>(
-        record, {{"load_case", &record.load_case}, {"points", &record.points}, {"pkpm_points", &record.pkpm_points}});
+        record, "load_case points pkpm_points", places(record.load_case, record.points, record.pkpm_points));
     const BeamForceAndMOM forces;
-    expect_fields<int, map<int, BeamLoadCaseRecord>>(forces, {{"beam", &forces.beam}, {"records", &forces.records}});
+    expect_fields<int, map<int, BeamLoadCaseRecord>>(forces, "beam records", places(forces.beam, forces.records));
     const BeamLoadList list;
     expect_fields<ForcePoint, ForcePoint, ForcePoint, ForcePoint>(
-        list, {{"dead", &list.dead}, {"live", &list.live}, {"wind", &list.wind}, {"seismic", &list.seismic}});
+        list, "dead live wind seismic", places(list.dead, list.live, list.wind, list.seismic));
 }
 
 TEST(FieldOrder, OfTheModel)
@@ -137,55 +118,35 @@ TEST(FieldOrder, OfTheModel)
                   vector<SdSurface>, vector<SdGroup>, map<string, vector<unsigned>>, map<string, vector<unsigned>>,
                   map<int, LoadCase>, map<int, LoadDefination>, map<int, SdUserSectionTable>, map<int, BeamForceAndMOM>,
                   map<int, LoadDef_raw>, pairs, pairs, pairs, pairs, string, double, double, double, OldProjMaps,
-                  std::set<int>>(model, {{"concrete_density", &model.concrete_density},
-                                         {"wl_param", &model.wl_param},
-                                         {"eq_param", &model.eq_param},
-                                         {"nodes", &model.nodes},
-                                         {"beams", &model.beams},
-                                         {"shells", &model.shells},
-                                         {"surfaces", &model.surfaces},
-                                         {"groups", &model.groups},
-                                         {"supports", &model.supports},
-                                         {"releases", &model.releases},
-                                         {"load_cases", &model.load_cases},
-                                         {"load_defs", &model.load_defs},
-                                         {"usr_tables", &model.usr_tables},
-                                         {"beam_forces", &model.beam_forces},
-                                         {"raw_load_defs", &model.raw_load_defs},
-                                         {"node_index", &model.node_index},
-                                         {"beam_index", &model.beam_index},
-                                         {"shell_index", &model.shell_index},
-                                         {"surface_index", &model.surface_index},
-                                         {"unit_text", &model.unit_text},
-                                         {"length_factor", &model.length_factor},
-                                         {"force_factor", &model.force_factor},
-                                         {"force_length_factor", &model.force_length_factor},
-                                         {"old_proj_maps", &model.old_proj_maps},
-                                         {"brace_ids", &model.brace_ids}});
+                  std::set<int>>(
+        model,
+        "concrete_density wl_param eq_param nodes beams shells surfaces groups supports releases load_cases load_defs "
+        "usr_tables beam_forces raw_load_defs node_index beam_index shell_index surface_index unit_text length_factor "
+        "force_factor force_length_factor old_proj_maps brace_ids",
+        places(model.concrete_density, model.wl_param, model.eq_param, model.nodes, model.beams, model.shells,
+               model.surfaces, model.groups, model.supports, model.releases, model.load_cases, model.load_defs,
+               model.usr_tables, model.beam_forces, model.raw_load_defs, model.node_index, model.beam_index,
+               model.shell_index, model.surface_index, model.unit_text, model.length_factor, model.force_factor,
+               model.force_length_factor, model.old_proj_maps, model.brace_ids));
     const OldProjMaps maps;
-    expect_fields<pairs, pairs, pairs, pairs, pairs, pairs>(maps, {{"joints_new_to_old", &maps.joints_new_to_old},
-                                                                   {"members_new_to_old", &maps.members_new_to_old},
-                                                                   {"shells_new_to_old", &maps.shells_new_to_old},
-                                                                   {"joints_old_to_new", &maps.joints_old_to_new},
-                                                                   {"members_old_to_new", &maps.members_old_to_new},
-                                                                   {"shells_old_to_new", &maps.shells_old_to_new}});
+    expect_fields<pairs, pairs, pairs, pairs, pairs, pairs>(
+        maps,
+        "joints_new_to_old members_new_to_old shells_new_to_old joints_old_to_new members_old_to_new shells_old_to_new",
+        places(maps.joints_new_to_old, maps.members_new_to_old, maps.shells_new_to_old, maps.joints_old_to_new,
+               maps.members_old_to_new, maps.shells_old_to_new));
 }
 
 TEST(FieldOrder, OfStoreys)
 {
     const StoreyLayer storey;
     expect_fields<double, double, vector<LayerMember>, vector<SdShell>>(
-        storey,
-        {{"base", &storey.base}, {"height", &storey.height}, {"members", &storey.members}, {"shells", &storey.shells}});
+        storey, "base height members shells", places(storey.base, storey.height, storey.members, storey.shells));
     const LayerMember member;
-    expect_fields<SdBeam, Section, BeamForceAndMOM>(
-        member, {{"member", &member.member}, {"section", &member.section}, {"forces", &member.forces}});
+    expect_fields<SdBeam, Section, BeamForceAndMOM>(member, "member section forces",
+                                                    places(member.member, member.section, member.forces));
     const NodeLevel level;
-    expect_fields<int, int, double, double, double>(level, {{"position", &level.position},
-                                                            {"level", &level.level},
-                                                            {"rx", &level.rx},
-                                                            {"ry", &level.ry},
-                                                            {"rz", &level.rz}});
+    expect_fields<int, int, double, double, double>(level, "position level rx ry rz",
+                                                    places(level.position, level.level, level.rx, level.ry, level.rz));
 }
 
 /// A record whose bytes held something else before it was made.
