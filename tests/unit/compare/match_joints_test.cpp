@@ -42,55 +42,35 @@ struct distance_row {
 const distance_row distances[] = {
     {"the same place", 0, 0, true},
     {"half the tolerance", 0, 0.05, true},
-    {"half the tolerance the other way", 0, -0.05, true},
     {"the tolerance is too much", 0, 0.1, false},
-    {"on the other side as well", 0, -0.1, false},
     {"one bit less is not", 0, below(0.1), true},
-    {"nor on the other side", 0, -below(0.1), true},
     {"one bit more is too much", 0, above(0.1), false},
-    {"on both sides of 0, less than the tolerance apart", -0.05, 0.04, true},
     {"on both sides of 0, the tolerance apart", -0.05, 0.05, false},
     {"a zero with a sign is a zero", -0.0, 0.0, true},
     {"a zero with a sign and less than the tolerance", -0.0, -0.09, true},
-    {"the least there is", 0, tiny, true},
     {"the least there is, below 0", tiny, -tiny, true},
     {"0.2 - 0.1 is exactly it", 0.1, 0.2, false},
-    {"0.25 - 0.15 is exactly it", 0.15, 0.25, false},
     {"doubles: 0.3 - 0.2 comes out less", 0.2, 0.3, true},
-    {"doubles: 0.15 - 0.05 comes out less", 0.05, 0.15, true},
     {"doubles: 0.4 - 0.3 comes out more", 0.3, 0.4, false},
-    {"doubles: 1.1 - 1 comes out more", 1, 1.1, false},
     {"doubles: 3000.1 - 3000 comes out less", 3000, 3000.1, true},
-    {"doubles: less below 0, too", -3000, -3000.1, true},
     {"doubles: 6000.1 - 6000 comes out more", 6000, 6000.1, false},
-    {"doubles: 1000000.1 - 1000000 comes out less", 1e6, 1000000.1, true},
-    {"a metre", 0, 1000, false},
     {"mirrored", 3000, -3000, false},
     {"neighbours where doubles are 1/16 apart", 0x1p48, 0x1p48 + 0.0625, true},
     {"but not the next but one", 0x1p48, 0x1p48 + 0.125, false},
     {"below 0 as well", -0x1p48, -0x1p48 - 0.0625, true},
     {"neighbours where the spacing changes: 1/16 below", 0x1p49, 0x1p49 - 0.0625, true},
     {"neighbours where the spacing changes: 1/8 above", 0x1p49, 0x1p49 + 0.125, false},
-    {"past the integers that 64 bits hold", 1e20, 1e20, true},
-    {"past them, neighbours", 1e20, above(1e20), false},
-    {"past them, mirrored", 1e20, -1e20, false},
     {"very large", 1e300, 1e300, true},
-    {"very large, neighbours", 1e300, above(1e300), false},
-    {"very large and a little", 1e300, 0.05, false},
     {"the largest there is", huge, huge, true},
     {"the largest below 0", -huge, -huge, true},
     {"the largest and its neighbour", huge, below(huge), false},
     {"the difference is past all doubles", huge, -huge, false},
     {"infinity is nowhere: infinity less infinity is no number", infinite, infinite, false},
     {"infinity below 0", -infinite, -infinite, false},
-    {"infinities of both signs", infinite, -infinite, false},
     {"infinity and a number", infinite, 0, false},
-    {"a number and infinity", 0, infinite, false},
-    {"infinity and the largest", infinite, huge, false},
     {"no number equals nothing", no_number, no_number, false},
     {"no number and a number", no_number, 0, false},
     {"a number and no number", 0, no_number, false},
-    {"no number and infinity", no_number, infinite, false},
 };
 
 /// The same row with the difference along x, y or z, among the coordinates of an ordinary joint.
@@ -132,22 +112,16 @@ struct joints_row {
 
 const joints_row rows[] = {
     {"nothing and nothing", {}, {}, {}},
-    {"nothing earlier", {}, {{0}, {1000}}, {0, 0}},
-    {"nothing now", {{0}, {1000}}, {}, {}},
     {"each coordinate for itself: the way through space may be longer", {{0, 0, 0}}, {{0.09, -0.09, 0.09}}, {1}},
     {"close in two coordinates is not enough: x", {{0, 5, 5}}, {{0.1, 5, 5}}, {0}},
-    {"close in two coordinates is not enough: y", {{5, 0, 5}}, {{5, 0.1, 5}}, {0}},
     {"close in two coordinates is not enough: z", {{5, 5, 0}}, {{5, 5, 0.1}}, {0}},
     {"coordinates do not change places", {{1, 2, 3}}, {{2, 1, 3}, {3, 2, 1}, {1, 3, 2}}, {0, 0, 0}},
     {"in another order", {{0}, {1000}, {2000}}, {{2000}, {0}, {1000}}, {3, 1, 2}},
     {"one gone, one new", {{0}, {1000}, {2000}}, {{0}, {2000}, {3000}}, {1, 3, 0}},
     {"the first in list order, not the nearest", {{0.09}, {0}}, {{0}}, {1}},
-    {"the first in list order, though the second is below", {{0.05}, {-0.05}}, {{0}}, {1}},
     {"the other stays free for the next", {{0.09}, {0}}, {{0}, {0}}, {1, 2}},
     {"each is matched once", {{0}, {0.05}}, {{0}, {0}, {0}}, {1, 2, 0}},
-    {"three at one place, two now", {{7, 7, 7}, {7, 7, 7}, {7, 7, 7}}, {{7, 7, 7}, {7, 7, 7}}, {1, 2}},
     {"the order of this model decides, not who is nearer", {{0.05}}, {{0}, {0.05}}, {1, 0}},
-    {"and not the smaller coordinate", {{0.05}}, {{0.09}, {0.02}}, {1, 0}},
     {"no second thoughts: another choice would have served both", {{0}, {0.09}}, {{0.05}, {-0.05}}, {1, 0}},
     {"one that is out of reach is no reason to stop", {{0.15}, {0}, {0.04}}, {{0}}, {2}},
     {"one that is taken is no reason to stop", {{0}, {500}, {0}}, {{0}, {0}}, {1, 3}},
@@ -156,7 +130,6 @@ const joints_row rows[] = {
      {{0.18}, {0.12}, {0.06}, {0}},
      {3, 2, 1, 0}},
     {"a chain listed from its other end", {{0.12}, {0.06}, {0}}, {{0.06}, {0.06}, {0.06}}, {1, 2, 3}},
-    {"a chain, from its middle", {{0}, {0.06}, {0.12}}, {{0.06}, {0.12}, {0}}, {1, 2, 0}},
     {"in space: the eight around one, in list order",
      {{9.95, 19.95, 29.95},
       {10.05, 19.95, 29.95},
@@ -186,14 +159,6 @@ TEST(MatchJoints, TakeTheFirstFreeOneInListOrder)
         now.MakeMap(placed::joints_at(c.earlier));
         EXPECT_EQ(placed::listed(now.old_proj_maps.joints_new_to_old, c.now.size()), c.want) << c.why;
     }
-}
-
-TEST(MatchJoints, AreKnownBothWays)
-{
-    SdReader now = placed::joints_at({{2000}, {0}, {5000}, {1000}});
-    now.MakeMap(placed::joints_at({{0}, {1000}, {7000}, {2000}}));
-    EXPECT_EQ(now.old_proj_maps.joints_new_to_old, (map{{1, 4}, {2, 1}, {4, 2}}));
-    EXPECT_EQ(now.old_proj_maps.joints_old_to_new, (map{{4, 1}, {1, 2}, {2, 4}})) << "no entry for 3";
 }
 
 TEST(MatchJoints, GoByPlaceAndNotByNumber)

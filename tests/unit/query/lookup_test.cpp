@@ -1,5 +1,6 @@
 /// Numbers of the file to positions in the model, and back to consecutive numbers.
 
+#include "staad/query/lookup.h"
 #include "staad/text/number_lookup.h"
 #include "tests/support/sd_reader_access.h"
 
@@ -86,16 +87,23 @@ TEST(Locate, LooksAtItsOwnListAndAtNoIndex)
     SdReader model;
     model.nodes = numbered<SdNode>({1});
     model.beams = numbered<SdBeam>({9, 2});
-    model.shells = numbered<SdShell>({9, 9, 3});
     model.node_index = {{2, 1}};
-    model.beam_index = {{3, 1}};
-    model.shell_index = {{1, 1}};
     EXPECT_EQ(model.locateNodeIndex(1), 1);
     EXPECT_EQ(model.locateNodeIndex(2), -1);
     EXPECT_EQ(model.locateBeamIndex(2), 2);
-    EXPECT_EQ(model.locateBeamIndex(3), -1);
-    EXPECT_EQ(model.locateShellIndex(3), 3);
-    EXPECT_EQ(model.locateShellIndex(1), -1);
+    EXPECT_EQ(model.locateShellIndex(2), -1);
+}
+
+TEST(ElementCount, IsThatOfTheShellsBeforeTheCopiesOfSurfaces)
+{
+    SdReader model;
+    EXPECT_EQ(element_count(model), 0U);
+    model.shells.resize(5);
+    EXPECT_EQ(element_count(model), 5U);
+    model.surfaces.resize(2);
+    EXPECT_EQ(element_count(model), 3U);
+    model.surfaces.resize(9);
+    EXPECT_EQ(element_count(model), 0U) << "a host's model may have more surfaces than shells";
 }
 
 TEST(NumberLookup, GivesTheFirstOrTheLastPosition)
@@ -141,29 +149,13 @@ TEST(NumberLookup, WalksARangeOverTheNumbersThatAreThere)
 TEST(NumberLookup, FillsAnIndex)
 {
     using index = std::map<int, int>;
-    struct row {
-        const char* why;
-        numbers list;
-        index first;
-        index last;
-    };
-    const row rows[] = {
-        {"nothing", {}, {}, {}},
-        {"in order", {1, 2, 3}, {{1, 1}, {2, 2}, {3, 3}}, {{1, 1}, {2, 2}, {3, 3}}},
-        {"out of order", {30, 10}, {{10, 2}, {30, 1}}, {{10, 2}, {30, 1}}},
-        {"with a repeat", {5, 7, 5}, {{5, 1}, {7, 2}}, {{5, 3}, {7, 2}}},
-        {"far apart", {INT_MAX, INT_MIN}, {{INT_MIN, 2}, {INT_MAX, 1}}, {{INT_MIN, 2}, {INT_MAX, 1}}},
-    };
-    for (const row& c : rows) {
-        SCOPED_TRACE(c.why);
-        const auto records = numbered<SdShell>(c.list);
-        index first;
-        number_lookup::of(records, same_number::first_counts).fill(first);
-        EXPECT_EQ(first, c.first);
-        index last;
-        number_lookup::of(records, same_number::last_counts).fill(last);
-        EXPECT_EQ(last, c.last);
-    }
+    const auto records = numbered<SdShell>({30, 10, 30, INT_MIN});
+    index first;
+    number_lookup::of(records, same_number::first_counts).fill(first);
+    EXPECT_EQ(first, (index{{INT_MIN, 4}, {10, 2}, {30, 1}}));
+    index last;
+    number_lookup::of(records, same_number::last_counts).fill(last);
+    EXPECT_EQ(last, (index{{INT_MIN, 4}, {10, 2}, {30, 3}}));
 }
 
 TEST(ResetMemberId, NumbersMembersAndThenShells)
@@ -184,17 +176,6 @@ TEST(ResetMemberId, NumbersMembersAndThenShells)
     EXPECT_EQ(model.releases["START MZ"], std::vector<unsigned>{20});
     EXPECT_EQ(model.brace_ids, std::set<int>{30});
     EXPECT_EQ(model.beam_index, (std::map<int, int>{{10, 1}, {20, 2}, {30, 3}}));
-}
-
-TEST(ResetMemberId, CountsShellsFromOneWithoutMembers)
-{
-    SdReader model;
-    model.shells = numbered<SdShell>({7, 7});
-    access::reset_member_id(model);
-    EXPECT_EQ(ids_of(model.shells), (numbers{1, 2}));
-    SdReader empty;
-    access::reset_member_id(empty);
-    EXPECT_TRUE(empty.beams.empty());
 }
 
 } // namespace

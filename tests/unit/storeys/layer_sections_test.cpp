@@ -2,7 +2,6 @@
 
 #include "tests/support/deck.h"
 #include "tests/support/layered.h"
-#include "tests/support/model_equal.h"
 
 #include <gtest/gtest.h>
 
@@ -79,17 +78,15 @@ TEST(ProjectSections, AreAllThatDifferInTheirPropertyTexts)
         const char* why;
         const char* one;
         const char* other;
-        texts want; ///< behind the first section
+        texts want; ///< after the first section
     };
     const row rows[] = {
         {"equal texts are one", "PRIS500", "PRIS500", {"2 C30 PRIS500"}},
         {"small letters become capitals", "pris500x300", "PRIS500X300", {"2 C30 PRIS500X300"}},
-        {"in either order", "PRIS500X300", "Pris500x300", {"2 C30 PRIS500X300"}},
         {"blanks before a text belong to it", " PRIS500", "PRIS500", {"2 C30  PRIS500", "3 C30 PRIS500"}},
-        {"and behind it", "PRIS500", "PRIS500 ", {"2 C30 PRIS500", "3 C30 PRIS500 "}},
+        {"and after it", "PRIS500", "PRIS500 ", {"2 C30 PRIS500", "3 C30 PRIS500 "}},
         {"and two in the middle", "TABLE ST A", "TABLE ST  A", {"2 C30 TABLE ST A", "3 C30 TABLE ST  A"}},
         {"no text is a text", "", "PRIS500", {"2 C30 ", "3 C30 PRIS500"}},
-        {"and one for all that have none", "", "", {"2 C30 "}},
         {"one may begin like the other", "PRIS50", "PRIS500", {"2 C30 PRIS50", "3 C30 PRIS500"}},
         {"bytes past ASCII stay",
          "UPTABLE 1 \xb8\xd6\xd6\xf9",
@@ -144,16 +141,6 @@ TEST(ProjectSections, ComeFromTheTextsReadNotFromThoseWritten)
     EXPECT_EQ(sections(project), (texts{"1 STEEL PRIS500X400", "2 STEEL TABLE ST W12X26"}));
     EXPECT_EQ(words(member(project, 3).section), "1 C40 PRIS500X400");
     EXPECT_EQ(member(project, 3).member.sect_name, "PRIS ZD 0.5 YD 0.4");
-}
-
-TEST(ProjectSections, AreThoseOfTheRecordsBitForBit)
-{
-    Section want("C30", "PRIS500X500");
-    want.tag = 1;
-    const StaadProProject_layered project = project_of(layered::floors({3000}));
-    ASSERT_EQ(project.sections.size(), 1U);
-    EXPECT_EQ(record_differences(project.sections[0], want), texts());
-    EXPECT_EQ(record_differences(member(project, 101).section, want), texts());
 }
 
 } // namespace

@@ -80,18 +80,5 @@ TEST(LayerMemberForces, GoByThePositionOfTheMember)
     EXPECT_EQ(forces(layered::project_of(model)), "2: 11; 2: 13") << "position 4 is in no storey, 9 no member";
 }
 
-TEST(LayerMemberForces, OutliveTheModelAndAreCopies)
-{
-    StaadProProject_layered project;
-    {
-        SdReader model = decks::read(deck);
-        model.beam_forces = {{1, forces_of(1, 11)}};
-        project = layered::project_of(model);
-        model.beam_forces[1].records[11].points[0].f1 = 99;
-        model.beams[0].id = 77;
-    }
-    EXPECT_EQ(member(project, 101).forces.records.at(11).points.at(0).f1, 1);
-}
-
 } // namespace
 } // namespace STAAD

@@ -4,7 +4,6 @@
 #include "tests/support/deck.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/layered.h"
-#include "tests/support/model_equal.h"
 #include "tests/support/scripted_services.h"
 #include "tests/support/temporary_file.h"
 
@@ -42,15 +41,6 @@ const std::string tent = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 6 1 0; 3 
 StaadProProject_layered project_of_text(const std::string& text)
 {
     return project_of(decks::read(text));
-}
-
-TEST(LayeredProject, IsEmptyAtFirst)
-{
-    const StaadProProject_layered project;
-    EXPECT_TRUE(project.layers.empty());
-    EXPECT_TRUE(project.node_levels.empty());
-    EXPECT_TRUE(project.sections.empty());
-    EXPECT_TRUE(project.load_cases.empty());
 }
 
 TEST(LayeredProject, HoldsWhatTheFileSays)
@@ -99,15 +89,7 @@ TEST(LayeredProject, IsTheSameFromAFileAndFromAModel)
     }
 }
 
-TEST(LayeredProject, LeavesTheModelOfTheCallerAsItIs)
-{
-    const SdReader model = decks::read(office);
-    StaadProProject_layered project;
-    EXPECT_TRUE(project.BuildFromModel(model));
-    EXPECT_EQ(model_differences(model, decks::read(office)), texts());
-}
-
-TEST(LayeredProjectReport, TellsWhatReadingTheModelTells)
+TEST(LayeredProjectReport, IsThatOfReadingTheModel)
 {
     const std::string deck = office.substr(0, office.size() - 7) + "PERFORM MAGIC\nFINISH\n";
     const temporary_file file(deck);
@@ -128,7 +110,7 @@ TEST(LayeredProjectReport, TellsWhatReadingTheModelTells)
     }
 }
 
-TEST(LayeredProjectReport, TellsWhyThereIsNoModel)
+TEST(LayeredProjectReport, SaysWhyThereIsNoModel)
 {
     ReadReport report;
     ReadReport of_forces;
@@ -190,15 +172,6 @@ TEST(LayeredProject, HasNewJointLevelsOnlyIfThereIsNoLevel)
     StaadProProject_layered from_model = project_of_text(office);
     EXPECT_FALSE(from_model.BuildFromModel(decks::read(tent)));
     EXPECT_EQ(differences(from_model, want), texts());
-}
-
-TEST(LayeredProject, OfAnEmptyModelLosesItsJointLevels)
-{
-    StaadProProject_layered want = project_of_text(office);
-    want.node_levels.clear();
-    StaadProProject_layered project = project_of_text(office);
-    EXPECT_FALSE(project.BuildFromModel(SdReader()));
-    EXPECT_EQ(differences(project, want), texts());
 }
 
 } // namespace
