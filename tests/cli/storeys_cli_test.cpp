@@ -369,20 +369,5 @@ TEST(Storeys, AFullDiskIsTold)
         EXPECT_EQ(tool.into("/dev/full", {"storeys", form, path}).exit_code, 4) << form;
 }
 
-TEST(Storeys, TheTwelveStoreyTower)
-{
-    const tool_run tool;
-    const tool_result result = tool({"storeys", STAADKIT_SOURCE_DIR "/examples/twelve-storey.std"});
-    EXPECT_EQ(result.exit_code, 0);
-    // Basement and ground, the mezzanine, the first floor above it, ten floors, the eaves, the ridge.
-    EXPECT_TRUE(has_line(result.out, "storeys: 15 (3.90 + 2.70 + 2.40 + 10 x 3.30 + 3.00 + 1.50 m), base at -3.90 m, "
-                                     "from the top down"))
-        << result.out;
-    EXPECT_TRUE(has_line(result.out, "  at the lowest level  17 members  121 TO 129 131 TO 138")) << result.out;
-    EXPECT_TRUE(has_line(result.out, "  at the lowest level  1 element   151")) << result.out;
-    EXPECT_TRUE(has_line(result.out, "  above the top level  3 members   1741 TO 1743")) << result.out;
-    EXPECT_TRUE(has_line(result.out, "  above the top level  1 element   1751")) << result.out;
-}
-
 } // namespace
 } // namespace cli_test

@@ -124,18 +124,6 @@ TEST(TakeOver, WritesTheNewModelWithTheOldDefinitions)
     EXPECT_EQ(tool.names(), (std::vector<std::string>{"new.std", "old.std", "out.std"}));
 }
 
-TEST(TakeOver, ModelsThatDoNotDifferAreTakenOverAndDone)
-{
-    const tool_run tool;
-    frame_parts parts;
-    parts.supports = "1 2 FIXED\n";
-    const std::string now = tool.write("new.std", frame_deck());
-    const std::string earlier = tool.write("old.std", frame_deck(parts));
-    const std::string out = tool.missing("out.std");
-    EXPECT_EQ(tool({"compare", now, earlier, "--take-over", out, "--yes"}).exit_code, 0);
-    EXPECT_TRUE(has_line(read_text(out), "1 TO 2 FIXED"));
-}
-
 TEST(TakeOver, ToStandardOutputItIsTheModelAlone)
 {
     const tool_run tool;
@@ -217,16 +205,6 @@ TEST(TakeOver, AnExistingFileIsKept)
     EXPECT_EQ(read_file(earlier), earlier_deck());
     EXPECT_EQ(tool({"compare", now, earlier, "--take-over", out, "--yes", "--force"}).exit_code, 1);
     EXPECT_TRUE(contains(read_text(out), "\n_FEET 1 TO 2\n"));
-}
-
-TEST(TakeOver, AFolderThatIsMissing)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string out = tool.missing("nowhere") + "/out.std";
-    const tool_result result = tool({"compare", now, now, "--take-over", out, "--yes"});
-    EXPECT_EQ(result.exit_code, 4);
-    EXPECT_TRUE(has_line(result.err, "staadkit: error: " + out + ": No such file or directory")) << result.err;
 }
 
 TEST(TakeOver, NothingIsWrittenWithoutBothModels)
