@@ -16,7 +16,7 @@ clang_tidy() { # build folder, changes to the checks of .clang-tidy
 case $1 in
 format) sources h cpp | xargs clang-format --dry-run -Werror ;;
 ascii)
-    if { sources h cpp sh && find . -name CMakeLists.txt -not -path './build/*'; } | xargs grep -nP '[^\x00-\x7F]'; then
+    if { sources h cpp sh py && find . -name CMakeLists.txt -not -path './build/*'; } | xargs grep -nP '[^\x00-\x7F]'; then
         echo "sources hold only ASCII" >&2
         exit 1
     fi

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Whether the tree of sources is in order; from the project's root: rooms.py [--report], which never fails
 
-- A room (a folder of staad/ or of tools/staadkit/ with all below it) includes only the rooms that its row in the table
+- A room (a folder of staad/, tools/staadkit/ or tools/ with all below it) includes only the rooms that its row in the table
   of docs/architecture.md names.
 - Neither files nor rooms include each other in a loop.
 - The tool includes public headers of the library only: those that staad/CMakeLists.txt lists.
@@ -48,11 +48,11 @@ def included_by(path):
 
 
 def room_of(path):
-    """`text` for staad/text/lines.h, `reader` for staad/reader/blocks/x.cpp, `tools/cli` for a file of the tool's cli/.
+    """`text` for staad/text/lines.h, `reader` for staad/reader/blocks/x.cpp, `tools/cli` for tools/staadkit/cli/x.cpp.
 
     No room for what lies in no folder: the export macro, which all may include, and the tool's main program.
     """
-    for top, prefix in (('staad/', ''), (TOOL + '/', 'tools/')):
+    for top, prefix in (('staad/', ''), (TOOL + '/', 'tools/'), ('tools/', 'tools/')):
         if path.startswith(top):
             folder, slash, _ = path[len(top):].partition('/')
             return prefix + folder if slash else None
