@@ -16,10 +16,14 @@ constexpr Finding::Severity error = Finding::Error;
 // Meaning and advice are cells of a Markdown table, too: no "|" in them.
 constexpr FindingCodeInfo table[] = {
     {code::file_missing, "file-missing", error, "The file does not exist.", "Check the path."},
-    {code::file_access, "file-access", error, "The file cannot be opened for reading and writing.",
+    {code::file_access, "file-access", error, "The file cannot be opened; a host opens it for reading and writing.",
      "Check its permissions; a host may pass the text from memory instead."},
     {code::file_unreadable, "file-unreadable", error, "The file or standard input cannot be read to its end.",
      "Copy the file to a local disk and try again."},
+    {code::not_a_deck, "not-a-deck", error, "The input is empty, a folder, binary, or a listing of forces.",
+     "Give the deck as plain text."},
+    {code::not_a_listing, "not-a-listing", error, "The input is empty, a folder, binary, UTF-16, or a deck.",
+     "Give the listing that the analysis printed as plain text."},
     {code::no_unit, "no-unit", error,
      "No line begins with UNIT and has a line after it; or the text is UTF-16, or its "
      "lines end with carriage returns alone.",
@@ -28,7 +32,6 @@ constexpr FindingCodeInfo table[] = {
      "See the line that was probably meant, reported with it."},
     {code::no_members, "no-members", error, "No line after the joints is exactly MEMBER INCIDENCES.",
      "See the line that was probably meant, reported with it."},
-    {code::no_model, "no-model", error, "The input holds no model.", "Check that it is a deck."},
     {code::limit, "limit", error, "A list, all lists together or long texts grow past the limits of one reading.",
      "Shorten the list at the line named."},
     {code::memory, "memory", error, "There is not enough memory to read the input.",

@@ -17,10 +17,11 @@ enum class FindingCode : int {
     file_missing,
     file_access,
     file_unreadable,
+    not_a_deck,
+    not_a_listing,
     no_unit,
     no_joints,
     no_members,
-    no_model,
     limit,
     memory,
     // Lines of a deck.

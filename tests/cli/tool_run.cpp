@@ -9,6 +9,10 @@
 #include <sstream>
 #include <system_error>
 
+#ifndef _WIN32
+#    include <unistd.h> // geteuid
+#endif
+
 namespace cli_test {
 namespace {
 
@@ -97,9 +101,29 @@ tool_result tool_run::with_small_files(const std::vector<std::string>& arguments
 
 tool_result tool_run::limited(const std::string& limit, const std::vector<std::string>& arguments) const
 {
-    const std::string command = "ulimit " + limit + " && exec \"$0\" \"$@\"";
+    const std::string script = "ulimit " + limit + " && exec \"$0\" \"$@\"";
+    return command(call_of({"/bin/sh", "-c", script}, arguments));
+}
+
+std::vector<std::string> tool_run::as_plain_user() const
+{
+    namespace fs = std::filesystem;
+    fs::permissions(folder_, fs::perms::all);
+    if (geteuid() != 0)
+        return {STAADKIT_TOOL_PATH};
+    const char* const setpriv = "/usr/bin/setpriv";
+    if (!fs::exists(setpriv))
+        return {};
+    const std::string copy = missing("staadkit"); // from a folder that is open to all
+    fs::copy_file(STAADKIT_TOOL_PATH, copy);
+    fs::permissions(copy, fs::perms::others_read | fs::perms::others_exec, fs::perm_options::add);
+    return {setpriv, "--reuid=65534", "--regid=65534", "--clear-groups", copy};
+}
+
+tool_result tool_run::command(const std::vector<std::string>& words) const
+{
     const std::string out = missing("stdout");
-    tool_result result = run(call_of({"/bin/sh", "-c", command}, arguments), no_file, out);
+    tool_result result = run(words, no_file, out);
     result.out = read_text(out);
     return result;
 }

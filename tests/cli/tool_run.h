@@ -48,6 +48,11 @@ public:
     tool_result within(std::size_t megabytes, const std::vector<std::string>& arguments) const;
     /// The same with no file that is written growing larger than 4 or 8 KB, as the shell counts.
     tool_result with_small_files(const std::vector<std::string>& arguments) const;
+    /// What starts the tool as a user whom permissions bind, its arguments to follow; empty if there is no way. Opens
+    /// the folder to all.
+    std::vector<std::string> as_plain_user() const;
+    /// Runs any command to its end.
+    tool_result command(const std::vector<std::string>& words) const;
 #endif
 
     std::string folder() const

@@ -1,5 +1,7 @@
 #include "cli/native_path.h"
 
+#include <array>
+
 #ifdef _WIN32
 #    include "staad/io/windows_path.h"
 #endif
@@ -31,5 +33,15 @@ std::FILE* open_file(const std::filesystem::path& path, const char* mode)
 }
 
 #endif
+
+bool read_to_end(std::FILE* stream, std::string& text)
+{
+    std::array<char, 1U << 16U> block;
+    for (std::size_t count = block.size(); count == block.size();) {
+        count = std::fread(block.data(), 1, block.size(), stream);
+        text.append(block.data(), count);
+    }
+    return std::ferror(stream) == 0;
+}
 
 } // namespace tool

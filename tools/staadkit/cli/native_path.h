@@ -1,4 +1,4 @@
-/// Names of files as the command line gives them, for the standard library's file functions.
+/// Files by their names on the command line.
 #ifndef TOOLS_STAADKIT_CLI_NATIVE_PATH_H
 #define TOOLS_STAADKIT_CLI_NATIVE_PATH_H
 
@@ -13,6 +13,9 @@ std::filesystem::path native_path(const std::string& name);
 
 /// As std::fopen.
 std::FILE* open_file(const std::filesystem::path& path, const char* mode);
+
+/// Appends what is left of `stream` to `text`; false, and errno says why, if it cannot be read to its end.
+bool read_to_end(std::FILE* stream, std::string& text);
 
 } // namespace tool
 

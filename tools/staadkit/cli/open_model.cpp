@@ -1,73 +1,79 @@
 #include "cli/open_model.h"
 
-#include "cli/progress_line.h"
-#include "cli/read_stream.h"
+#include "staad/report/finding_codes.h"
 #include "staad/report/read_limit.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
 #include <new>
 #include <utility>
-
-#ifdef _WIN32
-#    include <fcntl.h> // _O_BINARY
-#    include <io.h>    // _setmode
-#endif
 
 namespace tool {
 namespace {
 
 using STAAD::Finding;
+using STAAD::FindingCode;
 
-void add_error(STAAD::ReadReport& report, std::string code, std::size_t line, std::string text)
+void add_error(STAAD::ReadReport& report, FindingCode code, std::string text, std::size_t line = 0)
 {
-    Finding finding;
-    finding.severity = Finding::Error;
-    finding.code = std::move(code);
-    finding.first_line = line;
-    finding.last_line = line;
-    finding.text = std::move(text);
-    report.findings.push_back(std::move(finding));
+    report.findings.push_back(STAAD::make_finding(code, std::move(text), line, line));
 }
 
-/// All of standard input, byte by byte as it comes; false if it cannot be read.
-bool read_standard_input(std::string& text)
+constexpr const char* binary = "binary, not text";
+
+/// Whether the text is a listing of forces: an engineer who gives the files in the wrong order is to be told so.
+bool is_listing(const std::string& text)
 {
-#ifdef _WIN32
-    _setmode(_fileno(stdin), _O_BINARY);
-#endif
-    return read_to_end(stdin, text);
+    STAAD::SdReader model;
+    model.beams.emplace_back();
+    STAAD::ReadReport report;
+    model.ReadForceMomentFromText(text, report);
+    return report.worst() != Finding::Error;
+}
+
+bool is_deck(const std::string& text)
+{
+    return STAAD::SdReader().ReadSDDataFromText(text);
 }
 
 bool read_model(const std::string& path, opened_model& opened)
 {
-    if (path != "-")
-        return opened.model.ReadSDDataFromStdFile(path.c_str(), opened.report);
-    std::string text;
-    if (read_standard_input(text))
-        return opened.model.ReadSDDataFromText(text, opened.report);
-    add_error(opened.report, "file-unreadable", 0, std::strerror(errno));
+    const input_bytes input = read_input(path, FindingCode::not_a_deck);
+    if (input.error) {
+        opened.report.findings = {*input.error};
+        return false;
+    }
+    if (opened.model.ReadSDDataFromText(input.bytes, opened.report))
+        return true;
+    if (is_binary(input.bytes))
+        opened.report.findings = {kind_error(path, FindingCode::not_a_deck, binary)};
+    else if (is_listing(input.bytes))
+        opened.report.findings = {kind_error(path, FindingCode::not_a_deck, "a listing of forces")};
     return false;
 }
 
 void read_forces(const std::string& path, STAAD::SdReader& model, STAAD::ReadReport& report)
 {
-    if (path != "-") {
-        const progress_line shown(path);
-        return model.ReadForceMomentFromTxtFile(path.c_str(), report);
+    const input_bytes input = read_input(path, FindingCode::not_a_listing);
+    if (input.error) {
+        report.findings = {*input.error};
+        return;
     }
-    std::string text;
-    if (read_standard_input(text))
-        return model.ReadForceMomentFromText(text, report);
-    add_error(report, "file-unreadable", 0, std::strerror(errno));
+    model.ReadForceMomentFromText(input.bytes, report);
+    if (report.worst() != Finding::Error || model.beams.empty())
+        return;
+    if (is_utf16(input.bytes))
+        report.findings = {
+            kind_error(path, FindingCode::not_a_listing, "UTF-16, which is not read: save it as plain text")};
+    else if (is_binary(input.bytes))
+        report.findings = {kind_error(path, FindingCode::not_a_listing, binary)};
+    else if (is_deck(input.bytes))
+        report.findings = {kind_error(path, FindingCode::not_a_listing, "a deck")};
 }
 
 void fail_for_memory(opened_model& opened, const char* text)
 {
     opened.model = {};
     opened.was_read = false;
-    add_error(opened.report, "memory", 0, text);
+    add_error(opened.report, FindingCode::memory, text);
 }
 
 } // namespace
@@ -78,11 +84,9 @@ opened_model open_model(const std::string& path)
     opened.name = input_name(path);
     try {
         opened.was_read = read_model(path, opened);
-        if (!opened.was_read && opened.report.worst() != Finding::Error)
-            add_error(opened.report, "no-model", 0, "the input holds no model");
     } catch (const STAAD::ReadLimitError& error) {
         opened.model = {}; // what was read by then may fill the memory
-        add_error(opened.report, "limit", error.first_line(), error.text());
+        add_error(opened.report, FindingCode::limit, error.text(), error.first_line());
     } catch (const std::bad_alloc&) {
         fail_for_memory(opened, "not enough memory to read it");
     }
@@ -97,7 +101,7 @@ opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
         read_forces(path, model, opened.report);
     } catch (const std::bad_alloc&) {
         model.beam_forces.clear();
-        add_error(opened.report, "memory", 0, "not enough memory to read it");
+        add_error(opened.report, FindingCode::memory, "not enough memory to read it");
     }
     opened.was_read = opened.report.worst() != Finding::Error;
     return opened;
@@ -105,12 +109,7 @@ opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
 
 void give_up_for_memory(opened_model& opened)
 {
-    fail_for_memory(opened, "not enough memory to tell what it holds");
-}
-
-std::string input_name(const std::string& path)
-{
-    return path == "-" ? "<stdin>" : path;
+    fail_for_memory(opened, "not enough memory to show what it holds");
 }
 
 std::string first_error(const STAAD::ReadReport& report)

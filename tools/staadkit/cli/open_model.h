@@ -2,6 +2,7 @@
 #ifndef TOOLS_STAADKIT_CLI_OPEN_MODEL_H
 #define TOOLS_STAADKIT_CLI_OPEN_MODEL_H
 
+#include "cli/read_input.h"
 #include "staad/model/sd_reader.h"
 #include "staad/report/read_report.h"
 
@@ -9,7 +10,7 @@
 
 namespace tool {
 
-/// A model, and what its reading had to tell.
+/// A model, and the findings of its reading.
 struct opened_model {
     std::string name; ///< for messages: the path as given, "<stdin>" for "-"
     bool was_read = false;
@@ -17,26 +18,22 @@ struct opened_model {
     STAAD::ReadReport report; ///< holds an error if no model was read
 };
 
-/// Reads the file at `path`, or standard input for "-". Throws nothing: a file that asks for more
-/// memory than there is, or than a reading takes, holds no model.
+/// Reads the file at `path`, or standard input for "-", opened for reading alone. Throws nothing: a file that asks for
+/// more memory than there is, or than a reading takes, holds no model.
 opened_model open_model(const std::string& path);
 
-/// What the reading of a listing of forces had to tell. The forces stand in the model.
+/// The findings of the reading of a listing of forces. The forces stand in the model.
 struct opened_forces {
     std::string name; ///< as that of a model
     bool was_read = false;
     STAAD::ReadReport report; ///< holds an error if no forces were read
 };
 
-/// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model. Says
-/// on a terminal that a long one is being read.
+/// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model);
 
-/// Takes the model away and notes the error: what is to be told of it needs more memory than there is.
+/// Takes the model away and notes the error: what is to be shown of it needs more memory than there is.
 void give_up_for_memory(opened_model& opened);
-
-/// The name of an input for messages: "<stdin>" for "-".
-std::string input_name(const std::string& path);
 
 /// Text of the first error of the report; empty if there is none.
 std::string first_error(const STAAD::ReadReport& report);

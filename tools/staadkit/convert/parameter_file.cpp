@@ -1,7 +1,6 @@
 #include "convert/parameter_file.h"
 
 #include "cli/native_path.h"
-#include "cli/read_stream.h"
 #include "cli/suggest.h"
 #include "cli/text_encoding.h"
 #include "staad/model/fields.h"

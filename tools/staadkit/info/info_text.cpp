@@ -164,7 +164,7 @@ std::string definitions(const load_case_summary& load_case)
         text += text.empty() ? "" : ", ";
         text += std::to_string(each.count) + ' ' + short_kind(each.kind);
     }
-    return text.empty() ? "no definitions" : text;
+    return text.empty() ? "no loads" : text;
 }
 
 std::string loaded(const load_case_summary& load_case)
@@ -185,7 +185,7 @@ bool is_load_case_0(const load_case_summary& load_case)
 
 void put_load_cases(std_output& out, const model_summary& summary)
 {
-    table rows;
+    table rows({align::right});
     for (const load_case_summary& each : summary.load_cases)
         rows.add_row({std::to_string(each.number), load_type(each), cell_text(each.title, "-"), loaded(each),
                       cell_text(definitions(each), "")});

@@ -1,0 +1,37 @@
+/// The bytes of an input: a file, a pipe, a device or standard input, opened for reading alone.
+#ifndef TOOLS_STAADKIT_CLI_READ_INPUT_H
+#define TOOLS_STAADKIT_CLI_READ_INPUT_H
+
+#include "staad/report/finding_codes.h"
+
+#include <optional>
+#include <string>
+
+namespace tool {
+
+/// The bytes of an input, or the error that takes their place.
+struct input_bytes {
+    std::string bytes;
+    std::optional<STAAD::Finding> error;
+};
+
+/// Reads the file at `name`, or standard input for "-", to its end. A folder, an empty file and one that is known by
+/// its first bytes to be no text are errors of the code `wrong_kind`. Shows on a terminal that a long file is being
+/// read. Throws std::bad_alloc.
+input_bytes read_input(const std::string& name, STAAD::FindingCode wrong_kind);
+
+/// Whether the bytes begin with one of the marks of UTF-16.
+bool is_utf16(const std::string& bytes);
+
+/// Whether bytes that gave neither model nor forces are no text: one of them is zero, and they are not UTF-16.
+bool is_binary(const std::string& bytes);
+
+/// "the file is a picture" as an error of the code; "standard input is a picture" for "-".
+STAAD::Finding kind_error(const std::string& name, STAAD::FindingCode code, const std::string& kind);
+
+/// The name of an input for messages: "<stdin>" for "-".
+std::string input_name(const std::string& name);
+
+} // namespace tool
+
+#endif
