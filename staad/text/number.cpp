@@ -45,7 +45,7 @@ bool begins_a_decimal(std::string_view text) noexcept
     return !text.empty() && is_digit(text.front());
 }
 
-/// The exponent of ten written behind the mantissa, which ends at `end`; 0 if there is none.
+/// The exponent of ten written after the mantissa, which ends at `end`; 0 if there is none.
 std::int64_t written_exponent(std::string_view text, std::size_t end) noexcept
 {
     if (end >= text.size() || (text[end] != 'e' && text[end] != 'E'))
@@ -75,41 +75,53 @@ bool is_too_large(std::string_view text) noexcept
     return power + written_exponent(text, end) > 0;
 }
 
-double magnitude(std::string_view text) noexcept
+number_parse<double> magnitude(std::string_view text) noexcept
 {
-    double value = 0.0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    number_parse<double> parsed;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), parsed.value);
+    parsed.size = static_cast<std::size_t>(result.ptr - text.data());
     const bool out_of_range = result.ec == std::errc::result_out_of_range;
-    if (std::isinf(value) || (out_of_range && is_too_large(text)))
-        return std::numeric_limits<double>::max();
-    return out_of_range ? 0.0 : value;
+    parsed.fits = !out_of_range && !std::isinf(parsed.value);
+    if (std::isinf(parsed.value) || (out_of_range && is_too_large(text)))
+        parsed.value = std::numeric_limits<double>::max();
+    else if (out_of_range)
+        parsed.value = 0.0;
+    return parsed;
 }
 
 } // namespace
 
-int to_int(std::string_view text) noexcept
+number_parse<int> parse_int(std::string_view text) noexcept
 {
+    const std::size_t whole_size = text.size();
     text = skip_white_space(text);
     const bool negative = take_sign(text);
-    constexpr std::int64_t lowest = std::numeric_limits<int>::min();
-    constexpr std::int64_t highest = std::numeric_limits<int>::max();
     if (text.empty() || !is_digit(text.front()))
-        return 0;
+        return {};
     std::int64_t value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range)
-        return static_cast<int>(negative ? lowest : highest);
-    return static_cast<int>(std::clamp(negative ? -value : value, lowest, highest));
+        value = std::numeric_limits<std::int64_t>::max();
+    value = negative ? -value : value;
+    constexpr std::int64_t lowest = std::numeric_limits<int>::min();
+    constexpr std::int64_t highest = std::numeric_limits<int>::max();
+    const auto left = static_cast<std::size_t>(text.data() + text.size() - result.ptr);
+    return {static_cast<int>(std::clamp(value, lowest, highest)), whole_size - left,
+            value >= lowest && value <= highest};
 }
 
-double to_real(std::string_view text) noexcept
+number_parse<double> parse_real(std::string_view text) noexcept
 {
+    const std::size_t whole_size = text.size();
     text = skip_white_space(text);
     const bool negative = take_sign(text);
     if (!begins_a_decimal(text))
-        return 0.0;
-    const double value = magnitude(text);
-    return negative ? -value : value;
+        return {};
+    number_parse<double> parsed = magnitude(text);
+    parsed.size += whole_size - text.size();
+    if (negative)
+        parsed.value = -parsed.value;
+    return parsed;
 }
 
 int truncate_to_int(double value) noexcept

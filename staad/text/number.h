@@ -3,18 +3,38 @@
 #ifndef STAAD_TEXT_NUMBER_H
 #define STAAD_TEXT_NUMBER_H
 
+#include <cstddef>
 #include <string_view>
 
 namespace STAAD::detail {
 
-/// White space, sign, decimal digits; what follows is ignored. 0 without digits; past the range of
-/// 32 bits the nearest limit.
-int to_int(std::string_view text) noexcept;
+/// The number at the front of a text.
+template<class Number>
+struct number_parse {
+    Number value = 0;     ///< 0 without digits; the nearest that fits if the number does not
+    std::size_t size = 0; ///< characters read, white space and sign among them; 0: no number stands there
+    bool fits = true;     ///< false: the number is past the range of its type
 
-/// White space, sign, decimal digits with an optional point, optional exponent e or E; what follows
-/// is ignored. 0 without digits. No hexadecimal, no "inf", no "nan". Past the range of a double the
-/// largest double, below it 0, both with the sign of the text.
-double to_real(std::string_view text) noexcept;
+    bool is_number() const noexcept { return size != 0; }
+};
+
+/// White space, sign, decimal digits; what follows is left. Past the range of 32 bits the nearest limit.
+number_parse<int> parse_int(std::string_view text) noexcept;
+
+/// White space, sign, decimal digits with an optional point, optional exponent e or E; what follows is
+/// left. No hexadecimal, no "inf", no "nan". Past the range of a double the largest double, below it 0,
+/// both with the sign of the text.
+number_parse<double> parse_real(std::string_view text) noexcept;
+
+/// The value alone, for the many places where what is no number counts as 0.
+inline int to_int(std::string_view text) noexcept
+{
+    return parse_int(text).value;
+}
+inline double to_real(std::string_view text) noexcept
+{
+    return parse_real(text).value;
+}
 
 /// Toward zero; past the range of 32 bits the nearest limit; 0 for NaN.
 int truncate_to_int(double value) noexcept;

@@ -107,7 +107,7 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
 /// that are not there.
 void check_number(std::string_view word, const text_line& line, reading& run)
 {
-    if (!run.findings.listening() || word.find_first_of("0123456789") != std::string_view::npos)
+    if (!run.findings.listening() || detail::parse_real(word).is_number())
         return;
     run.findings.add(FindingCode::number_word, line.place, [&] {
         return detail::quote(line.text) + ": " +
