@@ -14,7 +14,7 @@ namespace {
 /// Words of commands are shown up to this length.
 constexpr std::size_t longest_word = 60;
 
-/// Data lines begin with a digit, now and then behind blanks.
+/// Data lines begin with a digit, now and then after blanks.
 bool is_data(std::string_view line) noexcept
 {
     return chk_isdigit(trim_blanks(line));
@@ -95,47 +95,48 @@ bool is_list_word(std::string_view word) noexcept
 
 } // namespace
 
-void tell_nobody(std::string_view what, const text_line& line, reading& run)
+void report_no_effect(std::string_view what, const text_line& line, reading& context)
 {
-    run.findings.add(FindingCode::list_nobody, line.place, [&] {
-        return quote(line.text) + ": its list names nobody, so the " + std::string(what) + " has no effect";
+    context.findings.add(FindingCode::list_nobody, line.place, [&] {
+        return quote(line.text) + ": the " + std::string(what) +
+               " has no effect: no joint, member, element or surface of its list exists";
     });
 }
 
-void tell_list_stopped(std::string_view word, const text_line& line, reading& run)
+void report_list_stopped(std::string_view word, const text_line& line, reading& context)
 {
     if (word.empty())
         return;
-    run.findings.add(FindingCode::list_stopped, line.place, [&] {
-        return quote(line.text) + ": the list ends at " + quote(word) + ", what stands behind is not part of it";
+    context.findings.add(FindingCode::list_stopped, line.place, [&] {
+        return quote(line.text) + ": the list ends at " + quote(word) + ", the words after it are not part of it";
     });
 }
 
-void tell_list_word(std::string_view word, const text_line& line, reading& run)
+void report_list_word(std::string_view word, const text_line& line, reading& context)
 {
     if (is_list_word(word))
-        tell_list_stopped(word, line, run);
+        report_list_stopped(word, line, context);
 }
 
-void tell_unknown(FindingCode code, std::string_view what, int number, const text_line& line, reading& run)
+void report_unknown_number(FindingCode code, std::string_view what, int number, const text_line& line, reading& context)
 {
-    run.findings.add(code, line.place, [&] {
+    context.findings.add(code, line.place, [&] {
         return quote(line.text) + " names " + std::string(what) + " " + std::to_string(number) +
                ", which the file does not define";
     });
 }
 
-void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run)
+void report_unknown_joint(const char* what, int number, int joint, line_place place, reading& context)
 {
-    run.findings.add(FindingCode::joint_unknown, place, [&] {
+    context.findings.add(FindingCode::joint_unknown, place, [&] {
         return std::string(what) + " " + std::to_string(number) + " refers to joint " + std::to_string(joint) +
                ", which JOINT COORDINATES does not define";
     });
 }
 
-void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run)
+void report_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& context)
 {
-    if (!run.findings.listening() || end >= lines.size() || starts_with_letter(lines[end].text))
+    if (!context.findings.listening() || end >= lines.size() || starts_with_letter(lines[end].text))
         return;
     std::size_t data = is_data(lines[end].text) ? end : end + 1;
     while (data < lines.size() && is_comment(lines[data].text))
@@ -143,32 +144,32 @@ void tell_block_end(std::string_view keyword, const line_list& lines, std::size_
     const std::size_t lost = count_data_lines(lines, data);
     if (lost == 0)
         return;
-    run.findings.add(FindingCode::block_ended, lines[end].place, [&] {
+    context.findings.add(FindingCode::block_ended, lines[end].place, [&] {
         return quote(lines[end].text) + " ends the lines under " + std::string(keyword) + "; " + std::to_string(lost) +
                " data " + (lost == 1 ? "line" : "lines") + " from there on are not read";
     });
 }
 
-void tell_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& run)
+void report_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& context)
 {
     if (begin < lines.size())
-        run.findings.add(FindingCode::block_open, lines[begin].place, [&] {
+        context.findings.add(FindingCode::block_open, lines[begin].place, [&] {
             return quote(lines[begin].text) + " has no line '" + std::string(closing) + "' after it";
         });
 }
 
-void tell_near_keywords(const line_list& lines, std::string_view missing, reading& run)
+void tell_near_keywords(const line_list& lines, std::string_view missing, reading& context)
 {
-    if (!run.findings.listening())
+    if (!context.findings.listening())
         return;
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (run.used.is_used(i) || !starts_with_letter(trim_blanks(lines[i].text)))
+        if (context.used.is_used(i) || !starts_with_letter(trim_blanks(lines[i].text)))
             continue;
         const std::string_view meant = nearly_keyword(lines[i].text);
         if (meant.empty())
             continue;
         const auto severity = meant == missing ? Finding::Error : Finding::Warning;
-        run.findings.add_as(severity, FindingCode::keyword_near, lines[i].place, [&] {
+        context.findings.add_as(severity, FindingCode::keyword_near, lines[i].place, [&] {
             // As it stands: the blanks that make the difference are to be seen.
             const bool only_blanks = starts_with(trim_blanks(lines[i].text), meant);
             return "'" + std::string(lines[i].text) + "' is not '" + std::string(meant) + "'" +
@@ -177,25 +178,25 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
     }
 }
 
-void tell_file_trouble(file_bytes::state outcome, reading& run)
+void tell_file_trouble(file_bytes::state outcome, reading& context)
 {
     using state = file_bytes::state;
     report_file_trouble({.is_missing = outcome == state::missing, .is_refused = outcome == state::not_accessible},
-                        run.findings);
+                        context.findings);
 }
 
-void tell_unit_words(std::string_view unit_line, line_place place, reading& run)
+void tell_unit_words(std::string_view unit_line, line_place place, reading& context)
 {
-    if (!run.findings.listening())
+    if (!context.findings.listening())
         return;
     const unit_factors factors = factors_of_unit_line(unit_line);
     report_unit_words(unit_line, factors.is_short,
-                      {factors.unknown_length, factors.unknown_force, factors.unknown_moment}, place, run.findings);
+                      {factors.unknown_length, factors.unknown_force, factors.unknown_moment}, place, context.findings);
 }
 
-void tell_skipped(const line_list& lines, reading& run)
+void tell_skipped(const line_list& lines, reading& context)
 {
-    if (!run.findings.listening())
+    if (!context.findings.listening())
         return;
     skipped_tally tally;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -204,11 +205,11 @@ void tell_skipped(const line_list& lines, reading& run)
             continue;
         if (starts_with_letter(text))
             tally.start_command(text);
-        if (!run.used.is_used(i))
+        if (!context.used.is_used(i))
             tally.add_line(lines[i].place);
     }
     for (const skipped_command& skipped : tally.commands())
-        run.findings.list(FindingCode::skipped, skipped.first, skipped.words, skipped.count);
+        context.findings.list(FindingCode::skipped, skipped.first, skipped.words, skipped.count);
 }
 
 } // namespace STAAD::detail

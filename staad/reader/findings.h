@@ -12,40 +12,42 @@
 
 namespace STAAD::detail {
 
-/// A data line that names nobody the model has: `what` was read for no joint, member or surface.
-void tell_nobody(std::string_view what, const text_line& line, reading& run);
+/// A data line without effect: no joint, member, element or surface has a number of its list. `what` was
+/// read for it: "section", "load".
+void report_no_effect(std::string_view what, const text_line& line, reading& context);
 
 /// A list that ended before the words that are no part of it, at a word such as "BY" or "ALL".
-void tell_list_stopped(std::string_view word, const text_line& line, reading& run);
+void report_list_stopped(std::string_view word, const text_line& line, reading& context);
 
 /// The same, but only where the word is "BY" or "ALL": other words may begin what follows the list.
-void tell_list_word(std::string_view word, const text_line& line, reading& run);
+void report_list_word(std::string_view word, const text_line& line, reading& context);
 
 /// A list names a single number that no joint, member or element has.
-void tell_unknown(FindingCode code, std::string_view what, int number, const text_line& line, reading& run);
+void report_unknown_number(FindingCode code, std::string_view what, int number, const text_line& line,
+                           reading& context);
 
 /// A member, element or surface stands on a joint that the file does not define.
-void tell_unknown_joint(const char* what, int number, int joint, line_place place, reading& run);
+void report_unknown_joint(const char* what, int number, int joint, line_place place, reading& context);
 
-/// The block under `keyword` ended at line `end` although that line or those behind it hold data: a
+/// The block under `keyword` ended at line `end` although that line or those after it hold data: a
 /// comment, a leading blank or a line of another form stopped it.
-void tell_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& run);
+void report_block_end(std::string_view keyword, const line_list& lines, std::size_t end, reading& context);
 
 /// The block that begins at line `begin` has no line that is exactly `closing`.
-void tell_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& run);
+void report_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& context);
 
 /// Lines that are nearly keywords. `missing` names the keyword for want of which no model was read;
 /// empty if one was.
-void tell_near_keywords(const line_list& lines, std::string_view missing, reading& run);
+void tell_near_keywords(const line_list& lines, std::string_view missing, reading& context);
 
 /// A file that gives no text: why.
-void tell_file_trouble(file_bytes::state outcome, reading& run);
+void tell_file_trouble(file_bytes::state outcome, reading& context);
 
 /// One finding per word of a UNIT line that the tables do not know; one if it is short of words.
-void tell_unit_words(std::string_view unit_line, line_place place, reading& run);
+void tell_unit_words(std::string_view unit_line, line_place place, reading& context);
 
 /// What no block has understood, by command words. Comments do not count.
-void tell_skipped(const line_list& lines, reading& run);
+void tell_skipped(const line_list& lines, reading& context);
 
 } // namespace STAAD::detail
 

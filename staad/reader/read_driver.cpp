@@ -2,9 +2,7 @@
 
 #include "staad/io/file_access.h"
 #include "staad/model/sd_reader.h"
-#include "staad/reader/blocks/read_geometry.h"
-#include "staad/reader/blocks/read_materials.h"
-#include "staad/reader/blocks/read_properties.h"
+#include "staad/reader/blocks/blocks.h"
 #include "staad/reader/findings.h"
 #include "staad/units/unit_factors.h"
 

@@ -14,7 +14,7 @@
 namespace STAAD::detail {
 
 /// Which logical lines some block has understood; the rest is in the file and not in the model.
-/// Records nothing when nobody listens.
+/// Records nothing when no report is wanted.
 class used_lines {
 public:
     void start(std::size_t line_count) { used_.assign(line_count, false); }

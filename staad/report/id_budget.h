@@ -60,11 +60,11 @@ template<class Ids, class Words>
 void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
 {
     id_list_walker<Words> counting = walker;
-    for (id_run run; counting.next(run);)
-        budget.take(run.size());
+    for (id_range range; counting.next(range);)
+        budget.take(range.size());
     auto place = ids.end(); // for a list the end, for a set the likely place of the next number
-    for (id_run run; walker.next(run);)
-        for (std::int64_t number = run.first; number <= run.last; ++number)
+    for (id_range range; walker.next(range);)
+        for (std::int64_t number = range.first; number <= range.last; ++number)
             place = std::next(ids.insert(place, static_cast<typename Ids::value_type>(number)));
 }
 

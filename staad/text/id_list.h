@@ -33,7 +33,7 @@ inline constexpr id_list_rule group_id_list{false, false, true};
 inline constexpr id_list_rule surface_id_list{true, false, false};
 
 /// Consecutive numbers first..last, both included; at least one.
-struct id_run {
+struct id_range {
     int first = 0;
     int last = 0;
     bool is_range = false; ///< from a "TO"; otherwise a number that stands alone
@@ -41,19 +41,19 @@ struct id_run {
     std::size_t size() const noexcept { return static_cast<std::size_t>(std::int64_t{last} - first) + 1; }
 };
 
-/// Walks a list run by run, without counting its ranges out. `Words` offers
+/// Walks a list range by range, without counting them out. `Words` offers
 /// `bool next(std::string_view&)` and can be copied to look ahead.
 template<class Words = word_cursor>
 class id_list_walker {
 public:
     id_list_walker(Words words, const id_list_rule& rule) noexcept : words_(words), after_list_(words), rule_(rule) {}
 
-    /// Takes the next run; false at the end of the list.
-    bool next(id_run& run) noexcept
+    /// Takes the next range; false at the end of the list.
+    bool next(id_range& range) noexcept
     {
         std::string_view word;
         while (words_.next(word) && !word.empty()) {
-            const bool found = word == "TO" ? take_range(run) : take_number(word, run);
+            const bool found = word == "TO" ? take_range(range) : take_number(word, range);
             if (ended_)
                 return false;
             after_list_ = words_;
@@ -67,7 +67,7 @@ public:
     const Words& after_list() const noexcept { return after_list_; }
 
 private:
-    bool take_number(std::string_view word, id_run& run) noexcept
+    bool take_number(std::string_view word, id_range& range) noexcept
     {
         const int number = to_int(word);
         if (number < 1 || (rule_.needs_leading_digit && !starts_with_digit_1_to_9(word))) {
@@ -75,11 +75,11 @@ private:
             return false;
         }
         previous_ = number;
-        run = {number, number, false};
+        range = {number, number, false};
         return true;
     }
 
-    bool take_range(id_run& run) noexcept
+    bool take_range(id_range& range) noexcept
     {
         std::string_view word;
         const bool has_bound = words_.next(word) && !word.empty();
@@ -93,7 +93,7 @@ private:
             previous_ = bound < 1 ? 0 : bound;
         if (bound <= previous)
             return false;
-        run = {previous + 1, bound, true};
+        range = {previous + 1, bound, true};
         return true;
     }
 

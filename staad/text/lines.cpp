@@ -82,7 +82,7 @@ void line_list::prepare()
             commands_.push_back(i);
 }
 
-// One pass, in place: a continued line grows over the bytes of the line ends and dropped lines behind
+// One pass, in place: a continued line grows over the bytes of the line ends and dropped lines after
 // it, so the next line's text only ever moves toward the front.
 void line_list::join_continued() noexcept
 {

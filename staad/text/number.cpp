@@ -60,7 +60,7 @@ std::int64_t written_exponent(std::string_view text, std::size_t end) noexcept
 }
 
 /// Of a decimal that no double holds: whether it is too large, not too small. The place of its first
-/// digit other than 0 tells.
+/// digit other than 0 decides.
 bool is_too_large(std::string_view text) noexcept
 {
     constexpr const char* digits = "0123456789";

@@ -1,7 +1,7 @@
 // Beta angles, the density of the concrete, and members declared as braces.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/blocks/named_records.h"
+#include "staad/reader/blocks/assignments.h"
 #include "staad/reader/findings.h"
 #include "staad/text/id_list.h"
 #include "staad/text/number.h"
@@ -36,8 +36,8 @@ std::string_view insert_braces(std::set<int>& braces, std::string_view line, det
 {
     detail::id_list_walker walker(detail::word_cursor(line), detail::general_id_list);
     detail::append_ids(braces, walker, budget);
-    detail::word_cursor behind = walker.after_list();
-    return behind.next_or_empty();
+    detail::word_cursor after = walker.after_list();
+    return after.next_or_empty();
 }
 
 /// The material block: the last line that contains its first words, and the last that contains its
@@ -75,7 +75,7 @@ std::size_t find_containing(const detail::line_list& lines, std::size_t begin, s
 
 } // namespace
 
-void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
+void SdReader::read_beta(const detail::line_list& lines, detail::reading& context)
 {
     const std::size_t first = lines.find_start("BETA ");
     if (first == lines.size())
@@ -84,30 +84,30 @@ void SdReader::read_beta(const detail::line_list& lines, detail::reading& run)
     detail::last_assignments assignments(members);
     std::vector<double> angles;
     for (std::size_t i = first; i < lines.size(); i = lines.find_start("BETA ", i + 1)) {
-        run.used.mark(i);
+        context.used.mark(i);
         detail::word_cursor words(lines[i].text);
         words.next_or_empty(); // BETA
         const double angle = detail::to_real(words.next_or_empty());
         words.next_or_empty(); // MEMB
         const detail::list_end list =
             detail::assign_to_list(assignments, static_cast<int>(angles.size()), words, [&](int number) {
-                detail::tell_unknown(FindingCode::member_unknown, "member", number, lines[i], run);
+                detail::report_unknown_number(FindingCode::member_unknown, "member", number, lines[i], context);
             });
-        detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], run);
+        detail::check_list_end("beta angle", list, list.stopped_at.empty(), lines[i], context);
         angles.push_back(angle);
     }
     assignments.hand_out(
         [&](std::size_t index, int value) { beams[index].beta = angles[static_cast<std::size_t>(value)]; });
 }
 
-void SdReader::read_material(const detail::line_list& lines, detail::reading& run)
+void SdReader::read_material(const detail::line_list& lines, detail::reading& context)
 {
     concrete_density = default_concrete_density;
     const auto [start, end] = find_material_block(lines);
     if (start == lines.size() || end == lines.size() || end <= start)
         return;
-    run.used.mark(start);
-    run.used.mark(end);
+    context.used.mark(start);
+    context.used.mark(end);
     const std::size_t concrete = find_containing(lines, start, end, "ISOTROPIC CONCRETE");
     if (concrete == end)
         return;
@@ -118,13 +118,13 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& ru
         ++chosen;
     if (chosen >= end)
         return;
-    run.used.mark(concrete);
-    run.used.mark(chosen);
+    context.used.mark(concrete);
+    context.used.mark(chosen);
     const std::string_view line = lines[chosen].text;
     constexpr std::size_t keyword_size = 7; // of DENSITY
     concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));
-    run.findings.density_from(lines[chosen].place);
-    run.findings.add(FindingCode::density, lines[chosen].place, [&] {
+    context.findings.density_from(lines[chosen].place);
+    context.findings.add(FindingCode::density, lines[chosen].place, [&] {
         return "the concrete density is taken from " + detail::quote(line) + " and becomes " +
                detail::format_real(concrete_density);
     });
@@ -141,14 +141,14 @@ void SdReader::ReadBrace(const std::vector<std::string>& lines)
         });
 }
 
-void SdReader::ReadBrace(const detail::line_list& lines, detail::reading& run)
+void SdReader::ReadBrace(const detail::line_list& lines, detail::reading& context)
 {
     for_each_brace_list(
         lines.size(), [&](std::size_t i) { return lines[i].text; },
         [&](std::size_t i) {
-            run.used.mark(i - 1, i + 1);
-            run.start_list(lines[i].place);
-            detail::tell_list_stopped(insert_braces(brace_ids, lines[i].text, run.budget), lines[i], run);
+            context.used.mark(i - 1, i + 1);
+            context.start_list(lines[i].place);
+            detail::report_list_stopped(insert_braces(brace_ids, lines[i].text, context.budget), lines[i], context);
         });
 }
 

@@ -1,6 +1,6 @@
-#include "staad/reader/blocks/read_geometry.h"
+#include "staad/reader/blocks/blocks.h"
 
-#include "staad/reader/blocks/named_records.h"
+#include "staad/reader/blocks/assignments.h"
 #include "staad/text/number.h"
 
 namespace STAAD::detail {
@@ -14,14 +14,14 @@ constexpr const char* default_shell_material = "C1";
 
 /// Replaces the joint number of the file by the joint's position. A number that the file does not
 /// define enters `node_index` with 0, the position of no joint.
-void resolve_joint(int& joint, SdReader& model, const char* what, int id, line_place place, reading& run)
+void resolve_joint(int& joint, SdReader& model, const char* what, int id, line_place place, reading& context)
 {
     const int number = joint;
-    joint = run.joints.position(number);
+    joint = context.joints.position(number);
     if (joint != 0)
         return;
     model.node_index.emplace(number, 0);
-    tell_unknown_joint(what, id, number, place, run);
+    report_unknown_joint(what, id, number, place, context);
 }
 
 /// A leading blank does not end the member block, as it does the blocks of shells and thicknesses.
@@ -34,80 +34,80 @@ std::size_t end_of_members(const line_list& lines, std::size_t begin)
 
 /// "1 TO 3 THICKNESS 0.2": the last two words are the word and the value. Of four corner thicknesses
 /// the last one counts.
-void note_thickness(last_assignments& elements, SdReader& model, const text_line& line, reading& run)
+void note_thickness(last_assignments& elements, SdReader& model, const text_line& line, reading& context)
 {
     const int thickness = truncate_to_int(to_real(last_word(line.text)) * model.length_factor);
     const list_end list =
         assign_to_list(elements, thickness, word_cursor(without_last_words(line.text, 2)), [&](int number) {
             model.shell_index.emplace(number, 0);
-            tell_unknown(FindingCode::element_unknown, "element", number, line, run);
+            report_unknown_number(FindingCode::element_unknown, "element", number, line, context);
         });
-    check_list_end("thickness", list, list.stopped_at.empty() || starts_with(list.stopped_at, "TH"), line, run);
+    check_list_end("thickness", list, list.stopped_at.empty() || starts_with(list.stopped_at, "TH"), line, context);
 }
 
 } // namespace
 
-void read_joints(SdReader& model, const line_list& lines, line_range block, reading& run)
+void read_joints(SdReader& model, const line_list& lines, line_range block, reading& context)
 {
     const double factor = model.length_factor;
-    read_items(model.nodes, lines, block, joint_item, run, is_comment, [factor](SdNode& joint, line_place) {
+    read_items(model.nodes, lines, block, joint_item, context, is_comment, [factor](SdNode& joint, line_place) {
         joint.x *= factor;
         joint.y *= factor;
         joint.z *= factor;
     });
-    run.joints = number_lookup::of(model.nodes, same_number::last_counts);
-    run.joints.fill(model.node_index);
+    context.joints = number_lookup::of(model.nodes, same_number::last_counts);
+    context.joints.fill(model.node_index);
 }
 
-std::size_t read_members(SdReader& model, const line_list& lines, std::size_t begin, reading& run)
+std::size_t read_members(SdReader& model, const line_list& lines, std::size_t begin, reading& context)
 {
     const std::size_t end = end_of_members(lines, begin);
-    read_items(model.beams, lines, {begin, end}, member_item, run, no_line, [&](SdBeam& member, line_place place) {
-        resolve_joint(member.node_start, model, "member", member.id, place, run);
-        resolve_joint(member.node_end, model, "member", member.id, place, run);
+    read_items(model.beams, lines, {begin, end}, member_item, context, no_line, [&](SdBeam& member, line_place place) {
+        resolve_joint(member.node_start, model, "member", member.id, place, context);
+        resolve_joint(member.node_end, model, "member", member.id, place, context);
     });
-    tell_block_end("MEMBER INCIDENCES", lines, end, run);
-    run.members = number_lookup::of(model.beams, same_number::last_counts);
-    run.members.fill(model.beam_index);
+    report_block_end("MEMBER INCIDENCES", lines, end, context);
+    context.members = number_lookup::of(model.beams, same_number::last_counts);
+    context.members.fill(model.beam_index);
     return end;
 }
 
-std::size_t read_elements(SdReader& model, const line_list& lines, std::size_t begin, reading& run)
+std::size_t read_elements(SdReader& model, const line_list& lines, std::size_t begin, reading& context)
 {
     const line_range block = lines_of_data(lines, begin);
-    read_items(model.shells, lines, block, element_item, run, no_line, [&](SdShell& element, line_place place) {
+    read_items(model.shells, lines, block, element_item, context, no_line, [&](SdShell& element, line_place place) {
         element.material = default_shell_material;
         for (int& joint : element.node_ids)
-            resolve_joint(joint, model, "element", element.id, place, run);
+            resolve_joint(joint, model, "element", element.id, place, context);
     });
-    tell_block_end("ELEMENT INCIDENCES SHELL", lines, block.end, run);
-    run.elements = number_lookup::of(model.shells, same_number::last_counts);
-    run.elements.fill(model.shell_index);
+    report_block_end("ELEMENT INCIDENCES SHELL", lines, block.end, context);
+    context.elements = number_lookup::of(model.shells, same_number::last_counts);
+    context.elements.fill(model.shell_index);
     return block.end;
 }
 
-void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from, reading& run)
+void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from, reading& context)
 {
     const std::size_t keyword = lines.find_equal("ELEMENT PROPERTY", from);
-    run.used.mark(keyword);
+    context.used.mark(keyword);
     const line_range block = lines_of_data(lines, keyword + 1);
-    last_assignments elements(run.elements);
+    last_assignments elements(context.elements);
     for (std::size_t i = block.begin; i < block.end; ++i) {
-        run.used.mark(i);
-        note_thickness(elements, model, lines[i], run);
+        context.used.mark(i);
+        note_thickness(elements, model, lines[i], context);
     }
     elements.hand_out([&](std::size_t index, int thickness) { model.shells[index].thickness = thickness; });
     if (keyword < lines.size())
-        tell_block_end("ELEMENT PROPERTY", lines, block.end, run);
+        report_block_end("ELEMENT PROPERTY", lines, block.end, context);
 }
 
-void append_surfaces_to_shells(SdReader& model, const reading& run)
+void append_surfaces_to_shells(SdReader& model, const reading& context)
 {
     model.shells.reserve(model.shells.size() + model.surfaces.size());
     for (const SdSurface& surface : model.surfaces) {
         SdShell& copy = model.shells.emplace_back(surface);
         for (int& joint : copy.node_ids)
-            joint = run.joints.position(joint);
+            joint = context.joints.position(joint);
     }
 }
 

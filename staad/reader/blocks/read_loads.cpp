@@ -1,8 +1,7 @@
-// LOAD: load cases, the texts of their definitions, and who carries them.
+// LOAD: load cases, the texts of their definitions, and the joints and members that carry them.
 
 #include "staad/model/sd_reader.h"
-#include "staad/reader/blocks/load_header.h"
-#include "staad/reader/blocks/noted_runs.h"
+#include "staad/reader/blocks/assignments.h"
 #include "staad/reader/findings.h"
 #include "staad/text/id_list.h"
 #include "staad/text/number.h"
@@ -13,6 +12,17 @@
 
 namespace STAAD {
 namespace {
+
+/// "LOAD 1 LOADTYPE Dead TITLE DL". A header of fewer words, such as "LOAD 1" or "LOAD 1 DEAD LOAD",
+/// names its case in another way.
+constexpr std::size_t words_of_full_load_header = 6;
+
+void append_word(std::string& text, std::string_view word)
+{
+    if (!text.empty())
+        text += ' ';
+    text += word;
+}
 
 /// The one block whose numbers are joints. Every other one, "ELEMENT LOAD" too, lists members.
 constexpr std::string_view joint_load = "JOINT LOAD";
@@ -27,32 +37,32 @@ bool is_understood(std::string_view block) noexcept
 LoadCase case_of_header(std::string_view line)
 {
     LoadCase header{std::string(line)};
-    if (detail::count_words(line) < detail::words_of_full_load_header) {
+    if (detail::count_words(line) < words_of_full_load_header) {
         const std::string_view number = detail::word_at(line, 1);
         header.id = chk_isdigit(number) ? detail::to_int(number) : 0;
     }
     return header;
 }
 
-/// Who carries which definition, gathered first and handed out at the end: every record's list then
+/// Which record carries which definition, gathered first and handed out at the end: every record's list then
 /// takes its memory once, and no more than it needs.
 class load_references {
 public:
     explicit load_references(const detail::number_lookup& numbers) : numbers_(numbers) {}
 
-    /// Notes that every record that `runs` name carries `definition`. False if they name none.
-    bool add(int definition, const std::vector<detail::id_run>& runs, detail::id_budget& budget)
+    /// Notes that every record of the list `ranges` carries `definition`. False if there is none.
+    bool add(int definition, const std::vector<detail::id_range>& ranges, detail::id_budget& budget)
     {
-        bool anyone = false;
-        for (const detail::id_run& ids : runs) {
+        bool found = false;
+        for (const detail::id_range& ids : ranges) {
             numbers_.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
                 budget.take_references(1);
                 count_one(entry.position);
-                anyone = true;
+                found = true;
             });
-            runs_.add(definition, ids);
+            ranges_.add(definition, ids);
         }
-        return anyone;
+        return found;
     }
 
     /// Appends the definitions to the lists. A pointer per record is all that is touched beside the
@@ -69,7 +79,7 @@ public:
             definitions.resize(before + counts_[i]);
             next[i] = definitions.data() + before;
         }
-        runs_.for_each([&](int definition, const detail::id_run& ids) {
+        ranges_.for_each([&](int definition, const detail::id_range& ids) {
             numbers_.for_each_in(ids.first, ids.last, [&](const detail::numbered_position& entry) {
                 *next[static_cast<std::size_t>(entry.position) - 1]++ = definition;
             });
@@ -87,14 +97,14 @@ private:
 
     const detail::number_lookup& numbers_;
     std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list where its end carries nothing
-    detail::noted_runs runs_;
+    detail::listed_values ranges_;
 };
 
 /// The load section, line by line.
 class load_section {
 public:
-    load_section(SdReader& model, detail::reading& run)
-        : model_(model), run_(run), joint_references_(run.joints), member_references_(run.members)
+    load_section(SdReader& model, detail::reading& context)
+        : model_(model), context_(context), joint_references_(context.joints), member_references_(context.members)
     {
     }
 
@@ -103,10 +113,10 @@ public:
         if (is_passed_over(line.text))
             return;
         if (read_line_of_section(line))
-            run_.used.mark(index);
+            context_.used.mark(index);
     }
 
-    /// Once all lines are read: the definitions to those who carry them.
+    /// Once all lines are read: the definitions to the records that carry them.
     void hand_out_references()
     {
         joint_references_.hand_out(model_.nodes, &SdNode::extra_ids);
@@ -137,7 +147,7 @@ private:
     {
         LoadCase header = case_of_header(line.text);
         current_case_ = header.id;
-        if (run_.findings.listening())
+        if (context_.findings.listening())
             check_case(header, line);
         model_.load_cases[current_case_] = std::move(header);
     }
@@ -145,12 +155,12 @@ private:
     void check_case(const LoadCase& header, const detail::text_line& line)
     {
         if (header.id < 1)
-            run_.findings.add(FindingCode::load_number, line.place, [&] {
+            context_.findings.add(FindingCode::load_number, line.place, [&] {
                 return detail::quote(line.text) + " has no number; what follows belongs to load case " +
                        std::to_string(header.id);
             });
         if (model_.load_cases.count(header.id) != 0)
-            run_.findings.add(FindingCode::load_again, line.place, [&] {
+            context_.findings.add(FindingCode::load_again, line.place, [&] {
                 return "load case " + std::to_string(header.id) + " was there before; " + detail::quote(line.text) +
                        " takes the place of its header, loads of both stay";
             });
@@ -162,11 +172,11 @@ private:
         if (block_ == joint_load || is_understood(block_))
             return;
         if (detail::trim_blanks(block_) == joint_load)
-            run_.findings.add(FindingCode::keyword_near, line.place, [&] {
+            context_.findings.add(FindingCode::keyword_near, line.place, [&] {
                 return "'" + std::string(block_) + "' is not 'JOINT LOAD': its numbers are taken for members";
             });
         else
-            run_.findings.add(FindingCode::load_block, line.place, [&] {
+            context_.findings.add(FindingCode::load_block, line.place, [&] {
                 return detail::quote(block_) +
                        " is not understood: its loads are kept as text, their numbers taken for members";
             });
@@ -180,21 +190,21 @@ private:
         for (int i = 0; i < 4; ++i) // SELFWEIGHT, direction, factor, LIST
             words.next_or_empty();
         detail::id_list_walker walker(words, detail::general_id_list);
-        collect_runs(walker);
-        detail::word_cursor behind = walker.after_list();
-        detail::tell_list_stopped(behind.next_or_empty(), line, run_);
+        collect_ranges(walker);
+        detail::word_cursor after = walker.after_list();
+        detail::report_list_stopped(after.next_or_empty(), line, context_);
         attach(member_references_, line);
     }
 
     /// "1 TO 10 UNI GY -5" under the current block. False if the line is none: no list in front, or a
-    /// single word behind it.
+    /// single word after it.
     bool read_definition(const detail::text_line& line)
     {
         detail::id_list_walker walker(detail::word_cursor(line.text), detail::general_id_list);
-        if (!collect_runs(walker))
+        if (!collect_ranges(walker))
             return false;
         const std::string_view load = walker.after_list().rest();
-        detail::tell_list_word(detail::word_at(load, 0), line, run_);
+        detail::report_list_word(detail::word_at(load, 0), line, context_);
         if (detail::count_words(load) == 1)
             return false;
         add_definition(text_of_definition(load), line);
@@ -212,41 +222,56 @@ private:
 
     void add_definition(std::string text, const detail::text_line& line)
     {
-        run_.start_list(line.place);
-        run_.budget.take_text(text.size());
+        context_.start_list(line.place);
+        context_.budget.take_text(text.size());
         ++counter_;
         model_.raw_load_defs.insert_or_assign(model_.raw_load_defs.end(), counter_,
                                               LoadDef_raw{std::move(text), current_case_});
     }
 
-    bool collect_runs(detail::id_list_walker<>& walker)
+    bool collect_ranges(detail::id_list_walker<>& walker)
     {
-        runs_.clear();
-        for (detail::id_run ids; walker.next(ids);)
-            runs_.push_back(ids);
-        return !runs_.empty();
+        ranges_.clear();
+        for (detail::id_range ids; walker.next(ids);)
+            ranges_.push_back(ids);
+        return !ranges_.empty();
     }
 
-    /// The last definition goes to whom the runs at hand name.
+    /// The last definition goes to the records of the list at hand.
     void attach(load_references& references, const detail::text_line& line)
     {
-        if (!references.add(counter_, runs_, run_.budget) && !runs_.empty())
-            detail::tell_nobody("load", line, run_);
+        if (!references.add(counter_, ranges_, context_.budget) && !ranges_.empty())
+            detail::report_no_effect("load", line, context_);
     }
 
     SdReader& model_;
-    detail::reading& run_;
+    detail::reading& context_;
     load_references joint_references_;
     load_references member_references_;
     int current_case_ = 1;
-    std::string_view block_;           // the last line whose last word is LOAD
-    int counter_ = 0;                  // of definitions
-    std::vector<detail::id_run> runs_; // of the line at hand; kept for its memory
+    std::string_view block_;               // the last line whose last word is LOAD
+    int counter_ = 0;                      // of definitions
+    std::vector<detail::id_range> ranges_; // of the line at hand; kept for its memory
 };
 
 } // namespace
 
-void SdReader::read_load(const detail::line_list& lines, detail::reading& run)
+LoadCase::LoadCase(const std::string& line)
+{
+    if (detail::count_words(line) < words_of_full_load_header)
+        return;
+    detail::word_cursor words(line);
+    words.next_or_empty(); // LOAD
+    id = detail::to_int(words.next_or_empty());
+    if (words.next_or_empty() != "LOADTYPE")
+        return;
+    std::string_view word;
+    while (words.next(word) && word != "TITLE")
+        append_word(type_text, word);
+    title = detail::join_words(words);
+}
+
+void SdReader::read_load(const detail::line_list& lines, detail::reading& context)
 {
     const std::size_t begin = lines.find_start("LOAD");
     if (begin == lines.size())
@@ -254,7 +279,7 @@ void SdReader::read_load(const detail::line_list& lines, detail::reading& run)
     // Combinations are not read. Without them the last line of the text, in a whole file FINISH, is
     // not looked at either.
     const std::size_t end = std::min(lines.find_start("LOAD COMB", begin), lines.size() - 1);
-    load_section section(*this, run);
+    load_section section(*this, context);
     for (std::size_t i = begin; i < end; ++i)
         section.read_line(lines[i], i);
     section.hand_out_references();

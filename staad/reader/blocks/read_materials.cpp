@@ -1,6 +1,6 @@
-#include "staad/reader/blocks/read_materials.h"
+#include "staad/reader/blocks/blocks.h"
 
-#include "staad/reader/blocks/named_records.h"
+#include "staad/reader/blocks/assignments.h"
 #include "staad/text/words.h"
 
 #include <cstddef>
@@ -10,13 +10,16 @@
 namespace STAAD::detail {
 namespace {
 
-/// Material names and whom they go to. A number belongs to the member that has it, else to the element
+/// Material names and the records that they go to. A number belongs to the member that has it, else to the element
 /// that has it.
 class material_assignments {
 public:
-    explicit material_assignments(reading& run) : run_(run), members_(run.members), elements_(run.elements) {}
+    explicit material_assignments(reading& context)
+        : context_(context), members_(context.members), elements_(context.elements)
+    {
+    }
 
-    /// Everyone takes the name, whatever came before.
+    /// Every record takes the name, whatever came before.
     void add_all(std::string_view name, line_place place)
     {
         members_.clear();
@@ -27,8 +30,8 @@ public:
 
     void add_name(std::string_view name, line_place place) { names_.push_back({std::string(name), place}); }
 
-    /// The last name goes to the run; false if the run names nobody.
-    bool add(const id_run& ids)
+    /// The last name goes to the records of the range; false if there are none.
+    bool add(const id_range& ids)
     {
         const int value = static_cast<int>(names_.size()) - 1;
         const bool names_member = members_.add(value, ids);
@@ -46,7 +49,7 @@ public:
         members_.hand_out(
             [&](std::size_t index, int value) { give(model.beams[index].material, static_cast<std::size_t>(value)); });
         elements_.hand_out([&](std::size_t index, int value) {
-            if (run_.members.position(model.shells[index].id) == 0)
+            if (context_.members.position(model.shells[index].id) == 0)
                 give(model.shells[index].material, static_cast<std::size_t>(value));
         });
     }
@@ -59,12 +62,12 @@ private:
 
     void give(std::string& material, std::size_t name)
     {
-        run_.start_list(names_[name].place);
-        run_.budget.take_text(names_[name].text.size());
+        context_.start_list(names_[name].place);
+        context_.budget.take_text(names_[name].text.size());
         material = names_[name].text;
     }
 
-    reading& run_;
+    reading& context_;
     last_assignments members_;
     last_assignments elements_;
     std::vector<material_name> names_;
@@ -83,27 +86,27 @@ word_cursor list_of_material_line(std::string_view line)
 
 } // namespace
 
-void assign_materials(SdReader& model, const line_list& lines, reading& run)
+void assign_materials(SdReader& model, const line_list& lines, reading& context)
 {
-    material_assignments materials(run);
+    material_assignments materials(context);
     for (const std::size_t i : lines.commands()) {
         const std::string_view line = lines[i].text;
         if (!starts_with(line, "MATERIAL"))
             continue;
-        run.used.mark(i);
+        context.used.mark(i);
         const std::string_view name = word_at(line, 1);
         if (word_at(line, 2) == "ALL") {
             materials.add_all(name, lines[i].place);
             continue;
         }
         materials.add_name(name, lines[i].place);
-        const list_end list = walk_list(list_of_material_line(line), general_id_list, [&](const id_run& ids) {
+        const list_end list = walk_list(list_of_material_line(line), general_id_list, [&](const id_range& ids) {
             const bool found = materials.add(ids);
             if (!found && !ids.is_range)
                 model.shell_index.emplace(ids.first, 0); // a number that nothing has
             return found;
         });
-        check_list_end("material", list, list.stopped_at.empty(), lines[i], run);
+        check_list_end("material", list, list.stopped_at.empty(), lines[i], context);
     }
     materials.hand_out(model);
 }

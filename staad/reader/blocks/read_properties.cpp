@@ -1,6 +1,7 @@
-#include "staad/reader/blocks/read_properties.h"
+#include "staad/reader/blocks/blocks.h"
 
-#include "staad/reader/blocks/named_records.h"
+#include "staad/model/section.h"
+#include "staad/reader/blocks/assignments.h"
 #include "staad/text/number.h"
 #include "staad/text/number_text.h"
 #include "staad/text/words.h"
@@ -9,12 +10,16 @@
 #include <utility>
 #include <vector>
 
-namespace STAAD::detail {
+namespace STAAD {
+namespace detail {
 namespace {
 
 constexpr std::string_view property_keyword = "MEMBER PROPERTY";
 constexpr const char* default_code = "CHINESE";
 constexpr const char* property_material = "STEEL";
+
+/// What the property text of a Section of each type begins with.
+constexpr const char* section_types[] = {"ST", "TAPERED", "PRIS"};
 
 /// Words at the end of a property line that are never taken for members.
 constexpr std::size_t words_never_members = 3;
@@ -71,8 +76,8 @@ std::string_view code_of(std::string_view line) noexcept
 /// The sections of a text and the members they go to.
 class section_assignments {
 public:
-    section_assignments(const line_list& lines, double length_factor, reading& run)
-        : lines_(lines), length_factor_(length_factor), run_(run), members_(run.members)
+    section_assignments(const line_list& lines, double length_factor, reading& context)
+        : lines_(lines), length_factor_(length_factor), context_(context), members_(context.members)
     {
     }
 
@@ -85,13 +90,13 @@ public:
         property_text property = property_of_line(line.text, length_factor_);
         if (property.name.empty())
             return;
-        run_.used.mark(index);
+        context_.used.mark(index);
         const list_end end =
             assign_to_list(members_, static_cast<int>(properties_.size()),
                            word_cursor(without_last_words(line.text, words_never_members)), [&](int number) {
-                               tell_unknown(FindingCode::member_unknown, "member", number, line, run_);
+                               report_unknown_number(FindingCode::member_unknown, "member", number, line, context_);
                            });
-        check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, run_);
+        check_list_end("section", end, end.stopped_at.data() >= property.name.data(), line, context_);
         properties_.push_back({std::move(property), codes_.size() - 1, line.place});
     }
 
@@ -99,10 +104,10 @@ public:
     {
         members_.hand_out([&](std::size_t index, int value) {
             const assigned_property& assigned = properties_[static_cast<std::size_t>(value)];
-            run_.start_list(assigned.place);
+            context_.start_list(assigned.place);
             for (const std::size_t size :
                  {assigned.property.text.size(), assigned.property.name.size(), codes_[assigned.code].size()})
-                run_.budget.take_text(size);
+                context_.budget.take_text(size);
             SdBeam& member = members[index];
             member.material = property_material;
             member.sect_text = assigned.property.text;
@@ -120,7 +125,7 @@ private:
 
     const line_list& lines_;
     double length_factor_;
-    reading& run_;
+    reading& context_;
     last_assignments members_;
     std::vector<std::string> codes_{default_code};
     std::vector<assigned_property> properties_;
@@ -143,25 +148,40 @@ property_text property_of_line(std::string_view line, double length_factor)
     return {};
 }
 
-void read_member_properties(SdReader& model, const line_list& lines, std::size_t from, reading& run)
+void read_member_properties(SdReader& model, const line_list& lines, std::size_t from, reading& context)
 {
     const std::size_t start = lines.find_start(property_keyword, from);
     std::size_t end = lines.find_equal("CONSTANTS", from);
     if (end < start)
         end = lines.size();
-    section_assignments sections(lines, model.length_factor, run);
+    section_assignments sections(lines, model.length_factor, context);
     for (std::size_t i = start; i < end; ++i) {
         const std::string_view line = lines[i].text;
         if (contains(line, property_keyword)) {
             sections.set_code(code_of(line));
-            run.used.mark(i);
+            context.used.mark(i);
         } else if (count_words(line) > words_never_members) {
             sections.add_line(i);
         }
     }
     sections.hand_out(model.beams);
     if (start < lines.size())
-        run.used.mark(lines.find_equal("CONSTANTS", from));
+        context.used.mark(lines.find_equal("CONSTANTS", from));
 }
 
-} // namespace STAAD::detail
+} // namespace detail
+
+Section::Section(std::string material_name, std::string property_text)
+    : material(std::move(material_name)), property(std::move(property_text))
+{
+    for (char& c : property)
+        c = detail::to_upper_ascii(c);
+    for (const char* const candidate : detail::section_types) {
+        if (detail::starts_with(property, candidate)) {
+            type = candidate;
+            return;
+        }
+    }
+}
+
+} // namespace STAAD

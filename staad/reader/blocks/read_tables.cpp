@@ -15,12 +15,12 @@
 namespace STAAD {
 namespace {
 
-// A table without a UNIT line gets these. The "00" is what tells it from one that says so itself; no
+// A table without a UNIT line gets these. The "00" is what distinguishes it from one that says so itself; no
 // family has such a word, so the look-up answers UnknownSection for it.
 constexpr const char* unit_of_bare_table = "00UNIT METER KN";
 constexpr const char* type_of_bare_table = "00WIDE FLANGE";
 
-/// Reads the UNIT line and the family line behind a TABLE line. Gives the last line it took.
+/// Reads the UNIT line and the family line after a TABLE line. Gives the last line it took.
 std::size_t read_table_head(SdUserSectionTable& table, const detail::line_list& lines, std::size_t line,
                             std::size_t end)
 {
@@ -46,13 +46,13 @@ UsrDefineSectionType family_of(const std::string& word)
 
 } // namespace
 
-void SdReader::read_user_table(const detail::line_list& lines, detail::reading& run)
+void SdReader::read_user_table(const detail::line_list& lines, detail::reading& context)
 {
     const std::size_t start = lines.find_equal("START USER TABLE");
     const std::size_t end = lines.find_equal("END", start + 1);
-    run.used.mark(start, end + 1);
+    context.used.mark(start, end + 1);
     if (end == lines.size())
-        detail::tell_block_open(lines, start, "END", run);
+        detail::report_block_open(lines, start, "END", context);
     int number = 1;
     for (std::size_t i = start + 1; i < end; ++i) {
         const std::string_view line = lines[i].text;

@@ -1,4 +1,4 @@
-#include "staad/reader/blocks/last_assignments.h"
+#include "staad/reader/blocks/assignments.h"
 
 #include <gtest/gtest.h>
 
@@ -9,26 +9,26 @@
 
 namespace {
 
-using STAAD::detail::id_run;
+using STAAD::detail::id_range;
 using STAAD::detail::last_assignments;
-using STAAD::detail::noted_runs;
+using STAAD::detail::listed_values;
 using STAAD::detail::number_lookup;
 using STAAD::detail::numbered_position;
 using STAAD::detail::same_number;
 
-using valued_run = std::pair<int, id_run>;
+using valued_run = std::pair<int, id_range>;
 
-std::vector<std::vector<int>> forwards(const noted_runs& runs)
+std::vector<std::vector<int>> forwards(const listed_values& runs)
 {
     std::vector<std::vector<int>> seen;
-    runs.for_each([&](int value, const id_run& run) { seen.push_back({value, run.first, run.last, run.is_range}); });
+    runs.for_each([&](int value, const id_range& run) { seen.push_back({value, run.first, run.last, run.is_range}); });
     return seen;
 }
 
-std::vector<std::vector<int>> backwards(const noted_runs& runs)
+std::vector<std::vector<int>> backwards(const listed_values& runs)
 {
     std::vector<std::vector<int>> seen;
-    runs.for_each_backwards([&](int value, const id_run& run) {
+    runs.for_each_backwards([&](int value, const id_range& run) {
         seen.push_back({value, run.first, run.last, run.is_range});
     });
     return seen;
@@ -36,7 +36,7 @@ std::vector<std::vector<int>> backwards(const noted_runs& runs)
 
 TEST(NotedRuns, ComeBackInBothDirections)
 {
-    noted_runs runs;
+    listed_values runs;
     EXPECT_TRUE(forwards(runs).empty());
     EXPECT_TRUE(backwards(runs).empty());
     runs.add(7, {1, 1, false});

@@ -157,7 +157,7 @@ TEST(IdList, HasARuleOfItsOwnForGroupsAndForSurfaces)
 TEST(IdListWalker, GivesRunsWithoutCountingThemOut)
 {
     detail::id_list_walker<> walker(detail::word_cursor("5 1 TO 2000000000 FIXED"), detail::general_id_list);
-    detail::id_run run;
+    detail::id_range run;
     ASSERT_TRUE(walker.next(run));
     EXPECT_EQ(run.first, 5);
     EXPECT_EQ(run.last, 5);
@@ -186,7 +186,7 @@ TEST(IdListWalker, LeavesTheWordsBehindTheList)
     };
     for (const row& c : rows) {
         detail::id_list_walker<> walker(detail::word_cursor(c.text), detail::general_id_list);
-        for (detail::id_run run; walker.next(run);) {
+        for (detail::id_range run; walker.next(run);) {
         }
         EXPECT_EQ(detail::join_words(walker.after_list()), c.behind) << c.text;
     }

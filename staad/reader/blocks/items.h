@@ -1,8 +1,9 @@
-/// Blocks of ";"-separated items: one walk for joints, members, elements and surfaces.
-#ifndef STAAD_READER_BLOCKS_READ_ITEMS_H
-#define STAAD_READER_BLOCKS_READ_ITEMS_H
+/// Blocks of ";"-separated items, joints, members, elements and surfaces: one record from one item, and the
+/// walk over all of them.
+#ifndef STAAD_READER_BLOCKS_ITEMS_H
+#define STAAD_READER_BLOCKS_ITEMS_H
 
-#include "staad/reader/blocks/geometry_items.h"
+#include "staad/model/geometry.h"
 #include "staad/reader/reading.h"
 #include "staad/text/lines.h"
 #include "staad/text/words.h"
@@ -12,6 +13,14 @@
 #include <vector>
 
 namespace STAAD::detail {
+
+// Each sets the fields that the item carries on a fresh record, as the record's constructor does, and
+// gives the number of words, so that the caller can report an item that is too short.
+
+std::size_t read_item(std::string_view item, SdNode& node);
+std::size_t read_item(std::string_view item, SdBeam& member);
+std::size_t read_item(std::string_view item, SdShell& element);
+std::size_t read_item(std::string_view item, SdSurface& surface);
 
 /// Lines of a list, `end` not included.
 struct line_range {
@@ -52,7 +61,7 @@ struct item_kind {
     std::size_t fewest_words;
 };
 
-/// Tells of an item that lacks words, and of one whose number is none.
+/// Reports an item that lacks words, and one whose number is below 1.
 void check_item(std::string_view item, std::size_t words, int number, const item_kind& kind, line_place place,
                 finding_sink& findings);
 
@@ -66,7 +75,7 @@ inline bool no_line(std::string_view) noexcept
 /// Lines for which `is_skipped` holds build nothing.
 template<class Record, class Skip, class Finish>
 void read_items(std::vector<Record>& records, const line_list& lines, line_range block, const item_kind& kind,
-                reading& run, Skip is_skipped, Finish finish)
+                reading& context, Skip is_skipped, Finish finish)
 {
     std::size_t count = records.size();
     for (std::size_t i = block.begin; i < block.end; ++i)
@@ -74,15 +83,15 @@ void read_items(std::vector<Record>& records, const line_list& lines, line_range
     records.reserve(count); // exactly: members are large, and doubling would cost a second model
 
     for (std::size_t i = block.begin; i < block.end; ++i) {
-        run.used.mark(i);
+        context.used.mark(i);
         if (is_skipped(lines[i].text))
             continue;
         word_cursor items(lines[i].text, ";");
         for (std::string_view item; next_item(items, item);) {
             Record& record = records.emplace_back();
             const std::size_t words = read_item(item, record);
-            if (run.findings.listening())
-                check_item(item, words, record.id, kind, lines[i].place, run.findings);
+            if (context.findings.listening())
+                check_item(item, words, record.id, kind, lines[i].place, context.findings);
             finish(record, lines[i].place);
         }
     }
