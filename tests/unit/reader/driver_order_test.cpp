@@ -2,13 +2,12 @@
 /// the blocks in the file does not matter, except where a block is searched from a certain line on.
 
 #include "staad/model/sd_reader.h"
-#include "staad/report/read_limit.h"
 #include "tests/support/deck.h"
+#include "tests/support/model_equal.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -164,109 +163,54 @@ TEST(DriverOrder, LaterMaterialLinesWin)
     EXPECT_EQ(decks::member(model, 2).material, "C");
 }
 
-/// Names of the steps that left all of their work in the model.
-std::set<std::string> steps_done(const SdReader& model)
-{
-    std::set<std::string> done;
-    const auto note = [&done](bool finished, const char* step) {
-        if (finished)
-            done.insert(step);
-    };
-    note(!model.usr_tables.empty(), "tables");
-    note(!model.beams.empty(), "members");
-    note(!model.groups.empty() && model.groups[0].ids.size() == 2, "groups");
-    note(model.concrete_density == 20.0, "density");
-    note(model.brace_ids.size() == 2, "braces");
-    note(!model.shells.empty(), "elements");
-    note(!model.shells.empty() && model.shells[0].thickness == 200, "thicknesses");
-    note(!model.surfaces.empty(), "surfaces");
-    note(model.shells.size() == 2, "copies");
-    note(!model.beams.empty() && model.beams[0].sect_text == "TABLE ST A", "properties");
-    note(!model.beams.empty() && model.beams[0].beta == 90.0, "beta");
-    note(!model.beams.empty() && model.beams[0].material == "M", "materials");
-    note(!model.supports.empty() && model.supports.begin()->second.size() == 2, "supports");
-    note(!model.releases.empty() && model.releases.begin()->second.size() == 2, "releases");
-    note(!model.beams.empty() && model.beams[0].offset_start.y == 100.0, "offsets");
-    note(!model.load_cases.empty(), "loads");
-    return done;
-}
+/// Every block, each of one line or more, in the order in which they are taken.
+const std::vector<decks::lines> every_block = {
+    user_table,
+    {"START GROUP DEFINITION", "MEMBER", "_A 1 2", "END GROUP DEFINITION"},
+    {"DEFINE MATERIAL START", "ISOTROPIC CONCRETE", "LAMBDA 20", "END DEFINE MATERIAL"},
+    {"MEMBER TRUSS", "1 2"},
+    {"ELEMENT INCIDENCES SHELL", "1 1 2 3"},
+    {"ELEMENT PROPERTY", "1 THICKNESS 0.2"},
+    {"SURFACE INCIDENCE", "1 2 3 SUR 1"},
+    {"SURFACE PROPERTY", "1 THICKNESS 0.3"},
+    {"MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS"},
+    {"BETA 90 MEMB 1"},
+    {"MATERIAL M MEMB 1"},
+    {"SUPPORTS", "1 2 FIXED"},
+    {"MEMBER RELEASE", "1 2 START MZ"},
+    {"MEMBER OFFSET", "1 START 0.1 0 0"},
+    {"LOAD 1", "SELFWEIGHT Y -1", "LOAD COMB 9"},
+};
 
-/// A text with every block, in the opposite of the order in which they are taken. `endless` names the block whose
-/// list asks for too much, which ends the reading there.
-std::string every_block(const std::string& endless)
+TEST(DriverOrder, IsNotThatOfTheFile)
 {
-    const auto list = [&endless](const char* block) {
-        return std::string(endless == block ? "1 TO 2000000000" : "1 2");
-    };
-    return decks::frame_deck({
-        "LOAD 1",
-        "SELFWEIGHT Y -1",
-        "LOAD COMB 9",
-        "MEMBER OFFSET",
-        "1 START 0.1 0 0",
-        "MEMBER RELEASE",
-        list("releases") + " START MZ",
-        "SUPPORTS",
-        list("supports") + " FIXED",
-        "MATERIAL M MEMB 1",
-        "BETA 90 MEMB 1",
-        "MEMBER PROPERTY",
-        "1 TABLE ST A",
-        "SURFACE PROPERTY",
-        "1 THICKNESS 0.3",
-        "SURFACE INCIDENCE",
-        "1 2 3 SUR 1",
-        "ELEMENT INCIDENCES SHELL",
-        "1 1 2 3",
-        "ELEMENT PROPERTY",
-        "1 THICKNESS 0.2",
-        "MEMBER TRUSS",
-        list("braces"),
-        "DEFINE MATERIAL START",
-        "ISOTROPIC CONCRETE",
-        "LAMBDA 20",
-        "END DEFINE MATERIAL",
-        "START GROUP DEFINITION",
-        "MEMBER",
-        "_A " + list("groups"),
-        "END GROUP DEFINITION",
-        "START USER TABLE",
-        "TABLE 1",
-        "END",
-    });
-}
-
-TEST(DriverOrder, TakesEveryBlockWhateverTheOrderOfTheFile)
-{
-    EXPECT_EQ(steps_done(decks::read(every_block("none"))),
-              (std::set<std::string>{"tables", "members", "groups", "density", "braces", "elements", "thicknesses",
-                                     "surfaces", "copies", "properties", "beta", "materials", "supports", "releases",
-                                     "offsets", "loads"}));
-}
-
-/// A list past its limit ends a reading where it stands: what was done by then shows the order.
-TEST(DriverOrder, IsThatOfTheStepsNotThatOfTheFile)
-{
-    struct stop {
-        const char* endless;
-        std::set<std::string> done;
-    };
-    const stop stops[] = {
-        {"groups", {"tables", "members"}},
-        {"braces", {"tables", "members", "groups", "density"}},
-        {"supports",
-         {"tables", "members", "groups", "density", "braces", "elements", "thicknesses", "surfaces", "copies",
-          "properties", "beta", "materials"}},
-        {"releases",
-         {"tables", "members", "groups", "density", "braces", "elements", "thicknesses", "surfaces", "copies",
-          "properties", "beta", "materials", "supports"}},
-    };
-    for (const stop& one : stops) {
-        SdReader model;
-        EXPECT_THROW(model.ReadSDDataFromText(every_block(one.endless)), ReadLimitError) << one.endless;
-        EXPECT_EQ(steps_done(model), one.done) << "with an endless list in " << one.endless;
-        EXPECT_TRUE(model.ReadSDDataFromText(every_block("none"))) << one.endless;
+    // Thicknesses are searched from the elements on; these two keep their order.
+    const auto elements = every_block.begin() + 4;
+    decks::lines forwards;
+    decks::lines backwards;
+    for (auto block = every_block.begin(); block != every_block.end(); ++block) {
+        forwards.insert(forwards.end(), block->begin(), block->end());
+        if (block != elements)
+            backwards.insert(backwards.begin(), block->begin(), block->end());
+        if (block == elements + 1)
+            backwards.insert(backwards.begin(), elements->begin(), elements->end());
     }
+    const SdReader model = decks::read_frame(forwards);
+    EXPECT_EQ(model_differences(decks::read_frame(backwards), model), std::vector<std::string>());
+    EXPECT_EQ(model.usr_tables.size(), 1U);
+    EXPECT_EQ(model.groups.at(0).ids.size(), 2U);
+    EXPECT_EQ(model.concrete_density, 20.0);
+    EXPECT_EQ(model.brace_ids.size(), 2U);
+    ASSERT_EQ(model.shells.size(), 2U) << "an element and the copy of a surface";
+    EXPECT_EQ(model.shells[0].thickness, 200);
+    EXPECT_EQ(model.shells[1].thickness, 300);
+    EXPECT_EQ(model.beams.at(0).sect_text, "TABLE ST A");
+    EXPECT_EQ(model.beams.at(0).beta, 90.0);
+    EXPECT_EQ(model.beams.at(0).material, "M") << "after the section, which gives STEEL";
+    EXPECT_EQ(model.beams.at(0).offset_start.y, 100.0);
+    EXPECT_EQ(model.supports.at("FIXED").size(), 2U);
+    EXPECT_EQ(model.releases.at("START MZ").size(), 2U);
+    EXPECT_EQ(model.load_cases.size(), 1U);
 }
 
 } // namespace

@@ -1,11 +1,13 @@
 /// Numbers of random texts against the C library, which reads them the same way in the "C" locale.
 
 #include "staad/text/number.h"
+#include "tests/support/random_text.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <bit>
+#include <climits>
 #include <clocale>
 #include <cmath>
 #include <cstdint>
@@ -14,68 +16,47 @@
 #include <limits>
 #include <random>
 #include <string>
-#include <utility>
 
 namespace STAAD::detail {
 namespace {
 
-class random_text {
-public:
-    explicit random_text(unsigned seed) : engine_(seed) {}
-
-    int from_to(int first, int last) { return std::uniform_int_distribution<int>(first, last)(engine_); }
-
-    std::string digits(int count)
-    {
-        std::string text;
-        for (int i = 0; i < count; ++i)
-            text.push_back(static_cast<char>('0' + from_to(0, 9)));
-        return text;
-    }
-
-    std::string sign()
-    {
-        static constexpr const char* signs[] = {"", "", "-", "+"};
-        return signs[from_to(0, 3)];
-    }
-
-    /// Sign, digits, perhaps a point and an exponent: at least one digit.
-    std::string real()
-    {
-        const int most_digits = from_to(0, 20) == 0 ? 400 : 20;
-        std::string text = sign() + digits(from_to(1, most_digits));
-        if (from_to(0, 2) != 0)
-            text.insert(static_cast<std::size_t>(from_to(0, static_cast<int>(text.size()))), ".");
-        // A point before the sign would read as no number at all.
-        if (text[0] == '.' && (text[1] == '-' || text[1] == '+'))
-            std::swap(text[0], text[1]);
-        if (from_to(0, 1) == 0)
-            text += (from_to(0, 1) == 0 ? "e" : "E") + sign() + std::to_string(from_to(0, 345));
-        return text;
-    }
-
-private:
-    std::mt19937 engine_;
-};
-
-/// The C library's answer, overflow clipped.
-double reference(const std::string& text)
+std::uint64_t bits(double value)
 {
-    const double value = std::strtod(text.c_str(), nullptr);
-    return std::isinf(value) ? std::copysign(std::numeric_limits<double>::max(), value) : value;
+    return std::bit_cast<std::uint64_t>(value);
 }
 
-TEST(ToReal, AgreesWithTheCLibraryOnPlainDecimals)
+/// Nothing of these makes a number hexadecimal, infinite or no number.
+std::string random_characters(decks::chance& random)
+{
+    constexpr char characters[] = " \t+-..eE0123456789012345678901234567890123456789,";
+    std::string text;
+    for (int left = random.one_in(20) ? random.between(300, 400) : random.between(0, 14); left > 0; --left)
+        text += characters[random.between(0, static_cast<int>(sizeof characters) - 2)];
+    return text;
+}
+
+TEST(ParseNumber, ReadsWhatTheCLibraryReadsAndAsFar)
 {
     ASSERT_STREQ(std::localeconv()->decimal_point, ".");
-    random_text random(20260217);
-    for (int i = 0; i < 200000; ++i) {
-        const std::string text = random.real();
-        ASSERT_EQ(std::bit_cast<std::uint64_t>(to_real(text)), std::bit_cast<std::uint64_t>(reference(text))) << text;
+    decks::chance random(20260217);
+    for (int i = 0; i < 400000; ++i) {
+        const std::string text = random_characters(random);
+        char* end = nullptr;
+        const double want = std::strtod(text.c_str(), &end);
+        const number_parse<double> real = parse_real(text);
+        constexpr double largest = std::numeric_limits<double>::max();
+        ASSERT_EQ(bits(real.value), bits(std::isinf(want) ? std::copysign(largest, want) : want)) << text;
+        ASSERT_EQ(real.size, static_cast<std::size_t>(end - text.c_str())) << text;
+        ASSERT_TRUE(real.fits || std::isinf(want) || std::abs(want) < 1e-307) << text;
+        const long long whole = std::strtoll(text.c_str(), &end, 10);
+        const number_parse<int> parsed = parse_int(text);
+        ASSERT_EQ(parsed.value, std::clamp<long long>(whole, INT_MIN, INT_MAX)) << text;
+        ASSERT_EQ(parsed.size, static_cast<std::size_t>(end - text.c_str())) << text;
+        ASSERT_EQ(parsed.fits, parsed.value == whole) << text;
     }
 }
 
-TEST(ToReal, ReadsBackEveryDoubleWrittenWithSeventeenDigits)
+TEST(ParseNumber, ReadsBackEveryDoubleWrittenWithSeventeenDigits)
 {
     std::mt19937_64 engine(7);
     for (int i = 0; i < 100000; ++i) {
@@ -84,19 +65,7 @@ TEST(ToReal, ReadsBackEveryDoubleWrittenWithSeventeenDigits)
             continue;
         char text[40];
         std::snprintf(text, sizeof text, "%.17g", value);
-        ASSERT_EQ(std::bit_cast<std::uint64_t>(to_real(text)), std::bit_cast<std::uint64_t>(value)) << text;
-    }
-}
-
-TEST(ToInt, AgreesWithTheCLibraryOnDecimalDigits)
-{
-    random_text random(42);
-    for (int i = 0; i < 100000; ++i) {
-        const std::string text = random.sign() + random.digits(random.from_to(1, 12)) + " ";
-        const long long value = std::strtoll(text.c_str(), nullptr, 10);
-        const long long clipped = std::min<long long>(std::max<long long>(value, std::numeric_limits<int>::min()),
-                                                      std::numeric_limits<int>::max());
-        ASSERT_EQ(to_int(text), clipped) << text;
+        ASSERT_EQ(bits(to_real(text)), bits(value)) << text;
     }
 }
 

@@ -33,36 +33,21 @@ struct int_row {
 };
 
 const int_row ints[] = {
-    {"a number", "12", 12},
     {"nothing", "", 0},
     {"no digits", "TO", 0},
-    {"white space only", "  ", 0},
     {"every kind of leading white space", " \t\n\v\f\r7", 7},
-    {"a plus sign", "+5", 5},
-    {"a minus sign", "-5", -5},
-    {"a sign after white space", "  -5", -5},
     {"a blank after the sign ends it", "- 5", 0},
     {"two signs", "+-5", 0},
-    {"two minus signs", "--5", 0},
     {"a sign alone", "-", 0},
-    {"leading zeros", "007", 7},
     {"more zeros than any number has digits", std::string(400, '0') + "7", 7},
-    {"minus zero", "-0", 0},
-    {"the point ends it", "3.7", 3},
-    {"a leading point", ".5", 0},
     {"no exponents", "1e3", 1},
     {"no hexadecimal", "0x10", 0},
-    {"letters behind are ignored", "12abc", 12},
-    {"a separator behind is ignored", "12;13", 12},
-    {"no digit groups", "1,000", 1},
     {"a zero byte ends it", "12\0"s + "34", 12},
     {"a leading zero byte is no white space", "\0"s + "12", 0},
     {"other control characters are no white space", "\x08" + "5"s, 0},
     {"no white space in other code pages", "\xA0" + "5"s, 0},
     {"largest number", "2147483647", INT_MAX},
-    {"one more saturates", "2147483648", INT_MAX},
     {"smallest number", "-2147483648", INT_MIN},
-    {"one less saturates", "-2147483649", INT_MIN},
     {"past 32 bits without a sign bit", "4294967297", INT_MAX},
     {"past 64 bits", "99999999999999999999", INT_MAX},
     {"past 64 bits below", "-99999999999999999999", INT_MIN},
@@ -89,28 +74,15 @@ struct real_row {
 };
 
 const real_row reals[] = {
-    {"an integer", "12", 12.0},
-    {"a fraction", "0.1999", 0.1999},
-    {"nothing", "", 0.0},
     {"no digits", "KN", 0.0},
-    {"white space only", " \t", 0.0},
     {"every kind of leading white space", " \t\n\v\f\r7.5", 7.5},
-    {"a plus sign", "+5", 5.0},
-    {"a minus sign", "-2.5", -2.5},
     {"a blank after the sign ends it", "- 5", 0.0},
-    {"two signs", "+-5", 0.0},
-    {"minus and plus", "-+5", 0.0},
-    {"a sign alone gives no sign", "-", 0.0},
     {"a sign and a point alone", "-.", 0.0},
     {"minus zero keeps its sign", "-0", -0.0},
-    {"so does a longer one", "-0.000", -0.0},
     {"no digits behind the point", "1.", 1.0},
     {"no digits before the point", ".5", 0.5},
     {"with a sign", "-.5", -0.5},
-    {"with a plus sign", "+.5", 0.5},
     {"a point alone", ".", 0.0},
-    {"a second point ends it", "1.2.3", 1.2},
-    {"leading zeros", "0001.50", 1.5},
     {"no decimal comma", "1,5", 1.0},
     {"letters behind are ignored", "2.5kN", 2.5},
     {"a zero byte ends it", "1.5\0"s + "7", 1.5},
@@ -118,30 +90,18 @@ const real_row reals[] = {
     {"no white space in other code pages", "\xA0" + "5"s, 0.0},
 
     {"an exponent", "1.5E3", 1500.0},
-    {"a small e", "1.5e3", 1500.0},
-    {"a negative one", "25e-1", 2.5},
-    {"with a plus", "1e+2", 100.0},
     {"right behind the point", "1.e2", 100.0},
-    {"with nothing before the point", ".5e1", 5.0},
-    {"leading zeros in it", "1e0002", 100.0},
     {"an e without digits", "1e", 1.0},
     {"an e with a sign only", "1e+", 1.0},
-    {"an e with a minus only", "1.5e-", 1.5},
     {"an e with two signs", "1e+-2", 1.0},
-    {"a blank before its digits", "1e 5", 1.0},
-    {"letters behind it", "1e5x", 100000.0},
     {"its own point ends it", "1e2.5", 100.0},
-    {"a second one ends it", "1e2e3", 100.0},
     {"no digits before the e", "e5", 0.0},
-    {"only a point before the e", ".e5", 0.0},
     {"no D exponents", "1D5", 1.0},
-    {"no small d exponents", "1d5", 1.0},
 
     {"no hexadecimal", "0x10", 0.0},
     {"no signed hexadecimal", "-0x1p4", -0.0},
     {"no infinity", "inf", 0.0},
     {"no negative infinity", "-inf", 0.0},
-    {"no spelt-out infinity", "INFINITY", 0.0},
     {"no NaN", "nan", 0.0},
     {"no NaN with a payload", "-nan(1)", 0.0},
 
@@ -193,6 +153,22 @@ TEST(ToReal, ReadsTheLeadingNumberToTheLastBit)
 {
     for (const real_row& c : reals)
         EXPECT_EQ(bits(to_real(c.text)), bits(c.want)) << c.why << ": " << to_real(c.text) << ", not " << c.want;
+}
+
+TEST(ParseNumber, SaysHowFarItReadAndWhetherItFitted)
+{
+    const number_parse<int> whole = parse_int(" -12;13");
+    EXPECT_EQ(whole.size, 4U) << "white space and sign among them";
+    EXPECT_TRUE(whole.is_number() && whole.fits);
+    EXPECT_FALSE(parse_int(" -;").is_number());
+    EXPECT_FALSE(parse_int("2147483648").fits);
+    EXPECT_EQ(parse_int("99999999999999999999 1").size, 20U) << "all digits, past 64 bits, too";
+    EXPECT_EQ(parse_real(" 1.5e3x").size, 6U);
+    EXPECT_EQ(parse_real("1.5e+").size, 3U) << "an e without digits is no part of it";
+    EXPECT_FALSE(parse_real("-.").is_number());
+    EXPECT_FALSE(parse_real("1e309").fits);
+    EXPECT_FALSE(parse_real("1e-400").fits) << "too small: 0";
+    EXPECT_TRUE(parse_real("0e-400").fits);
 }
 
 TEST(ToReal, ReadsNothingPastTheEndOfTheText)
