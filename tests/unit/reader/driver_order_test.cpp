@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -111,56 +110,6 @@ TEST(DriverOrder, ElementThicknessesComeBeforeTheCopiesOfSurfaces)
     ASSERT_EQ(model.shells.size(), 2U);
     EXPECT_EQ(model.shells[0].thickness, 200);
     EXPECT_EQ(model.shells[1].thickness, 300);
-}
-
-struct material_line {
-    const char* why;
-    const char* line;
-    std::vector<std::string> want; ///< of members 1, 2, 3 and elements 3, 7
-};
-
-TEST(DriverOrder, MaterialLinesNameMembersFirst)
-{
-    const material_line rows[] = {
-        {"members and elements", "MATERIAL M MEMB 1 7", {"M", "", "", "C1", "M"}},
-        {"a number of both is the member", "MATERIAL M MEMB 3", {"", "", "M", "C1", "C1"}},
-        {"a range", "MATERIAL M MEMB 2 TO 9", {"", "M", "M", "C1", "M"}},
-        {"unknown numbers are passed over", "MATERIAL M MEMB 99 1", {"M", "", "", "C1", "C1"}},
-        {"all", "MATERIAL M ALL", {"M", "M", "M", "M", "M"}},
-        {"a hyphen separates numbers, it makes no range", "MATERIAL M MEMB 1-3", {"M", "", "M", "C1", "C1"}},
-        {"without MEMB the first number is lost", "MATERIAL M 1 2 3", {"", "M", "M", "C1", "C1"}},
-        {"a hyphen in the name pushes MEMB into the list, which ends there",
-         "MATERIAL A-B MEMB 1 2",
-         {"", "", "", "C1", "C1"}},
-        {"without MEMB it makes up for the lost number", "MATERIAL A-B 1 2", {"A-B", "A-B", "", "C1", "C1"}},
-        {"a hyphen in the name and ALL", "MATERIAL A-B ALL", {"A-B", "A-B", "A-B", "A-B", "A-B"}},
-        {"the keyword is the beginning of a line, as a word or not", "MATERIALS M MEMB 1", {"M", "", "", "C1", "C1"}},
-        {"the very beginning", " MATERIAL M MEMB 1", {"", "", "", "C1", "C1"}},
-    };
-    for (const material_line& row : rows) {
-        const SdReader model =
-            decks::read_frame({"ELEMENT INCIDENCES SHELL", "3 1 2 3; 7 2 3 4", row.line}, {"UNIT METER KN", 3});
-        std::vector<std::string> found;
-        for (const SdBeam& member : model.beams)
-            found.push_back(member.material);
-        for (const SdShell& shell : model.shells)
-            found.push_back(shell.material);
-        EXPECT_EQ(found, row.want) << row.line << ": " << row.why;
-    }
-}
-
-TEST(DriverOrder, UnknownNumbersOfMaterialLinesEnterTheIndexUnlessInARange)
-{
-    const SdReader model = decks::read_frame({"MATERIAL M MEMB 99 1 TO 12 88", "MATERIAL M 77 2", "MATERIAL M ALL"});
-    EXPECT_EQ(model.shell_index, (std::map<int, int>{{88, 0}, {99, 0}}));
-    EXPECT_EQ(model.beam_index.size(), 5U);
-}
-
-TEST(DriverOrder, LaterMaterialLinesWin)
-{
-    const SdReader model = decks::read_frame({"MATERIAL A MEMB 1 TO 3", "MATERIAL B ALL", "MATERIAL C MEMB 2"});
-    EXPECT_EQ(decks::member(model, 1).material, "B");
-    EXPECT_EQ(decks::member(model, 2).material, "C");
 }
 
 /// Every block, each of one line or more, in the order in which they are taken.

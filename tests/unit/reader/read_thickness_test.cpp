@@ -108,7 +108,7 @@ TEST(ThicknessLines, AreNotReadWithoutAnElementBlock)
     EXPECT_TRUE(model.shell_index.empty());
 }
 
-TEST(ThicknessLines, AreLookedForBehindTheElementsOnly)
+TEST(ThicknessLines, AreLookedForAfterTheElementsOnly)
 {
     SdReader model;
     ASSERT_TRUE(model.ReadSDDataFromText("UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"
@@ -158,6 +158,7 @@ const material_row materials[] = {
     {"hyphens separate numbers", "MATERIAL STEEL MEMB 1-3", {"STEEL", "", "STEEL", ""}, only_c1, {}},
     {"and names: the list then begins at MEMB and ends there", "MATERIAL C-30 MEMB 1 2", no_names, only_c1, {}},
     {"without MEMB the first number is passed over", "MATERIAL STEEL 1 2 3", {"", "STEEL", "STEEL", ""}, only_c1, {}},
+    {"a hyphen in the name makes up for MEMB", "MATERIAL A-B 1 2", {"A-B", "A-B", "", ""}, only_c1, {}},
     {"a name with a hyphen and ALL", "MATERIAL C-30 ALL", texts(4, "C-30"), texts(6, "C-30"), {}},
     {"no list", "MATERIAL STEEL MEMB", no_names, only_c1, {}},
     {"only a name", "MATERIAL STEEL", no_names, only_c1, {}},
