@@ -30,9 +30,9 @@ TEST(DriverOrder, AUnitLineOfAUserTableGovernsIfItIsTheFirst)
     const SdReader before = decks::read(decks::joined(user_table) + decks::frame_deck({}));
     EXPECT_EQ(before.unit_text, "UNIT MMS KN");
     EXPECT_EQ(before.nodes.at(1).y, 1.0);
-    const SdReader behind = decks::read_frame(user_table);
-    EXPECT_EQ(behind.unit_text, "UNIT METER KN");
-    EXPECT_EQ(behind.nodes.at(1).y, 1000.0);
+    const SdReader after = decks::read_frame(user_table);
+    EXPECT_EQ(after.unit_text, "UNIT METER KN");
+    EXPECT_EQ(after.nodes.at(1).y, 1000.0);
 }
 
 TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
@@ -51,15 +51,15 @@ TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
     EXPECT_TRUE(model.load_cases.empty());
 }
 
-/// A text with the given lines right behind the members, and others before them.
-std::string around_members(const decks::lines& before, const decks::lines& behind)
+/// A text with the given lines right after the members, and others before them.
+std::string around_members(const decks::lines& before, const decks::lines& after)
 {
     return decks::joined({"UNIT METER KN"}) + decks::joined(before) +
            decks::joined({"JOINT COORDINATES", "1 0 0 0; 2 1 0 0", "MEMBER INCIDENCES", "1 1 2"}) +
-           decks::joined(behind) + "FINISH\n";
+           decks::joined(after) + "FINISH\n";
 }
 
-TEST(DriverOrder, GroupsAreSearchedFromTheLineBehindTheMembers)
+TEST(DriverOrder, GroupsAreSearchedFromTheLineAfterTheMembers)
 {
     const decks::lines groups = {"START GROUP DEFINITION", "MEMBER", "_A 1", "END GROUP DEFINITION"};
     EXPECT_TRUE(decks::read(around_members(groups, {})).groups.empty());
@@ -68,7 +68,7 @@ TEST(DriverOrder, GroupsAreSearchedFromTheLineBehindTheMembers)
         decks::read(around_members({"START GROUP DEFINITION"}, {"_A 1", "END GROUP DEFINITION"})).groups.empty());
 }
 
-TEST(DriverOrder, MemberPropertiesAreSearchedFromTheLineBehindTheMembers)
+TEST(DriverOrder, MemberPropertiesAreSearchedFromTheLineAfterTheMembers)
 {
     const decks::lines properties = {"MEMBER PROPERTY", "1 TABLE ST A"};
     EXPECT_EQ(decks::read(around_members(properties, {})).beams.at(0).sect_text, "");

@@ -38,10 +38,10 @@ TEST(HostileDecks, AreAnsweredTheSameWithAndWithoutAReport)
         const std::string text = deck.text(deck_size);
         SdReader model;
         EXPECT_EQ(answer_of([&] { return model.ReadSDDataFromText(text); }), deck.want);
-        SdReader told;
+        SdReader reported;
         ReadReport report;
-        EXPECT_EQ(answer_of([&] { return told.ReadSDDataFromText(text, report); }), deck.want);
-        EXPECT_EQ(model_differences(model, told), std::vector<std::string>{});
+        EXPECT_EQ(answer_of([&] { return reported.ReadSDDataFromText(text, report); }), deck.want);
+        EXPECT_EQ(model_differences(model, reported), std::vector<std::string>{});
         EXPECT_LE(report.findings.size(), 2000U) << "findings of one kind are counted, not listed";
     }
 }

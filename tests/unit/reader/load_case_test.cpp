@@ -36,7 +36,7 @@ const header_row headers[] = {
     {"TITLE as the last word: no title", "LOAD 7 LOADTYPE Dead Load TITLE", 7, "Dead Load", ""},
     {"the first TITLE counts", "LOAD 7 LOADTYPE Dead TITLE A TITLE B", 7, "Dead", "A TITLE B"},
     {"the first word is not looked at", "FOO 8 LOADTYPE Dead TITLE DL", 8, "Dead", "DL"},
-    {"a number with letters behind", "LOAD 9a LOADTYPE Dead TITLE DL", 9, "Dead", "DL"},
+    {"a number with letters after", "LOAD 9a LOADTYPE Dead TITLE DL", 9, "Dead", "DL"},
     {"no number reads as 0", "LOAD R1 LOADTYPE Dead TITLE DL", 0, "Dead", "DL"},
     {"a tab does not separate: five words", "LOAD 1 LOADTYPE\tDead TITLE DL", 0, "", ""},
     {"GBK bytes pass", "LOAD 2 LOADTYPE Live TITLE \xBB\xEE\xD4\xD8", 2, "Live", "\xBB\xEE\xD4\xD8"},

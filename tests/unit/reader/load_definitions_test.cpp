@@ -70,7 +70,7 @@ TEST(LoadDefinition, ReadsMemberLoadsByTheirThirdWord)
         {"other words have no values", "MEMBER LOAD PRESTRESS GY 5 1", "MEMBER LOAD PRESTRESS, GZ:"},
         {"the word is whole", "MEMBER LOAD UNIF GY 5 1", "MEMBER LOAD UNIF, GZ:"},
         {"small letters are read as capitals", "member load uni gy -500", "MEMBER LOAD UNI, GZ: -4"},
-        {"extra blanks do not matter behind the first word pair", "MEMBER LOAD  UNI   GY  -500  1 ",
+        {"extra blanks do not matter after the first word pair", "MEMBER LOAD  UNI   GY  -500  1 ",
          "MEMBER LOAD UNI, GZ: -4 1000"},
         {"exponents", "MEMBER LOAD CON GY -5e-1 1.5E0", "MEMBER LOAD CON, GZ: -4 1500"},
     });
@@ -126,7 +126,7 @@ TEST(LoadDefinition, ReadsTheOtherKinds)
 {
     expect_definitions({
         {"a pressure, divided by the length twice", "AREA LOAD ALOAD -125000", "AREA LOAD ALOAD, Z: -1"},
-        {"words behind do not matter", "AREA LOAD ALOAD -125000 GX 5", "AREA LOAD ALOAD, Z: -1"},
+        {"words after do not matter", "AREA LOAD ALOAD -125000 GX 5", "AREA LOAD ALOAD, Z: -1"},
         {"a factor, not scaled", "SELFWEIGHT Y -1.5", "SELFWEIGHT, Z: -1.5"},
         {"along another axis", "SELFWEIGHT X 1", "SELFWEIGHT, Y: 1"},
         {"any word is a direction", "SELFWEIGHT ALL -1", "SELFWEIGHT, ALL: -1"},
@@ -137,7 +137,7 @@ TEST(LoadDefinition, ReadsTheOtherKinds)
         {"alone", "FLOOR LOAD", "FLOOR LOAD, Z:"},
         {"elements are not understood", "ELEMENT LOAD PR -1", ", :"},
         {"nor is a text without block", " UNI GY -5", ", :"},
-        {"nor a block behind a blank", " MEMBER LOAD UNI GY -5", ", :"},
+        {"nor a block after a blank", " MEMBER LOAD UNI GY -5", ", :"},
         {"nor two blanks inside the block", "MEMBER  LOAD UNI GY -5", ", :"},
         {"small letters are read as capitals", "floor load fload", "FLOOR LOAD, Z:"},
     });

@@ -32,7 +32,7 @@ const near_case near_cases[] = {
     {"the last of three words left out", "ELEMENT INCIDENCES", "ELEMENT INCIDENCES SHELL"},
     {"another last word is another command", "ELEMENT INCIDENCES SOLID", ""},
     {"more on the line than a whole-line keyword has", "CONSTANTS ALL", "CONSTANTS"},
-    {"unit words behind a lower-case keyword", "unit meter kn", "UNIT"},
+    {"unit words after a lower-case keyword", "unit meter kn", "UNIT"},
     {"a short keyword is not guessed from a longer beginning", "UNISON 1", ""},
     {"loads are loads", "MEMBER LOAD", ""},
     {"loads are loads", "JOINT LOAD", ""},

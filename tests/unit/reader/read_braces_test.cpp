@@ -26,22 +26,22 @@ const std::vector<declaration> declarations = {
     {"all three, a member twice",
      {"MEMBER TRUSS", "1 2", "MEMBER TENSION", "2 3", "MEMBER COMPRESSION", "4"},
      {1, 2, 3, 4}},
-    {"only the one line behind the keyword is its list", {"MEMBER TRUSS", "1 2", "3 4"}, {1, 2}},
-    {"the keyword line itself lists nobody", {"MEMBER TRUSS 5 6", "1"}, {1}},
+    {"only the one line after the keyword is its list", {"MEMBER TRUSS", "1 2", "3 4"}, {1, 2}},
+    {"the keyword line itself lists no number", {"MEMBER TRUSS 5 6", "1"}, {1}},
     {"the keyword begins the line, as a word or not", {"MEMBER TENSIONING", "1"}, {1}},
     {"with nothing before it", {" MEMBER TRUSS", "1"}, {}},
     {"small letters are no keyword", {"member truss", "1"}, {}},
     {"other kinds are no braces", {"MEMBER CABLE", "1"}, {}},
     {"a list stops at a word", {"MEMBER TRUSS", "1 2 TENSION 3"}, {1, 2}},
     {"a second TO counts from the last number that stands alone", {"MEMBER TRUSS", "7 TO 5 TO 6"}, {7}},
-    {"the line behind a keyword is its list even if it is a keyword", {"MEMBER TRUSS", "MEMBER TENSION", "1 2"}, {}},
+    {"the line after a keyword is its list even if it is a keyword", {"MEMBER TRUSS", "MEMBER TENSION", "1 2"}, {}},
     {"so that the third of three in a row has a list again",
      {"MEMBER TRUSS", "MEMBER TENSION", "MEMBER COMPRESSION", "1 2"},
      {1, 2}},
     {"a keyword on the last line does nothing", {"MEMBER TRUSS", "1", "MEMBER TENSION"}, {1}},
 };
 
-TEST(ReadBrace, CollectsTheNumbersBehindEveryKeyword)
+TEST(ReadBrace, CollectsTheNumbersAfterEveryKeyword)
 {
     for (const declaration& row : declarations) {
         SdReader model;
@@ -72,7 +72,7 @@ TEST(ReadBrace, TakesLinesAsTheyAre)
     model.ReadBrace({"MEMBER TRUSS", "1 2 -", "3"});
     EXPECT_EQ(model.brace_ids, (std::set<int>{1, 2})) << "joining continued lines is the reading's business";
     model.ReadBrace({"MEMBER TRUSS", "", "5"});
-    EXPECT_EQ(model.brace_ids, (std::set<int>{1, 2})) << "an empty line is a list of nobody";
+    EXPECT_EQ(model.brace_ids, (std::set<int>{1, 2})) << "an empty line is a list of nothing";
 }
 
 TEST(ReadBrace, ReadsContinuedListsInAReading)

@@ -66,7 +66,7 @@ void expect_loads(const char* block, const std::vector<load_line>& rows)
     }
 }
 
-TEST(ReadLoad, StoresTheBlockAndTheWordsBehindTheNumbers)
+TEST(ReadLoad, StoresTheBlockAndTheWordsAfterTheNumbers)
 {
     expect_loads(
         "MEMBER LOAD",
@@ -82,7 +82,7 @@ TEST(ReadLoad, StoresTheBlockAndTheWordsBehindTheNumbers)
              "1 TO 2 TO 3 UNI GY -5",
              {"MEMBER LOAD UNI GY -5"},
              {{1, {1}}, {2, {1, 1}}, {3, {1}}}},
-            {"a falling range names nobody but counts among the words of the list",
+            {"a falling range has no number that exists but counts among the words of the list",
              "3 TO 2 UNI GY -5",
              {"MEMBER LOAD UNI GY -5"},
              {{3, {1}}}},
@@ -96,8 +96,8 @@ TEST(ReadLoad, StoresTheBlockAndTheWordsBehindTheNumbers)
              {"MEMBER LOAD UNI GY -5"},
              {}},
             {"numbers alone: the block is the text", "1 2 3", {"MEMBER LOAD"}, {{1, {1}}, {2, {1}}, {3, {1}}}},
-            {"one word behind the numbers drops the line", "1 2 3 UNI", {}, {}},
-            {"behind a range, too", "1 TO 3 UNI", {}, {}},
+            {"one word after the numbers drops the line", "1 2 3 UNI", {}, {}},
+            {"after a range, too", "1 TO 3 UNI", {}, {}},
             {"TO without a bound is such a word", "1 TO", {}, {}},
             {"TO before a word ends the list and belongs to the text",
              "1 TO UNI GY -5",
@@ -129,7 +129,7 @@ TEST(ReadLoad, ReadsSelfweightInAnyBlock)
                       "SELFWEIGHT X 1.5 LIST 99 3 TO 7",
                       {"SELFWEIGHT X 1.5"},
                       {{3, {1}}, {4, {1}}, {5, {1}}}},
-                     {"ALL lists nobody", "SELFWEIGHT Y -1 ALL", {"SELFWEIGHT Y -1"}, {}},
+                     {"ALL lists no number", "SELFWEIGHT Y -1 ALL", {"SELFWEIGHT Y -1"}, {}},
                      {"single blanks in the text", "SELFWEIGHT  Y   -1  LIST 1", {"SELFWEIGHT Y -1"}, {{1, {1}}}},
                      {"two words", "SELFWEIGHT Y", {"SELFWEIGHT Y"}, {}},
                      {"one word", "SELFWEIGHT", {"SELFWEIGHT"}, {}},

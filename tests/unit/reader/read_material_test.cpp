@@ -1,6 +1,6 @@
 /// The density of the concrete, from DEFINE MATERIAL blocks.
 ///
-/// The line that counts is the first one behind "ISOTROPIC CONCRETE" that does NOT begin with DENSITY, without
+/// The line that counts is the first one after "ISOTROPIC CONCRETE" that does NOT begin with DENSITY, without
 /// its first seven characters. Programs down the line rely on the numbers that this gives.
 
 #include "staad/model/sd_reader.h"
@@ -47,7 +47,7 @@ TEST(ReadMaterial, TakesTheFirstLineThatDoesNotBeginWithDensity)
         {"a shorter line counts as 0", concrete({"E 22000"}), 0.0},
         {"DENSITY lines alone: the usual density", concrete({"DENSITY 25", "DENSITY 26"}), usual_density},
         {"the same if a word follows at once", concrete({"DENSITYX 25"}), usual_density},
-        {"nothing behind the name", concrete({}), usual_density},
+        {"nothing after the name", concrete({}), usual_density},
         {"the next material does not count as such: its name line is read", concrete({"DENSITY 25", "ISOTROPIC 31 X"}),
          0.0},
     });
@@ -67,7 +67,7 @@ TEST(ReadMaterial, FindsTheBlock)
         {"no end", {start, name, twenty}, usual_density},
         {"the end before the start", {end, start, name, twenty}, usual_density},
         {"concrete before the start", {name, twenty, start, "ISOTROPIC STEEL", thirty, end}, usual_density},
-        {"concrete behind the end", {start, end, name, twenty}, usual_density},
+        {"concrete after the end", {start, end, name, twenty}, usual_density},
         {"other materials before it", {start, "ISOTROPIC STEEL", twenty, name, thirty, end}, 30.0},
         {"the first concrete counts", {start, name, twenty, name, thirty, end}, 20.0},
         {"keywords stand anywhere in their lines",
@@ -83,7 +83,7 @@ TEST(ReadMaterial, FindsTheBlock)
         {"even if it has no concrete",
          {start, name, twenty, end, start, "ISOTROPIC STEEL", thirty, end},
          usual_density},
-        {"a start behind the last end hides the block", {start, name, twenty, end, start}, usual_density},
+        {"a start after the last end hides the block", {start, name, twenty, end, start}, usual_density},
         {"small letters are no keyword", {"define material start", name, twenty, end}, usual_density},
     });
 }

@@ -44,7 +44,7 @@ TEST(ReadOffset, TurnsTheThreeLengthsIntoTheModelsAxes)
         {"missing lengths are 0", metres, "2 START 0.1", {0.0, 100.0, 0.0}, none},
         {"all of them", metres, "2 END", none, none},
         {"words are 0", metres, "2 START A 0.2 B", {0.0, 0.0, 200.0}, none},
-        {"words behind do not matter", metres, "2 START 0.1 0.2 0.3 END", {300.0, 100.0, 200.0}, none},
+        {"words after do not matter", metres, "2 START 0.1 0.2 0.3 END", {300.0, 100.0, 200.0}, none},
         {"any other first word is the end", metres, "2 STARTING 0.1 0.2 0.3", none, {300.0, 100.0, 200.0}},
         {"even if START follows; the lengths are counted from the first word",
          metres,
@@ -60,8 +60,8 @@ TEST(ReadOffset, TurnsTheThreeLengthsIntoTheModelsAxes)
         const SdReader model = decks::read_frame({"MEMBER OFFSET", row.line}, {row.unit, 3});
         EXPECT_EQ(start_of(decks::member(model, 2)), row.start);
         EXPECT_EQ(end_of(decks::member(model, 2)), row.end);
-        EXPECT_EQ(start_of(decks::member(model, 3)), none) << "nobody else gets it";
-        EXPECT_EQ(end_of(decks::member(model, 3)), none) << "nobody else gets it";
+        EXPECT_EQ(start_of(decks::member(model, 3)), none) << "no other member gets it";
+        EXPECT_EQ(end_of(decks::member(model, 3)), none) << "no other member gets it";
     }
 }
 
@@ -78,7 +78,7 @@ TEST(ReadOffset, GivesTheOffsetToTheListedMembers)
         {"a list with a range", {"MEMBER OFFSET", "1 TO 3 5 START 1 0 0"}, {1, 2, 3, 5}},
         {"several lines", {"MEMBER OFFSET", "1 START 1 0 0", "4 START 1 0 0"}, {1, 4}},
         {"unknown members are passed over", {"MEMBER OFFSET", "99 2 START 1 0 0"}, {2}},
-        {"nobody listed", {"MEMBER OFFSET", "0 START 1 0 0", "2 START 1 0 0"}, {2}},
+        {"no member listed", {"MEMBER OFFSET", "0 START 1 0 0", "2 START 1 0 0"}, {2}},
         {"a line without START and END ends the block", {"MEMBER OFFSET", "1 1 0 0", "2 START 1 0 0"}, {}},
         {"a line that begins with a letter, too", {"MEMBER OFFSET", "ALL START 1 0 0", "2 START 1 0 0"}, {}},
         {"or with a blank", {"MEMBER OFFSET", " 1 START 1 0 0", "2 START 1 0 0"}, {}},
@@ -108,8 +108,8 @@ TEST(ReadBeta, ReadsEveryLineThatBeginsWithTheKeyword)
 {
     const beta_lines rows[] = {
         {"range", {"BETA 90 MEMB 1 TO 3"}, {90, 90, 90, 0}},
-        {"ALL is no number and names nobody", {"BETA 90 ALL"}, {0, 0, 0, 0}},
-        {"not even behind MEMB", {"BETA 90 MEMB ALL"}, {0, 0, 0, 0}},
+        {"ALL is no number and has no number that exists", {"BETA 90 ALL"}, {0, 0, 0, 0}},
+        {"not even after MEMB", {"BETA 90 MEMB ALL"}, {0, 0, 0, 0}},
         {"fractions and signs", {"BETA -22.5 MEMB 2"}, {0, -22.5, 0, 0}},
         {"extra blanks", {"BETA   45  MEMB  2   4"}, {0, 45, 0, 45}},
         {"the third word is dropped, whatever it is", {"BETA 90 1 2 3"}, {0, 90, 90, 0}},
@@ -119,7 +119,7 @@ TEST(ReadBeta, ReadsEveryLineThatBeginsWithTheKeyword)
         {"unknown members are passed over", {"BETA 90 MEMB 99 1 TO 2 77"}, {90, 90, 0, 0}},
         {"the list ends at 0", {"BETA 90 MEMB 1 0 2"}, {90, 0, 0, 0}},
         {"the keyword begins its line", {" BETA 90 MEMB 1"}, {0, 0, 0, 0}},
-        {"with a blank behind it", {"BETA\t90 MEMB 1", "BETA90 MEMB 2"}, {0, 0, 0, 0}},
+        {"with a blank after it", {"BETA\t90 MEMB 1", "BETA90 MEMB 2"}, {0, 0, 0, 0}},
         {"alone on its line", {"BETA", "BETA "}, {0, 0, 0, 0}},
         {"small letters are no keyword", {"beta 90 MEMB 1"}, {0, 0, 0, 0}},
         {"continued lines are one", {"BETA 90 MEMB 1 -", "TO 2 -", "4"}, {90, 90, 0, 90}},

@@ -38,7 +38,7 @@ TEST(ReadProperties, TakesTableTextsAsTheyStand)
 {
     expect_sections({
         {"from the keyword on", "1 |TABLE ST W12X26", "TABLE ST W12X26"},
-        {"blanks inside and behind stay", "1  |TABLE  ST  W12X26 ", "TABLE  ST  W12X26 "},
+        {"blanks inside and after stay", "1  |TABLE  ST  W12X26 ", "TABLE  ST  W12X26 "},
         {"TABLE wins over the other keywords", "1 |TABLE ST TAPERED PRIS", "TABLE ST TAPERED PRIS"},
         {"user tables, unchanged", "1 |UPTABLE 1 W12X26", "UPTABLE 1 W12X26"},
         {"nor is a pipe of a user table touched", "1 |UPTABLE 1 PIPE OD 0.2 ID 0.1", "UPTABLE 1 PIPE OD 0.2 ID 0.1"},
@@ -57,7 +57,7 @@ TEST(ReadProperties, WritesPipesAsDiameterAndThickness)
         {"no number at all", "1 |TABLE ST PIPE OD ", "TABLE ST PIP0X0"},
         {"numbers are found by their place, not by their name", "1 |TABLE PIPE OD 0.2 ID 0.18", "TABLE PIPE PIP0X0"},
         {"the other order is not understood", "1 |TABLE ST PIPE ID 0.18 OD 0.2", "TABLE ST PIPE ID 0.18 OD 0.2"},
-        {"without the blank behind OD the text stays", "1 |TABLE ST PIPE OD", "TABLE ST PIPE OD"},
+        {"without the blank after OD the text stays", "1 |TABLE ST PIPE OD", "TABLE ST PIPE OD"},
         {"two blanks are not one", "1 |TABLE ST PIPE  OD 0.2 ID 0.1", "TABLE ST PIPE  OD 0.2 ID 0.1"},
     });
 }
@@ -65,11 +65,11 @@ TEST(ReadProperties, WritesPipesAsDiameterAndThickness)
 TEST(ReadProperties, WritesTaperedSectionsInWholeMillimetres)
 {
     expect_sections({
-        {"no blank behind the keyword", "1 |TAPERED 0.6 0.008 0.6 0.25 0.012", "TAPERED600X8X600X250X12"},
+        {"no blank after the keyword", "1 |TAPERED 0.6 0.008 0.6 0.25 0.012", "TAPERED600X8X600X250X12"},
         {"truncated", "1 |TAPERED 600.9 8.5 -0.5", "TAPERED600X8X0", millimetres},
         {"words count as 0", "1 |TAPERED A 0.1", "TAPERED0X100"},
-        {"nothing behind the keyword", "1 2 3 |TAPERED", "TAPERED"},
-        {"one character behind the keyword is skipped, whatever it is", "1 |TAPERED0.6 0.3 0.2", "TAPERED600X300X200"},
+        {"nothing after the keyword", "1 2 3 |TAPERED", "TAPERED"},
+        {"one character after the keyword is skipped, whatever it is", "1 |TAPERED0.6 0.3 0.2", "TAPERED600X300X200"},
         {"the first of two keywords counts", "1 |TAPERED 5 TAPERED 6", "TAPERED5X0X6", millimetres},
         {"TAPERED wins over PRIS", "1 PRIS |TAPERED 0.5 0.2", "TAPERED500X200"},
         {"TAPERED wins over UPTABLE", "1 UPTABLE 1 |TAPERED 0.5", "TAPERED500"},
@@ -88,9 +88,9 @@ TEST(ReadProperties, WritesPrismaticSectionsByTheirValues)
         {"five: the text stays", "1 |PRIS AX 1 IX 2 IY 3 IZ 4 YD 5", "AX 1 IX 2 IY 3 IZ 4 YD 5"},
         {"a name without value: the text stays", "1 |PRIS YD 0.5 ZD", "YD 0.5 ZD"},
         {"a single word: the text stays", "1 2 |PRIS YD", "YD"},
-        {"nothing behind the keyword", "1 2 3 |PRIS", ""},
+        {"nothing after the keyword", "1 2 3 |PRIS", ""},
         {"extra blanks do not count as words", "1 |PRIS   YD  0.5 ", "PRIS500"},
-        {"one character behind PRIS is skipped, here a letter", "1 |PRISMATIC YD 0.5", "ATIC YD 0.5"},
+        {"one character after PRIS is skipped, here a letter", "1 |PRISMATIC YD 0.5", "ATIC YD 0.5"},
         {"a word that reads as no number is 0", "1 |PRIS YD ZD", "PRIS0"},
         {"PRIS wins over UPTABLE", "1 UPTABLE 1 |PRIS 400", "400"},
     });
@@ -220,7 +220,7 @@ TEST(ReadProperties, ReadsFromTheKeywordToConstants)
         {"and ends at CONSTANTS", {"MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"}, {1}},
         {"the whole line", {"MEMBER PROPERTY", "CONSTANTS ", "CONSTANTS 1", "1 TABLE ST A"}, {1}},
         {"without CONSTANTS at the end of the file", {"MEMBER PROPERTY", "SUPPORTS", "1 FIXED", "2 TABLE ST A"}, {2}},
-        {"if CONSTANTS stands before the block, too, even if there is one more behind",
+        {"if CONSTANTS stands before the block, too, even if there is one more after",
          {"CONSTANTS", "MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"},
          {1, 2}},
         {"lines between that are no properties do not matter",

@@ -127,7 +127,7 @@ const place_case place_cases[] = {
      head + "SURFACE INCIDENCE\n1 2 1 SUR 9\nSURFACE PROPERTY\n8 THICKNESS 0.2\n", "list-nobody", 9, "8 THICKNESS"},
     {"a load list with a step", head + "LOAD 1\nMEMBER LOAD\n1 BY 3 UNI GY -3\nFINISH\n", "list-stopped", 8,
      "ends at 'BY'"},
-    {"a load for ALL, behind whose list a single word stands", head + "LOAD 1\nMEMBER LOAD\n1 ALL\nFINISH\n",
+    {"a load for ALL, after whose list a single word stands", head + "LOAD 1\nMEMBER LOAD\n1 ALL\nFINISH\n",
      "list-stopped", 8, "ends at 'ALL'"},
     {"a self-weight whose list is a word", head + "LOAD 1\nSELFWEIGHT Y -1 LIST ALL\nFINISH\n", "list-stopped", 7,
      "ends at 'ALL'"},
@@ -221,7 +221,7 @@ TEST(ReadReport, ALineOfNothingButAContinuationMarkIsNoTrouble)
 {
     for (const char* const end : {"-", "  -", "\t-", " - "}) {
         SCOPED_TRACE(end);
-        EXPECT_NO_THROW(report_of(head + end)) << "behind a model";
+        EXPECT_NO_THROW(report_of(head + end)) << "after a model";
         EXPECT_NO_THROW(report_of(std::string("STAAD SPACE\n") + end)) << "where there is no model";
     }
 }

@@ -126,12 +126,12 @@ TEST(ReadSurface, GivesTheLastWordAsThicknessToTheListedSurfaces)
         {"in feet", "UNIT FEET KIP", "1 THICKNESS 0.5", {152, 0, 0, 0}},
         {"two words assign nothing", metres, "1 0.2", {0, 0, 0, 0}},
         {"one word is list and thickness", millimetres, "3", {0, 0, 3, 0}},
-        {"a thickness behind numbers alone may name a surface", millimetres, "1 2 3.5", {3, 3, 3, 0}},
+        {"a thickness after numbers alone may name a surface", millimetres, "1 2 3.5", {3, 3, 3, 0}},
         {"not if it begins with 0", metres, "1 2 0.3", {300, 300, 0, 0}},
         {"0 ends the list", metres, "1 0 2 THICKNESS 0.2", {200, 0, 0, 0}},
         {"a bound below 1 is an empty range, and the list goes on", metres, "1 TO 0 3 THICKNESS 0.2", {200, 0, 200, 0}},
         {"a falling range, too", metres, "3 TO 2 1 THICKNESS 0.2", {200, 0, 200, 0}},
-        {"a word behind TO is its bound, so that the thickness may name a surface",
+        {"a word after TO is its bound, so that the thickness may name a surface",
          millimetres,
          "1 TO THICKNESS 2.5",
          {2, 2, 0, 0}},
@@ -196,7 +196,7 @@ TEST(ReadSurface, PropertyLinesAloneBuildNothing)
 const char* const square_of_joints = "UNIT METER KN\nJOINT COORDINATES\n11 0 0 0; 12 1 0 0; 13 1 1 0; 14 0 1 0\n"
                                      "MEMBER INCIDENCES\n1 11 12\n";
 
-TEST(ReadSurface, CopiesStandBehindTheElementsAndReferToPositions)
+TEST(ReadSurface, CopiesStandAfterTheElementsAndReferToPositions)
 {
     const SdReader model = decks::read(
         square_of_joints + decks::joined({"ELEMENT INCIDENCES SHELL", "3 11 12 13", "SURFACE INCIDENCE",

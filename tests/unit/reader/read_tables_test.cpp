@@ -178,7 +178,7 @@ TEST(GetSectionFromUsrTable, FindsTheRowAndInsertsNothing)
     };
     const query queries[] = {
         {"whole mm, truncated", "UPTABLE 1 W12X26", {WideFlange, "300X150X6X9"}},
-        {"words behind the row's name do not matter", "UPTABLE 1 W12X26 BETA 90", {WideFlange, "300X150X6X9"}},
+        {"words after the row's name do not matter", "UPTABLE 1 W12X26 BETA 90", {WideFlange, "300X150X6X9"}},
         {"nor does the first word", "X  1  W12X26", {WideFlange, "300X150X6X9"}},
         {"unknown row: family, no dimensions", "UPTABLE 1 W14X30", {WideFlange, ""}},
         {"names are compared exactly", "UPTABLE 1 w12x26", {WideFlange, ""}},

@@ -43,7 +43,7 @@ const list_row general_lists[] = {
     {"both ends of a range belong to it", "1 TO 4 7", {1, 2, 3, 4, 7}},
     {"order and repeats are kept", "7 3 7", {7, 3, 7}},
     {"a falling range adds nothing", "3 TO 1", {3}},
-    {"and the list goes on behind it", "3 TO 1 5", {3, 5}},
+    {"and the list goes on after it", "3 TO 1 5", {3, 5}},
     {"a range to its own start adds nothing", "3 TO 3", {3}},
     {"a second TO counts from the last number that stood alone", "1 TO 4 TO 6", {1, 2, 3, 4, 2, 3, 4, 5, 6}},
     {"so after a falling range, too", "3 TO 1 TO 5", {3, 4, 5}},
@@ -63,7 +63,7 @@ const list_row general_lists[] = {
     {"a bound without digits ends the list", "1 TO FIXED 3", {1}},
     {"two TO in a row: the second is a bound without digits", "1 TO TO 3", {1}},
     {"a bound may have a leading zero or a sign", "1 TO 03 5 TO +6", {1, 2, 3, 5, 6}},
-    {"letters behind a number are ignored", "12abc 4x TO 6y", {12, 4, 5, 6}},
+    {"letters after a number are ignored", "12abc 4x TO 6y", {12, 4, 5, 6}},
     {"a fraction is cut", "1.9 2", {1, 2}},
     {"runs of blanks", "  1   TO  3  ", {1, 2, 3}},
     {"a tab does not separate", "1\t2 3", {1, 3}},
@@ -175,11 +175,11 @@ TEST(IdListWalker, GivesRunsWithoutCountingThemOut)
     EXPECT_FALSE(walker.next(run)) << "an ended list stays ended";
 }
 
-TEST(IdListWalker, LeavesTheWordsBehindTheList)
+TEST(IdListWalker, LeavesTheWordsAfterTheList)
 {
     struct row {
         const char* text;
-        const char* behind;
+        const char* after;
     };
     const row rows[] = {
         {"1 TO 4 FIXED BUT MX", "FIXED BUT MX"}, {"3 0 4", "0 4"}, {"FIXED", "FIXED"}, {"1 2", ""}, {"", ""},
@@ -188,7 +188,7 @@ TEST(IdListWalker, LeavesTheWordsBehindTheList)
         detail::id_list_walker<> walker(detail::word_cursor(c.text), detail::general_id_list);
         for (detail::id_range run; walker.next(run);) {
         }
-        EXPECT_EQ(detail::join_words(walker.after_list()), c.behind) << c.text;
+        EXPECT_EQ(detail::join_words(walker.after_list()), c.after) << c.text;
     }
 }
 

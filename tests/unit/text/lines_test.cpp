@@ -65,7 +65,7 @@ const line_row physical[] = {
     {"only the first", "\xEF\xBB\xBF\xEF\xBB\xBFUNIT", {{"\xEF\xBB\xBFUNIT", 1, 1}}},
     {"a part of one is text", "\xEF\xBB" + "UNIT"s, {{"\xEF\xBB" + "UNIT"s, 1, 1}}},
     {"one further on is text", "a\n\xEF\xBB\xBF", {{"a", 1, 1}, {"\xEF\xBB\xBF", 2, 2}}},
-    {"nothing behind it", "\xEF\xBB\xBF", {}},
+    {"nothing after it", "\xEF\xBB\xBF", {}},
 
     {"an end-of-file mark on a line of its own makes no line", "a\n\x1A", {{"a", 1, 1}}},
     {"a run of them", "a\n\x1A\x1A\x1A", {{"a", 1, 1}}},
@@ -78,7 +78,7 @@ const line_row physical[] = {
     {"the prefix alone is a generated comment", "*{\na", {{"a", 2, 2}}},
     {"it must stand first", " *{ a\n* {\n*\n", {{" *{ a", 1, 1}, {"* {", 2, 2}, {"*", 3, 3}}},
     {"other comments and empty lines are kept", "* comment\n\n", {{"* comment", 1, 1}, {"", 2, 2}}},
-    {"behind a byte order mark it stands first", "\xEF\xBB\xBF*{ a\r\nb\r\n", {{"b", 2, 2}}},
+    {"after a byte order mark it stands first", "\xEF\xBB\xBF*{ a\r\nb\r\n", {{"b", 2, 2}}},
     {"with a CR", "*{\r\n", {}},
 
     {"a zero byte is text", "a\0b\nc"s, {{"a\0b"s, 1, 1}, {"c", 2, 2}}},
@@ -105,7 +105,7 @@ const line_row logical[] = {
     {"the continuation mark becomes one blank", "1 2 -\n3 4\n5", {{"1 2  3 4", 1, 2}, {"5", 3, 3}}},
     {"it needs no blank before it", "1 2-\n3 4", {{"1 2 3 4", 1, 2}}},
     {"any number of lines", "a-\nb-\nc-\nd\ne", {{"a b c d", 1, 4}, {"e", 5, 5}}},
-    {"a blank behind the mark makes it text", "a- \nb", {{"a- ", 1, 1}, {"b", 2, 2}}},
+    {"a blank after the mark makes it text", "a- \nb", {{"a- ", 1, 1}, {"b", 2, 2}}},
     {"so does a tab", "a-\t\nb", {{"a-\t", 1, 1}, {"b", 2, 2}}},
     {"a CR LF does not", "a-\r\nb\r\n", {{"a b", 1, 2}}},
     {"on the last line it is just a blank", "a\nb-", {{"a", 1, 1}, {"b ", 2, 2}}},
@@ -113,7 +113,7 @@ const line_row logical[] = {
     {"a mark alone on its line", "-\nb", {{" b", 1, 2}}},
     {"a mark alone between two lines", "a-\n-\nb", {{"a  b", 1, 3}}},
     {"two marks: the last one counts", "a--\nb", {{"a- b", 1, 2}}},
-    {"a keyword behind a mark is swallowed",
+    {"a keyword after a mark is swallowed",
      "1 1 2;-\nMEMBER INCIDENCES\n3",
      {{"1 1 2; MEMBER INCIDENCES", 1, 2}, {"3", 3, 3}}},
     {"blank lines go before lines are joined", "a-\n\n \t\nb\nc", {{"a b", 1, 4}, {"c", 5, 5}}},
@@ -127,7 +127,7 @@ const line_row logical[] = {
     {"a comment inside a continuation is appended and ends it", "a-\n* c\nb", {{"a * c", 1, 2}, {"b", 3, 3}}},
     {"unless it ends in a mark: the joined line decides", "a-\n* c -\nb\nd", {{"a * c  b", 1, 3}, {"d", 4, 4}}},
     {"a blank before the star: no comment here", " * c-\nb", {{" * c b", 1, 2}}},
-    {"a star behind a joined blank: no comment either", "-\n* c-\nb", {{" * c b", 1, 3}}},
+    {"a star after a joined blank: no comment either", "-\n* c-\nb", {{" * c b", 1, 3}}},
 };
 
 TEST(LineList, PreparesLogicalLinesThatKnowTheirPlace)

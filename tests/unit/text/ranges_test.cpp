@@ -34,7 +34,7 @@ TEST(MakeIdRanges, GathersConsecutiveNumbers)
         {"three times the same", {7, 7, 7}, {{7, 7}, {7, 7}, {7, 7}}},
         {"across zero", {1, -1, 0}, {{-1, 1}}},
         {"largest number", {INT_MAX, INT_MAX - 1}, {{INT_MAX - 1, INT_MAX}}},
-        {"largest number twice: nothing lies behind it", {INT_MAX, INT_MAX}, {{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}}},
+        {"largest number twice: nothing lies after it", {INT_MAX, INT_MAX}, {{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}}},
         {"both ends of the integers", {INT_MAX, INT_MIN}, {{INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}}},
     };
     for (const row& c : rows)
