@@ -46,7 +46,9 @@ void expect_decks_read(std::uint64_t first, std::uint64_t last)
     for (std::uint64_t seed = first; seed <= last; ++seed) {
         const decks::random_deck deck = decks::make_random_deck(seed, members_of(seed));
         SdReader model;
-        ASSERT_TRUE(model.ReadSDDataFromText(deck.text)) << failure_text(seed, deck, {});
+        ReadReport report; // of every tenth; the model is the same
+        ASSERT_TRUE(seed % 10 == 0 ? model.ReadSDDataFromText(deck.text, report) : model.ReadSDDataFromText(deck.text))
+            << failure_text(seed, deck, {});
         const auto differences = model_differences(model, deck.model);
         ASSERT_TRUE(differences.empty()) << failure_text(seed, deck, differences);
     }
@@ -71,18 +73,6 @@ TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom1501To2250)
 TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom2251To3000)
 {
     expect_decks_read(2251, 3000);
-}
-
-TEST(RandomDeck, ReadsTheSameWithAReport)
-{
-    for (std::uint64_t seed = 5001; seed <= 5200; ++seed) {
-        const decks::random_deck deck = decks::make_random_deck(seed, members_of(seed));
-        SdReader model;
-        ReadReport report;
-        ASSERT_TRUE(model.ReadSDDataFromText(deck.text, report)) << failure_text(seed, deck, {});
-        const auto differences = model_differences(model, deck.model);
-        ASSERT_TRUE(differences.empty()) << failure_text(seed, deck, differences);
-    }
 }
 
 /// A change anywhere in the text must show, or the comparison above would prove little.

@@ -1,11 +1,10 @@
-/// MEMBER TRUSS, MEMBER COMPRESSION and MEMBER TENSION, and what they make of members.
+/// MEMBER TRUSS, MEMBER COMPRESSION and MEMBER TENSION, and the set that they fill.
 
 #include "staad/model/sd_reader.h"
 #include "tests/support/deck.h"
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <set>
 #include <vector>
 
@@ -83,35 +82,6 @@ TEST(ReadBrace, ReadsContinuedListsInAReading)
 TEST(ReadBrace, FindsDeclarationsBeforeTheMembers)
 {
     EXPECT_EQ(decks::read("MEMBER TRUSS\n3\n" + decks::frame_deck({})).brace_ids, (std::set<int>{3}));
-}
-
-TEST(ReadBrace, DecidesTheKindOfAMember)
-{
-    const SdReader model = decks::read(decks::joined({
-        "UNIT METER KN",
-        "JOINT COORDINATES",
-        "1 0 0 0; 2 0 3 0; 3 4 3 0; 4 4 0 0",
-        "MEMBER INCIDENCES",
-        "1 1 2; 2 2 3; 3 1 3; 11 1 2; 12 2 3; 13 1 3",
-        "MEMBER TRUSS",
-        "11 TO 13",
-        "FINISH",
-    }));
-    struct kind {
-        const char* why;
-        std::size_t place;
-        BeamType want;
-    };
-    const kind kinds[] = {
-        {"vertical", 0, Column},
-        {"level", 1, Beam},
-        {"inclined", 2, Beam},
-        {"a vertical truss member is no column", 3, Brace},
-        {"a level one", 4, HorizontalBrace},
-        {"an inclined one", 5, Brace},
-    };
-    for (const kind& one : kinds)
-        EXPECT_EQ(model.GetBeamType(model.beams.at(one.place)), one.want) << one.why;
 }
 
 } // namespace

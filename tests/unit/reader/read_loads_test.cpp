@@ -91,7 +91,7 @@ TEST(ReadLoad, StoresTheBlockAndTheWordsAfterTheNumbers)
              {"MEMBER LOAD UNI GY -5"},
              {{1, {1}}, {2, {1}}}},
             {"unknown members are passed over", "99 2 UNI GY -5", {"MEMBER LOAD UNI GY -5"}, {{2, {1}}}},
-            {"the definition is stored even if nobody carries it",
+            {"the definition is stored even if no member carries it",
              "99 TO 101 UNI GY -5",
              {"MEMBER LOAD UNI GY -5"},
              {}},
@@ -119,7 +119,7 @@ TEST(ReadLoad, ReadsSelfweightInAnyBlock)
 {
     expect_loads("FLOOR LOAD",
                  {
-                     {"nobody carries it", "SELFWEIGHT Y -1", {"SELFWEIGHT Y -1"}, {}},
+                     {"no member carries it", "SELFWEIGHT Y -1", {"SELFWEIGHT Y -1"}, {}},
                      {"the list begins at the fifth word",
                       "SELFWEIGHT Y -1 LIST 1 TO 2 4",
                       {"SELFWEIGHT Y -1"},
@@ -162,11 +162,11 @@ TEST(ReadLoad, LooksNumbersUpAmongJointsUnderJointLoadOnly)
     for (const block_name& row : rows) {
         SCOPED_TRACE(std::string(row.block) + ": " + row.why);
         const SdReader model = decks::read_frame({"LOAD 1", row.block, "5 FY -10"});
-        const std::map<int, ints> nobody;
+        const std::map<int, ints> none;
         const std::map<int, ints> number_five = {{5, {1}}};
         EXPECT_EQ(texts_of(model), (texts{row.text}));
-        EXPECT_EQ(loaded_joints(model), row.joints ? number_five : nobody);
-        EXPECT_EQ(loaded_members(model), row.joints ? nobody : number_five);
+        EXPECT_EQ(loaded_joints(model), row.joints ? number_five : none);
+        EXPECT_EQ(loaded_members(model), row.joints ? none : number_five);
         EXPECT_EQ(model.load_defs.at(1).kind, row.kind);
     }
 }

@@ -1,4 +1,4 @@
-// What a reading tells beside the model: codes, places, counts.
+// What a reading reports beside the model: codes, places, counts.
 
 #include "staad/model/sd_reader.h"
 #include "staad/report/finding_sink.h"
@@ -108,14 +108,14 @@ const place_case place_cases[] = {
     {"an offset for a member that is not there", head + "MEMBER OFFSET\n7 START 0 0 1\n", "list-nobody", 7, "7 START"},
     {"a load on members that are not there", head + "LOAD 1\nMEMBER LOAD\n7 UNI GY -5\nFINISH\n", "list-nobody", 8,
      "7 UNI"},
-    {"a brace list of nobody", head + "MEMBER TRUSS\nALL\n", "list-stopped", 7, "ends at 'ALL'"},
+    {"a brace list without numbers", head + "MEMBER TRUSS\nALL\n", "list-stopped", 7, "ends at 'ALL'"},
     {"a support list with a step", head + "SUPPORTS\n1 BY 3 FIXED\n", "list-stopped", 7, "ends at 'BY'"},
     {"a release list with a step", head + "MEMBER RELEASE\n1 BY 3 START MZ\n", "list-stopped", 7, "ends at 'BY'"},
     {"an offset list that does not end at START or END", head + "MEMBER OFFSET\n1 0 START 0.1 0 0\n", "list-stopped", 7,
      "ends at '0'"},
     {"an offset that lacks a number", head + "MEMBER OFFSET\n1 START 0.1 0\n", "number-word", 7, "a number is missing"},
     {"a beta list with a step", head + "BETA 90 MEMB 1 BY 2\n", "list-stopped", 6, "ends at 'BY'"},
-    {"a material for nobody", head + "MATERIAL STEEL MEMB 77\n", "list-nobody", 6, "the material"},
+    {"a material for no member", head + "MATERIAL STEEL MEMB 77\n", "list-nobody", 6, "the material"},
     {"a material list that ends at a word", head + "MATERIAL STEEL MEMB 1 BY 2\n", "list-stopped", 6, "ends at 'BY'"},
     {"a thickness for an element that is not there",
      head + "ELEMENT INCIDENCES SHELL\n5 1 2 1\nELEMENT PROPERTY\n5 6 THICKNESS 0.2\n", "element-unknown", 9,

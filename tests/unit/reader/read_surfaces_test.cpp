@@ -36,55 +36,59 @@ std::vector<corners_of_number> corners_of(const Records& records)
     return found;
 }
 
+/// "9: 1 2 3 4; 3: 2 3 4"
+std::string shown(const std::vector<corners_of_number>& surfaces)
+{
+    std::string text;
+    for (const corners_of_number& one : surfaces) {
+        text += (text.empty() ? "" : "; ") + std::to_string(one.id) + ':';
+        for (const int corner : one.node_ids)
+            text += ' ' + std::to_string(corner);
+    }
+    return text;
+}
+
 struct incidence {
     const char* why;
     decks::lines lines;
-    std::vector<corners_of_number> want;
+    const char* want; ///< number: corners
     std::map<int, int> index;
 };
 
 TEST(ReadSurface, ReadsTheLinesThatBeginWithADigit)
 {
+    const std::string keyword = "SURFACE INCIDENCE";
     const incidence rows[] = {
-        {"no block", {"1 2 3 4 SUR 9"}, {}, {}},
-        {"corners, a word, the number", {"SURFACE INCIDENCE", "1 2 3 4 SUR 9"}, {{9, {1, 2, 3, 4}}}, {{9, 1}}},
-        {"any word, any number of corners",
-         {"SURFACE INCIDENCE", "1 2 3 4 5 6 X 2"},
-         {{2, {1, 2, 3, 4, 5, 6}}},
-         {{2, 1}}},
+        {"no block", {"1 2 3 4 SUR 9"}, "", {}},
+        {"corners, a word, the number", {keyword, "1 2 3 4 SUR 9"}, "9: 1 2 3 4", {{9, 1}}},
+        {"any word, any number of corners", {keyword, "1 2 3 4 5 6 X 2"}, "2: 1 2 3 4 5 6", {{2, 1}}},
         {"several on a line, in order",
-         {"SURFACE INCIDENCE", "1 2 3 SUR 9; 2 3 4 SUR 3;", "3 4 5 SUR 7"},
-         {{9, {1, 2, 3}}, {3, {2, 3, 4}}, {7, {3, 4, 5}}},
+         {keyword, "1 2 3 SUR 9; 2 3 4 SUR 3;", "3 4 5 SUR 7"},
+         "9: 1 2 3; 3: 2 3 4; 7: 3 4 5",
          {{3, 2}, {7, 3}, {9, 1}}},
-        {"an item of nothing builds none", {"SURFACE INCIDENCE", "1 2 3 SUR 9; ;"}, {{9, {1, 2, 3}}}, {{9, 1}}},
-        {"fewer than four words: number 0, no corners, not in the index",
-         {"SURFACE INCIDENCE", "1 2 SUR; 1 2 SUR 4"},
-         {{0, {}}, {4, {1, 2}}},
+        {"an item of nothing builds none", {keyword, "1 2 3 SUR 9; ;"}, "9: 1 2 3", {{9, 1}}},
+        {"fewer than four words: number 0, no corners, no index",
+         {keyword, "1 2 SUR; 1 2 SUR 4"},
+         "0:; 4: 1 2",
          {{4, 2}}},
-        {"a number below 1 is not in the index",
-         {"SURFACE INCIDENCE", "1 2 3 SUR -4; 1 2 3 SUR A"},
-         {{-4, {1, 2, 3}}, {0, {1, 2, 3}}},
-         {}},
-        {"of two surfaces with one number the index holds the last",
-         {"SURFACE INCIDENCE", "1 2 3 SUR 5; 2 3 4 SUR 5"},
-         {{5, {1, 2, 3}}, {5, {2, 3, 4}}},
+        {"a number below 1 is not in the index", {keyword, "1 2 3 SUR -4; 1 2 3 SUR A"}, "-4: 1 2 3; 0: 1 2 3", {}},
+        {"of two with one number the index holds the last",
+         {keyword, "1 2 3 SUR 5; 2 3 4 SUR 5"},
+         "5: 1 2 3; 5: 2 3 4",
          {{5, 2}}},
-        {"a line beginning with 0 ends the block",
-         {"SURFACE INCIDENCE", "1 2 3 SUR 1", "0 2 3 SUR 2", "1 2 3 SUR 3"},
-         {{1, {1, 2, 3}}},
+        {"a line that begins with 0 ends the block",
+         {keyword, "1 2 3 SUR 1", "0 2 3 SUR 2", "1 2 3 SUR 3"},
+         "1: 1 2 3",
          {{1, 1}}},
-        {"with a blank, too", {"SURFACE INCIDENCE", " 1 2 3 SUR 1", "1 2 3 SUR 3"}, {}, {}},
-        {"with a letter, too", {"SURFACE INCIDENCE", "A 2 3 SUR 1", "1 2 3 SUR 3"}, {}, {}},
-        {"the keyword is a whole line", {"SURFACE INCIDENCES", "1 2 3 SUR 1"}, {}, {}},
-        {"only the first block is read",
-         {"SURFACE INCIDENCE", "1 2 3 SUR 1", "SURFACE INCIDENCE", "1 2 3 SUR 2"},
-         {{1, {1, 2, 3}}},
-         {{1, 1}}},
+        {"with a blank, too", {keyword, " 1 2 3 SUR 1", "1 2 3 SUR 3"}, "", {}},
+        {"with a letter, too", {keyword, "A 2 3 SUR 1", "1 2 3 SUR 3"}, "", {}},
+        {"the keyword is a whole line", {keyword + "S", "1 2 3 SUR 1"}, "", {}},
+        {"only the first block is read", {keyword, "1 2 3 SUR 1", keyword, "1 2 3 SUR 2"}, "1: 1 2 3", {{1, 1}}},
     };
     for (const incidence& row : rows) {
         SCOPED_TRACE(row.why);
         const SdReader model = decks::read_frame(row.lines);
-        EXPECT_EQ(corners_of(model.surfaces), row.want);
+        EXPECT_EQ(shown(corners_of(model.surfaces)), row.want);
         EXPECT_EQ(model.surface_index, row.index);
         for (const SdSurface& surface : model.surfaces)
             EXPECT_EQ(surface.material, "CONCRETE");
