@@ -13,6 +13,24 @@
 
 namespace STAAD::detail {
 
+/// Calls `visit(first, last, is_last)` for every range of ascending numbers.
+template<class Id, class Visit>
+void for_each_range(std::span<const Id> ascending, Visit visit)
+{
+    if (ascending.empty())
+        return;
+    Id first = ascending.front();
+    Id last = first;
+    for (const Id id : ascending.subspan(1)) {
+        if (id == last || id - 1 != last) {
+            visit(first, last, false);
+            first = id;
+        }
+        last = id;
+    }
+    visit(first, last, true);
+}
+
 /// A list of numbers as it is written everywhere: `head`, the runs, and `tail` on the line of the last
 /// one. Lines of at most `line_width` characters, continued ones ending in " -"; no line feed at the end.
 /// The tail brings its own blank. Without numbers the head alone.
