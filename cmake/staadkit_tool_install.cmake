@@ -3,7 +3,7 @@ install(TARGETS staadkit_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMP
 
 # The notices of what others wrote and the tool contains lie beside it, where they are at hand.
 set(staadkit_notices "")
-foreach(package IN ITEMS libcli11-dev nlohmann-json3-dev)
+foreach(package IN ITEMS libcli11-dev libfmt-dev nlohmann-json3-dev)
     if(EXISTS "/usr/share/doc/${package}/copyright")
         file(READ "/usr/share/doc/${package}/copyright" notice)
         string(APPEND staadkit_notices "The program staadkit contains parts of this work:\n\n${notice}\n")

@@ -34,6 +34,6 @@ quietly() {
     fi
 }
 
-build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
+build_packages=(g++ cmake ninja-build libcli11-dev libfmt-dev nlohmann-json3-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix wine64 googletest)
 desktop_packages=(xvfb xdotool imagemagick openbox fonts-wqy-microhei) # to show dialogs on
