@@ -1,7 +1,7 @@
 # What `cmake --install` puts beside the library if the tool is built.
 install(TARGETS staadkit_tool RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT tool)
 
-# The notices of what others wrote and the tool contains lie beside it, where they are at hand.
+# The notices of what others wrote and the tool contains, where they are at hand.
 set(staadkit_notices "")
 foreach(package IN ITEMS libcli11-dev libfmt-dev nlohmann-json3-dev)
     if(EXISTS "/usr/share/doc/${package}/copyright")
@@ -15,22 +15,15 @@ if(staadkit_notices)
         COMPONENT tool)
 endif()
 
-# The manual page and the completions come from the tool itself, where it runs and has a use for them.
+# The manual page and the completions: files, which scripts/refresh-pages.sh makes from the command line of the tool.
 set(STAADKIT_ZSH_COMPLETIONS_DIR "${CMAKE_INSTALL_DATADIR}/zsh/site-functions"
     CACHE STRING "Where completions for zsh are installed")
-if(UNIX AND NOT CMAKE_CROSSCOMPILING)
-    set(staadkit_pages)
-    function(staadkit_page name file destination)
-        set(page "${CMAKE_CURRENT_BINARY_DIR}/pages/${file}")
-        add_custom_command(OUTPUT "${page}" DEPENDS staadkit_tool COMMENT "Printing ${file}" VERBATIM
-            COMMAND "${CMAKE_COMMAND}" -DPROGRAM=$<TARGET_FILE:staadkit_tool> -DPAGE=${name} "-DFILE=${page}"
-                -P "${PROJECT_SOURCE_DIR}/cmake/print_page.cmake")
-        install(FILES "${page}" DESTINATION "${destination}" COMPONENT tool)
-        set(staadkit_pages ${staadkit_pages} "${page}" PARENT_SCOPE)
-    endfunction()
-    staadkit_page(man staadkit.1 "${CMAKE_INSTALL_MANDIR}/man1")
-    staadkit_page(bash staadkit "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
-    staadkit_page(zsh _staadkit "${STAADKIT_ZSH_COMPLETIONS_DIR}")
-    staadkit_page(fish staadkit.fish "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
-    add_custom_target(staadkit_pages ALL DEPENDS ${staadkit_pages})
+if(UNIX)
+    set(share "${PROJECT_SOURCE_DIR}/share")
+    install(FILES "${share}/man/man1/staadkit.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT tool)
+    install(FILES "${share}/bash-completion/completions/staadkit"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT tool)
+    install(FILES "${share}/zsh/site-functions/_staadkit" DESTINATION "${STAADKIT_ZSH_COMPLETIONS_DIR}" COMPONENT tool)
+    install(FILES "${share}/fish/vendor_completions.d/staadkit.fish"
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT tool)
 endif()

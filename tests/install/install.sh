@@ -180,9 +180,9 @@ check_tool() { # zsh folder, command...
     "$@" info "$source_dir/examples/steel-portal.std" | grep -q '^joints: ' || fail "the tool reads nothing"
     man=$(only_one "$prefix"/share/man/man1/staadkit.1*)
     man -l "$man" | grep -q '^STAADKIT(1)' || fail "no manual page"
-    cmp "$prefix/share/bash-completion/completions/staadkit" <("$@" --print bash) || fail "bash"
-    cmp "$prefix/share/$zsh/_staadkit" <("$@" --print zsh) || fail "zsh"
-    cmp "$prefix/share/fish/vendor_completions.d/staadkit.fish" <("$@" --print fish) || fail "fish"
+    cmp "$prefix/share/bash-completion/completions/staadkit" "$source_dir/share/bash-completion/completions/staadkit" || fail "bash"
+    cmp "$prefix/share/$zsh/_staadkit" "$source_dir/share/zsh/site-functions/_staadkit" || fail "zsh"
+    cmp "$prefix/share/fish/vendor_completions.d/staadkit.fish" "$source_dir/share/fish/vendor_completions.d/staadkit.fish" || fail "fish"
     grep -rqs 'Redistributions in binary form' "$prefix/share/doc/staadkit" || fail "no notices of others' work"
 }
 

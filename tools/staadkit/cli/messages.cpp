@@ -1,7 +1,10 @@
 #include "cli/messages.h"
 
+#include "cli/terminal.h"
 #include "cli/text_encoding.h"
 #include "output/phrases.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -13,28 +16,39 @@ namespace {
 void print_line(std::string line)
 {
     line += '\n';
-    // A lost message has nobody left to be told to.
-    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
+    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr)); // there is no other place to report a failure
 }
 
 /// What a finding that stands for several adds to its text, which is that of the first of them.
 std::string further_ones(const STAAD::Finding& finding)
 {
     if (finding.code == skipped_code)
-        return " (" + count_of(finding.count, "line") + ')';
+        return fmt::format(" ({})", count_of(finding.count, "line"));
     if (finding.count < 2)
         return {};
-    std::string text = " (and " + std::to_string(finding.count - 1) + " more of this kind";
-    if (finding.last_line > finding.first_line)
-        text += ", up to line " + std::to_string(finding.last_line);
-    return text + ')';
+    const bool has_last = finding.last_line > finding.first_line;
+    return fmt::format(" (and {} more of this kind{})", finding.count - 1,
+                       has_last ? fmt::format(", up to line {}", finding.last_line) : "");
+}
+
+paint paint_of(STAAD::Finding::Severity severity)
+{
+    switch (severity) {
+    case STAAD::Finding::Error:
+        return paint::error;
+    case STAAD::Finding::Warning:
+        return paint::warning;
+    case STAAD::Finding::Note:
+        break;
+    }
+    return paint::note;
 }
 
 } // namespace
 
 void print_error(std::string_view text)
 {
-    print_line("staadkit: error: " + std::string(text));
+    print_line(fmt::format("staadkit: {} {}", painted("error:", paint::error, stderr), text));
 }
 
 const char* severity_word(STAAD::Finding::Severity severity)
@@ -50,15 +64,6 @@ const char* severity_word(STAAD::Finding::Severity severity)
     return "note";
 }
 
-std::string message_line(std::string_view file, const STAAD::Finding& finding)
-{
-    std::string line = printable_name(file);
-    if (finding.first_line != 0)
-        line += ':' + std::to_string(finding.first_line);
-    line += std::string(": ") + severity_word(finding.severity) + ' ' + finding.code + ": ";
-    return line + printable_text(finding.text) + further_ones(finding);
-}
-
 STAAD::Finding::Severity least_severity(bool with_notes)
 {
     return with_notes ? STAAD::Finding::Note : STAAD::Finding::Warning;
@@ -66,13 +71,19 @@ STAAD::Finding::Severity least_severity(bool with_notes)
 
 void print_finding(std::string_view file, const STAAD::Finding& finding)
 {
-    print_line(message_line(file, finding));
+    if (display().quiet && finding.severity != STAAD::Finding::Error)
+        return;
+    const std::string place = finding.first_line != 0 ? fmt::format(":{}", finding.first_line) : "";
+    const std::string word = painted(severity_word(finding.severity), paint_of(finding.severity), stderr);
+    print_line(fmt::format("{}{}: {} {}: {}{}", printable_name(file), place, word, finding.code,
+                           printable_text(finding.text), further_ones(finding)));
 }
 
 void print_example(std::string_view line)
 {
     constexpr std::size_t most_shown = 120;
-    print_line("    " + clipped(printable_text(line), most_shown));
+    if (!display().quiet)
+        print_line("    " + clipped(printable_text(line), most_shown));
 }
 
 void print_findings(std::string_view file, const STAAD::ReadReport& report, STAAD::Finding::Severity least,

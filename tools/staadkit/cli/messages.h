@@ -1,4 +1,4 @@
-/// Messages on standard error.
+/// Messages on standard error. With --quiet only errors are printed.
 #ifndef TOOLS_STAADKIT_CLI_MESSAGES_H
 #define TOOLS_STAADKIT_CLI_MESSAGES_H
 
@@ -13,26 +13,24 @@ namespace tool {
 /// the lines.
 inline constexpr const char* skipped_code = "skipped";
 
-/// Whose words they are where no file is named: "staadkit: error: TEXT".
+/// "staadkit: error: TEXT", for what no file is the cause of.
 void print_error(std::string_view text);
 
 const char* severity_word(STAAD::Finding::Severity severity);
 
-/// "tower.std:12: warning unit-word: TEXT"; without the line where the finding is about the text as
-/// a whole. A finding that stands for more adds "(and 9 more of this kind, up to line 65)".
-std::string message_line(std::string_view file, const STAAD::Finding& finding);
-
 /// The least grave severity that a verb prints: warnings, or notes too if they were asked for.
 STAAD::Finding::Severity least_severity(bool with_notes);
 
+/// "tower.std:12: warning unit-word: TEXT"; without the line where the finding is about the text as
+/// a whole. A finding that stands for more adds "(and 9 more of this kind, up to line 65)".
 void print_finding(std::string_view file, const STAAD::Finding& finding);
 
 /// A line of a file that shows what the message before it means: indented, and cut if it is long.
 void print_example(std::string_view line);
 
 /// Prints the findings that are at least as grave as `least` in the order of their lines, those
-/// about the text as a whole first. `without` names a code to leave out, because the results tell
-/// it already; empty: none.
+/// about the text as a whole first. `without` names a code to leave out, because the results have it
+/// already; empty: none.
 void print_findings(std::string_view file, const STAAD::ReadReport& report, STAAD::Finding::Severity least,
                     std::string_view without);
 

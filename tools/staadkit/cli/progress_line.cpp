@@ -1,7 +1,7 @@
 #include "cli/progress_line.h"
 
 #include "cli/native_path.h"
-#include "cli/terminal_services.h"
+#include "cli/terminal.h"
 #include "cli/text_encoding.h"
 
 #include <cstdint>
@@ -28,7 +28,7 @@ progress_line::progress_line(const std::string& path)
 {
     std::error_code no_file;
     const std::uintmax_t size = std::filesystem::file_size(native_path(path), no_file);
-    if (no_file || size <= long_file || !is_watched())
+    if (no_file || size <= long_file || display().quiet || !is_terminal(stderr))
         return;
     const std::string text = "reading " + printable_name(path) + ", " + std::to_string(size / megabyte) + " MB ...";
     width_ = display_width(text);

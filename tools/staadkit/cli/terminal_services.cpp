@@ -1,32 +1,17 @@
 #include "cli/terminal_services.h"
 
-#include "cli/messages.h"
+#include "cli/terminal.h"
 #include "cli/text_encoding.h"
 
 #include <cstdio>
 #include <string>
 
-#ifdef _WIN32
-#    include <io.h> // _isatty
-#else
-#    include <unistd.h> // isatty
-#endif
-
 namespace tool {
 namespace {
 
-bool is_terminal(std::FILE* stream) noexcept
-{
-#ifdef _WIN32
-    return _isatty(_fileno(stream)) != 0;
-#else
-    return isatty(fileno(stream)) != 0;
-#endif
-}
-
 void print(std::string_view text)
 {
-    static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr)); // nobody is left to be told of a failure
+    static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr)); // there is no other place to report a failure
 }
 
 char lower_case(char c) noexcept
@@ -49,14 +34,9 @@ std::string kind_of_file(std::u16string_view filter)
 
 } // namespace
 
-bool is_watched() noexcept
-{
-    return is_terminal(stderr);
-}
-
 bool can_ask() noexcept
 {
-    return is_watched() && is_terminal(stdin);
+    return is_terminal(stderr) && is_terminal(stdin);
 }
 
 std::optional<std::string> ask(std::string_view question)

@@ -10,8 +10,8 @@
 
 namespace tool {
 
-/// Messages go to standard error. Questions are asked where somebody is there to answer them, at a terminal;
-/// elsewhere the answer to a question is no, and no file is chosen.
+/// Messages go to standard error. Questions are asked at a terminal only; elsewhere the answer to a question is no,
+/// and no file is chosen.
 class terminal_services final : public STAAD::PlatformServices {
 public:
     /// Tests of files are left to `beneath`, which must outlive this.
@@ -25,13 +25,10 @@ private:
     STAAD::PlatformServices& beneath_;
 };
 
-/// Whether messages are seen, and input is typed, at a terminal.
+/// Whether messages are shown, and input is typed, at a terminal.
 bool can_ask() noexcept;
 
-/// Whether messages are seen at a terminal.
-bool is_watched() noexcept;
-
-/// The line typed as answer, without its end. Nothing at the end of input, or where nobody can be asked.
+/// The line typed as answer, without its end. Nothing at the end of input, or without a terminal.
 std::optional<std::string> ask(std::string_view question);
 
 /// True for "y" or "yes", whatever their case.

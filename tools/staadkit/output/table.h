@@ -18,24 +18,31 @@ enum class align { left, right };
 
 /// Cells of printable UTF-8, columns aligned, lines indented by two.
 ///
-/// A column is as wide as its widest cell, up to a bound: one long text must not pad every other
-/// line with blanks. Cells beyond the bound push the rest of their own line to the right.
+/// On a terminal lines do not wrap: the widest texts are cut, "..." at their end. Columns to the right hold
+/// numbers, which are never cut. Elsewhere nothing is cut: a column is as wide as its widest cell, up to a
+/// bound, as one long text must not pad every other line with blanks; cells beyond the bound push the rest of
+/// their own line to the right.
 class table {
 public:
     table() = default;
-    /// `columns` tells how the first columns are aligned; further ones are to the left.
+    /// `columns` says how the first columns are aligned; further ones are to the left.
     explicit table(std::vector<align> columns);
 
+    /// A row above all others, with the names of the columns or their units.
+    void add_heading(std::vector<std::string> cells);
     void add_row(std::vector<std::string> cells);
-    std::size_t size() const noexcept { return rows_.size(); }
+    /// The number of rows, headings apart.
+    std::size_t size() const noexcept { return rows_.size() - headings_; }
     void put(std_output& out) const;
 
 private:
     bool is_to_the_right(std::size_t column) const;
+    std::vector<std::size_t> widths_within(std::size_t room) const;
 
     std::vector<align> columns_;
     std::vector<std::vector<std::string>> rows_;
-    std::vector<std::size_t> widths_;
+    std::vector<std::size_t> widths_; ///< of the widest cells
+    std::size_t headings_ = 0;
 };
 
 } // namespace tool

@@ -1,14 +1,14 @@
-#include "cli/command_outline.h"
+#include "command_outline.h"
 
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <cstddef>
 
-namespace tool {
+namespace pages {
 namespace {
 
-/// The value of an option as the help shows it, less the brackets around one that may lack.
+/// The value of an option as the help shows it, without the brackets around one that may be left out.
 std::string placeholder_of(const CLI::Option& option)
 {
     std::string text = option.get_option_text();
@@ -19,19 +19,19 @@ std::string placeholder_of(const CLI::Option& option)
 }
 
 /// "wind|seismic" names the only two values there are.
-std::vector<std::string> words_of(const std::string& placeholder)
+words choices_in(const std::string& placeholder)
 {
-    std::vector<std::string> words;
+    words choices;
     for (std::size_t start = 0, bar = placeholder.find('|'); bar != std::string::npos; start = bar + 1) {
         bar = placeholder.find('|', start);
-        words.push_back(placeholder.substr(start, bar - start));
+        choices.push_back(placeholder.substr(start, bar - start));
     }
-    return words;
+    return choices;
 }
 
 value_kind kind_of(const option_outline& option)
 {
-    if (!option.words.empty())
+    if (!option.choices.empty())
         return value_kind::word;
     return option.placeholder == "N" ? value_kind::number : value_kind::file;
 }
@@ -39,17 +39,23 @@ value_kind kind_of(const option_outline& option)
 option_outline outline_of(const CLI::Option& option)
 {
     option_outline outline;
+    outline.help = option.get_description();
+    outline.repeats = option.get_expected_max() > 1;
+    if (option.get_positional()) {
+        outline.names = {option.get_single_name()};
+        outline.kind = value_kind::file;
+        outline.value_may_lack = !option.get_required();
+        return outline;
+    }
     for (const std::string& name : option.get_snames())
         outline.names.push_back('-' + name);
     for (const std::string& name : option.get_lnames())
         outline.names.push_back("--" + name);
-    outline.help = option.get_description();
     if (option.get_items_expected_max() == 0)
         return outline;
     outline.value_may_lack = option.get_items_expected_min() == 0;
-    outline.repeats = option.get_expected_max() > 1;
     outline.placeholder = placeholder_of(option);
-    outline.words = words_of(outline.placeholder);
+    outline.choices = choices_in(outline.placeholder);
     outline.kind = kind_of(outline);
     return outline;
 }
@@ -61,24 +67,44 @@ command_outline outline_of(const CLI::App& app)
     command_outline outline;
     outline.name = app.get_name();
     outline.help = app.get_description();
-    for (const CLI::Option* option : app.get_options()) {
-        if (option->get_positional())
-            outline.arguments.push_back(
-                {option->get_single_name(), option->get_expected_max() > 1, option->get_description()});
-        else
-            outline.options.push_back(outline_of(*option));
-    }
+    for (const CLI::Option* option : app.get_options())
+        (option->get_positional() ? outline.arguments : outline.options).push_back(outline_of(*option));
     for (const CLI::App* verb : app.get_subcommands({}))
         outline.verbs.push_back(outline_of(*verb));
+    // An argument of that name is one of the verbs.
+    for (command_outline& verb : outline.verbs) {
+        for (option_outline& argument : verb.arguments) {
+            if (argument.names.front() != "VERB")
+                continue;
+            argument.kind = value_kind::word;
+            argument.choices = verb_names(outline);
+        }
+    }
     return outline;
 }
 
-std::vector<std::string> option_names(const command_outline& command)
+words verb_names(const command_outline& app)
 {
-    std::vector<std::string> names;
+    words names;
+    for (const command_outline& verb : app.verbs)
+        names.push_back(verb.name);
+    return names;
+}
+
+words option_names(const command_outline& command)
+{
+    words names;
     for (const option_outline& option : command.options)
         names.insert(names.end(), option.names.begin(), option.names.end());
     return names;
 }
 
-} // namespace tool
+std::string joined(const words& list, std::string_view between)
+{
+    std::string text;
+    for (const std::string& word : list)
+        text.append(text.empty() ? "" : between).append(word);
+    return text;
+}
+
+} // namespace pages

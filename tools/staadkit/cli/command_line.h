@@ -1,0 +1,27 @@
+/// The command line: the verbs, their options, and the help on both.
+#ifndef TOOLS_STAADKIT_CLI_COMMAND_LINE_H
+#define TOOLS_STAADKIT_CLI_COMMAND_LINE_H
+
+#include "cli/verbs.h"
+
+#include <string>
+#include <vector>
+
+namespace tool {
+
+/// The verb that prints the help of the others.
+inline constexpr const char* help_verb = "help";
+
+/// In the order of the help.
+std::vector<std::string> verb_names();
+
+/// Gives an empty `app` all verbs and options. Parsing then sets `action` to what the chosen verb does, and
+/// display() to what is asked for.
+void set_up_command_line(CLI::App& app, verb_action& action);
+
+/// With their dashes, short ones first, in the order of the help.
+std::vector<std::string> option_names(const CLI::App& command);
+
+} // namespace tool
+
+#endif
