@@ -104,7 +104,7 @@ TEST(Messages, ManyOfAKindAreCounted)
 {
     const tool_run tool;
     std::string deck = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n";
-    // Sixty members that end at a joint nobody defined: fifty are told one by one, ten together.
+    // Sixty members that end at a joint that is not defined: fifty are reported one by one, ten together.
     for (int member = 1; member <= 60; ++member)
         deck += std::to_string(member) + " 1 " + std::to_string(1000 + member) + "\n";
     const std::string path = tool.write("loose.std", deck + "FINISH\n");
@@ -146,7 +146,7 @@ TEST(Messages, StandardInputThatCannotBeRead)
 TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
 {
     const tool_run tool;
-    // Not UTF-8, but GBK: the name is not decoded, or nobody could copy it.
+    // Not UTF-8, but GBK: the name is not decoded, or it could not be copied.
     const std::string path = tool.missing("a\x1B[31m\xB8\xD6.std");
     const tool_result result = tool({"info", path});
     EXPECT_TRUE(contains(result.err, "/a\\x1B[31m\xB8\xD6.std: error file-missing: ")) << result.err;
@@ -169,7 +169,33 @@ TEST(Messages, NotesOnRequestOnly)
     const std::string note = path + ":62: note skipped: LOAD COMB (2 lines)";
     EXPECT_TRUE(has_line(tool({"dump", "--notes", path}).err, note));
     EXPECT_FALSE(contains(tool({"dump", path}).err, ": note "));
-    EXPECT_FALSE(contains(tool({"info", "--notes", path}).err, "skipped")) << "the report tells it already";
+    EXPECT_FALSE(contains(tool({"info", "--notes", path}).err, "skipped")) << "the report has it already";
+}
+
+TEST(Messages, QuietLeavesErrorsOnly)
+{
+    const tool_run tool;
+    const std::string path = tool.write("words.std", "UNIT METERS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
+                                                     "MEMBER INCIDENCES\n1 1 2\nFINISH\n");
+    const tool_result loud = tool({"info", path});
+    EXPECT_TRUE(contains(loud.err, "warning"));
+    for (const auto& arguments : {std::vector<std::string>{"info", "-q", path}, {"--quiet", "info", "--notes", path}}) {
+        const tool_result quiet = tool(arguments);
+        EXPECT_EQ(quiet.exit_code, 0);
+        EXPECT_EQ(quiet.err, "");
+        EXPECT_EQ(quiet.out, loud.out);
+    }
+    EXPECT_EQ(tool({"convert", "-q", path, "-"}).err, "");
+    EXPECT_TRUE(contains(tool({"info", "-q", tool.missing("nowhere.std")}).err, ": error file-missing: "));
+}
+
+TEST(Messages, ColorsGoIntoFilesOnRequestOnly)
+{
+    const tool_run tool;
+    const std::string path = tool.missing("nowhere.std");
+    EXPECT_FALSE(contains(tool({"info", path}).err, "\x1B"));
+    EXPECT_TRUE(contains(tool({"info", path, "--color", "always"}).err, ": \x1B[1;31merror\x1B[0m file-missing: "));
+    EXPECT_FALSE(contains(tool({"info", "--color=always", "--json", path}).out, "\x1B"));
 }
 
 TEST(Messages, BytesOfTheFileCannotDriveTheTerminal)

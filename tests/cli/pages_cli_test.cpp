@@ -1,151 +1,100 @@
-// The manual page and the completions of the shells say what the help says, verb by verb.
+// The manual page and the completions of the shells have every verb and option that the help has.
 
 #include "tool_run.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <sstream>
 
 namespace cli_test {
 namespace {
 
-/// The lines of the help below a heading, to the next blank one.
-std::vector<std::string> lines_below(const std::string& help, const std::string& heading)
+/// What the lines of the help below a heading begin with: "  -h,--help    Print ..." with two names.
+std::vector<std::string> names_in_help(const std::string& help, const std::string& heading)
 {
-    std::vector<std::string> lines;
-    std::istringstream stream(help);
-    std::string line;
-    while (std::getline(stream, line) && line != heading) {
+    std::istringstream lines(help.substr(help.find('\n' + heading + ":\n") + heading.size() + 3));
+    std::vector<std::string> names;
+    for (std::string line; std::getline(lines, line) && !line.empty();) {
+        std::istringstream list(line.substr(2, line.find(' ', 2) - 2));
+        for (std::string name; std::getline(list, name, ',');)
+            names.push_back(name);
     }
-    while (std::getline(stream, line) && !line.empty())
-        lines.push_back(line);
-    return lines;
+    return names;
 }
 
-std::vector<std::string> verbs_in_help(const tool_run& tool)
-{
-    std::vector<std::string> verbs;
-    for (const std::string& line : lines_below(tool({"--help"}).out, "Verbs:"))
-        verbs.push_back(line.substr(2, line.find(' ', 2) - 2));
-    return verbs;
-}
-
-/// The names of options: "  -h,--help    Print ..." has two. Of no verb: those of the tool.
-std::vector<std::string> options_in_help(const tool_run& tool, const std::string& verb)
-{
-    const std::string help = verb.empty() ? tool({"--help"}).out : tool({verb, "--help"}).out;
-    std::vector<std::string> options;
-    for (const std::string& line : lines_below(help, "Options:")) {
-        std::istringstream names(line.substr(2, line.find(' ', 2) - 2));
-        for (std::string name; std::getline(names, name, ',');)
-            options.push_back(name);
-    }
-    return options;
-}
-
-std::string page(const tool_run& tool, const std::string& name)
-{
-    const tool_result result = tool({"--print", name});
-    EXPECT_EQ(result.exit_code, 0) << name;
-    EXPECT_EQ(result.err, "") << name;
-    return result.out;
-}
-
-/// The part from `first` to the next `last` behind it; empty if there is none.
+/// The part from `first` to the next `last` after it; empty if there is none.
 std::string part(const std::string& text, const std::string& first, const std::string& last)
 {
     const std::size_t start = text.find(first);
-    if (start == std::string::npos)
-        return {};
-    return text.substr(start, text.find(last, start + first.size()) - start);
+    return start == std::string::npos ? "" : text.substr(start, text.find(last, start + first.size()) - start);
 }
 
-/// As a roff page has it.
-std::string with_roff_hyphens(const std::string& text)
+std::string roff(const std::string& option)
 {
-    std::string result;
-    for (const char c : text)
-        result += c == '-' ? std::string("\\-") : std::string(1, c);
-    return result;
+    std::string text = "\\fB";
+    for (const char c : option)
+        text += c == '-' ? std::string("\\-") : std::string(1, c);
+    return text + "\\fR";
 }
 
-TEST(Pages, HelpIsThere)
-{
-    const tool_run tool;
-    EXPECT_EQ(verbs_in_help(tool),
-              (std::vector<std::string>{"info", "dump", "convert", "forces", "storeys", "compare"}));
-    EXPECT_EQ(options_in_help(tool, ""), (std::vector<std::string>{"--version", "-h", "--help", "--print"}));
-    EXPECT_EQ(options_in_help(tool, "dump"), (std::vector<std::string>{"-h", "--help", "--notes"}));
-}
+struct page {
+    const char* path; ///< below share/
+    /// The part on a verb as blank-separated text, and how a page names a verb and an option in it.
+    std::string (*part_on)(const std::string& text, const std::string& verb);
+    std::string (*option)(const std::string& name);
+};
 
-TEST(Pages, ManualHasEveryVerbAndOption)
-{
-    const tool_run tool;
-    const std::string text = page(tool, "man");
-    EXPECT_TRUE(has_line(text, ".TH STAADKIT 1 \"\" \"staadkit " STAADKIT_VERSION "\" \"User Commands\""));
-    for (const std::string& option : options_in_help(tool, ""))
-        EXPECT_TRUE(contains(part(text, ".SH OPTIONS\n", ".SH "), "\\fB" + with_roff_hyphens(option) + "\\fR"));
-    for (const std::string& verb : verbs_in_help(tool)) {
-        const std::string section = part(text, ".SS " + verb + '\n', ".S");
-        EXPECT_TRUE(contains(text, "\n\\fBstaadkit " + verb + "\\fR [\\fIOPTIONS\\fR] ")) << verb;
-        for (const std::string& option : options_in_help(tool, verb))
-            EXPECT_TRUE(contains(section, "\\fB" + with_roff_hyphens(option) + "\\fR")) << verb << ' ' << option;
-    }
-    for (const char* arguments :
-         {"convert\\fR [\\fIOPTIONS\\fR] \\fIIN\\fR \\fIOUT\\fR\n", "info\\fR [\\fIOPTIONS\\fR] \\fIFILE\\fR...\n",
-          "\\fB\\-\\-template\\fR \\fBwind|seismic\\fR\n", "\\fB\\-\\-forces\\fR [\\fILISTING\\fR]\n",
-          "\\fB4\\fR\noutput not written\n"})
-        EXPECT_TRUE(contains(text, arguments)) << arguments;
-}
+const page pages[] = {
+    {"man/man1/staadkit.1",
+     [](const std::string& text, const std::string& verb) { return part(text, ".SS " + verb + '\n', ".S"); }, roff},
+    {"bash-completion/completions/staadkit",
+     [](const std::string& text, const std::string& verb) {
+         std::string words = part(text, "        " + verb + ":-*) words='", " ;;");
+         std::replace(words.begin(), words.end(), '\'', ' ');
+         return words;
+     },
+     [](const std::string& name) { return ' ' + name + ' '; }},
+    {"zsh/site-functions/_staadkit",
+     [](const std::string& text, const std::string& verb) {
+         std::string lines = part(text, "        " + verb + ")\n", ";;\n");
+         for (std::size_t at = lines.find("=["); at != std::string::npos; at = lines.find("=["))
+             lines.erase(at, 1);
+         return lines;
+     },
+     [](const std::string& name) { return name + '['; }},
+    {"fish/vendor_completions.d/staadkit.fish",
+     [](const std::string& text, const std::string& verb) {
+         return part(text, "'__fish_seen_subcommand_from " + verb + '\'', "'not __fish_seen");
+     },
+     [](const std::string& name) { return name[1] == '-' ? " -l " + name.substr(2) + ' ' : " -s " + name.substr(1); }}};
 
-TEST(Pages, BashHasEveryVerbAndOption)
-{
-    const tool_run tool;
-    const std::string text = page(tool, "bash");
-    for (const std::string& verb : verbs_in_help(tool)) {
-        EXPECT_TRUE(contains(part(text, "        :*) words='", "\n"), verb)) << verb;
-        // Options stand in one line, each between blanks or quotes.
-        std::string line = part(text, "        " + verb + ":-*) words='", "' ;;\n") + ' ';
-        line.replace(line.find('\''), 1, " ");
-        for (const std::string& option : options_in_help(tool, verb))
-            EXPECT_TRUE(contains(line, ' ' + option + ' ')) << verb << ' ' << option;
-    }
-}
-
-TEST(Pages, ZshHasEveryVerbAndOption)
+TEST(Pages, HaveEveryVerbAndOptionOfTheHelp)
 {
     const tool_run tool;
-    const std::string text = page(tool, "zsh");
-    for (const std::string& verb : verbs_in_help(tool)) {
-        EXPECT_TRUE(contains(text, "\n        '" + verb + ':')) << verb;
-        const std::string section = part(text, "        " + verb + ")\n", ";;\n");
-        for (const std::string& option : options_in_help(tool, verb))
-            EXPECT_TRUE(contains(section, option + '[') || contains(section, option + "=[")) << verb << ' ' << option;
-    }
-}
-
-TEST(Pages, FishHasEveryVerbAndOption)
-{
-    const tool_run tool;
-    const std::string text = page(tool, "fish");
-    for (const std::string& verb : verbs_in_help(tool)) {
-        EXPECT_TRUE(contains(text, " -a " + verb + " -d '")) << verb;
-        for (const std::string& option : options_in_help(tool, verb)) {
-            const bool is_long = option[1] == '-';
-            const std::string name = is_long ? "-l " + option.substr(2) : "-s " + option.substr(1);
-            // The name ends where a blank follows; -h and --help share a line.
-            const std::string head = "-n '__fish_seen_subcommand_from " + verb + "' ";
-            EXPECT_TRUE(contains(text, head + name + ' ') || contains(text, head + "-s h " + name + ' '))
-                << verb << ' ' << option;
+    const std::vector<std::string> verbs = names_in_help(tool({"--help"}).out, "Verbs");
+    EXPECT_EQ(verbs, (std::vector<std::string>{"info", "dump", "convert", "forces", "storeys", "compare", "help"}));
+    for (const std::string& verb : verbs) {
+        const std::vector<std::string> options = names_in_help(tool({"help", verb}).out, "Options");
+        EXPECT_EQ(options.back(), "--quiet") << verb;
+        for (const page& each : pages) {
+            const std::string on_verb =
+                each.part_on(read_file(std::string(STAADKIT_SOURCE_DIR "/share/") + each.path), verb);
+            for (const std::string& option : options)
+                EXPECT_TRUE(contains(on_verb, each.option(option))) << each.path << ' ' << verb << ' ' << option << '\n'
+                                                                    << on_verb;
         }
     }
 }
 
-TEST(Pages, NeedNoVerb)
+TEST(Pages, ManualNamesVersionCallsAndExitCodes)
 {
-    const tool_run tool;
-    EXPECT_EQ(tool({"--print=man"}).out, page(tool, "man"));
-    EXPECT_EQ(tool({"--print", "man", "info"}).out, page(tool, "man"));
+    const std::string man = read_file(STAADKIT_SOURCE_DIR "/share/man/man1/staadkit.1");
+    for (const char* line :
+         {".TH STAADKIT 1 \"\" \"staadkit " STAADKIT_VERSION "\" \"User Commands\"\n",
+          "\n\\fBstaadkit convert\\fR [\\fIOPTIONS\\fR] \\fIIN\\fR \\fIOUT\\fR\n", " \\fIFILE\\fR...\n",
+          " [\\fIVERB\\fR]\n", "\\fB\\-\\-template\\fR \\fBwind|seismic\\fR\n", "\\fB4\\fR\noutput not written\n"})
+        EXPECT_TRUE(contains(man, line)) << line;
 }
 
 } // namespace

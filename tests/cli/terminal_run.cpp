@@ -4,8 +4,10 @@
 #include <fcntl.h>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 extern char** environ;
 
@@ -15,9 +17,10 @@ namespace {
 /// Our end of a terminal.
 class terminal {
 public:
-    terminal() : end_(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
+    explicit terminal(unsigned short columns = 0) : end_(posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC))
     {
-        if (end_ == -1 || grantpt(end_) != 0 || unlockpt(end_) != 0)
+        const winsize size{24, columns, 0, 0};
+        if (end_ == -1 || grantpt(end_) != 0 || unlockpt(end_) != 0 || ioctl(end_, TIOCSWINSZ, &size) != 0)
             throw std::runtime_error("no terminal to be had");
     }
     ~terminal() { close(end_); }
@@ -32,7 +35,7 @@ public:
             throw std::runtime_error("the terminal takes no input");
     }
 
-    /// All that is shown until nobody holds the other end any more.
+    /// All that is shown until no process has the other end open any more.
     std::string shown() const
     {
         std::string text;
@@ -46,16 +49,19 @@ private:
     int end_;
 };
 
+/// Of an empty `out_path` standard output is the terminal, too.
 pid_t start(std::vector<std::string> words, const std::string& terminal_path, const std::string& out_path)
 {
     std::vector<char*> pointers;
     for (std::string& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
+    const std::string& out = out_path.empty() ? terminal_path : out_path;
     posix_spawn_file_actions_t streams;
     posix_spawn_file_actions_init(&streams);
     posix_spawn_file_actions_addopen(&streams, STDIN_FILENO, terminal_path.c_str(), O_RDWR | O_NOCTTY, 0);
-    posix_spawn_file_actions_addopen(&streams, STDOUT_FILENO, out_path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_addopen(&streams, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOCTTY,
+                                     0600);
     posix_spawn_file_actions_adddup2(&streams, STDIN_FILENO, STDERR_FILENO);
     pid_t process = 0;
     const int error = posix_spawn(&process, pointers.front(), &streams, nullptr, pointers.data(), environ);
@@ -65,17 +71,17 @@ pid_t start(std::vector<std::string> words, const std::string& terminal_path, co
     return process;
 }
 
-} // namespace
-
-tool_result at_terminal(const tool_run& tool, const std::vector<std::string>& arguments, std::string_view typed)
+/// What the terminal shows is `err` of the result.
+tool_result run_at(const terminal& screen, std::string_view typed, const std::vector<std::string>& environment,
+                   const std::vector<std::string>& arguments, const std::string& out_path)
 {
-    const std::string out = tool.missing("stdout");
-    std::vector<std::string> words = {STAADKIT_TOOL_PATH};
+    std::vector<std::string> words = {"/usr/bin/env", "-u", "NO_COLOR", "TERM=xterm"};
+    words.insert(words.end(), environment.begin(), environment.end());
+    words.emplace_back(STAADKIT_TOOL_PATH);
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const terminal screen;
     const int other_end = open(screen.path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC); // open until the tool has it
     screen.type(typed);
-    const pid_t process = start(words, screen.path(), out);
+    const pid_t process = start(words, screen.path(), out_path);
     close(other_end);
     tool_result result;
     result.err = screen.shown();
@@ -83,7 +89,26 @@ tool_result at_terminal(const tool_run& tool, const std::vector<std::string>& ar
     if (waitpid(process, &status, 0) != process)
         throw std::runtime_error("lost " + words.front());
     result.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+} // namespace
+
+tool_result at_terminal(const tool_run& tool, const std::vector<std::string>& arguments, std::string_view typed)
+{
+    const std::string out = tool.missing("stdout");
+    tool_result result = run_at(terminal(), typed, {"NO_COLOR=1"}, arguments, out);
     result.out = read_file(out);
+    return result;
+}
+
+tool_result on_screen(unsigned short columns, const std::vector<std::string>& environment,
+                      const std::vector<std::string>& arguments)
+{
+    tool_result result = run_at(terminal(columns), {}, environment, arguments, {});
+    std::swap(result.out, result.err);
+    for (std::size_t at = result.out.find('\r'); at != std::string::npos; at = result.out.find('\r', at))
+        result.out.erase(at, 1);
     return result;
 }
 

@@ -62,6 +62,7 @@ void add_display_options(CLI::App& command)
 {
     command.add_option("--color", "Show colours; auto, the default: on a terminal, unless NO_COLOR is set")
         ->check(choose_color)
+        ->take_last()
         ->type_name("WHEN")                 // in messages
         ->option_text("auto|never|always"); // in the help
     command.add_flag_callback(

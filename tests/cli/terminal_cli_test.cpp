@@ -1,0 +1,76 @@
+// What is different at a terminal: colours, and tables that fit.
+
+#include "terminal_run.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace cli_test {
+namespace {
+
+using words = std::vector<std::string>;
+
+constexpr const char* red = "\x1B[1;31m";
+
+struct color_row {
+    const char* why;
+    words environment;
+    words options;
+    bool has_colors;
+};
+
+const color_row colors[] = {
+    {"by itself at a terminal", {}, {}, true},
+    {"not where the environment refuses", {"NO_COLOR=1"}, {}, false},
+    {"an empty variable refuses nothing", {"NO_COLOR="}, {}, true},
+    {"not where the terminal has none", {"TERM=dumb"}, {}, false},
+    {"the option goes before the environment", {"NO_COLOR=1"}, {"--color", "always"}, true},
+    {"never", {}, {"--color=never"}, false},
+    {"the last one counts", {}, {"--color=never", "--color=auto"}, true},
+};
+
+TEST(Terminal, ShowsColorsAsAskedFor)
+{
+    const tool_run tool;
+    const std::string path = tool.missing("nowhere.std");
+    for (const color_row& each : colors) {
+        words arguments = {"info", path};
+        arguments.insert(arguments.end(), each.options.begin(), each.options.end());
+        const tool_result result = on_screen(0, each.environment, arguments);
+        const std::string word = each.has_colors ? red + std::string("error\x1B[0m") : "error";
+        EXPECT_EQ(result.out, path + ": " + word + " file-missing: the file does not exist\n") << each.why;
+        EXPECT_EQ(result.exit_code, 3) << each.why;
+    }
+}
+
+/// A load case with a title of 70 letters; the line of its table takes 115 cells.
+std::string deck_with_long_title()
+{
+    return small_deck("LOAD 1 LOADTYPE Dead TITLE " + std::string(70, 'T') + "\nSELFWEIGHT Y -1 LIST 1\n");
+}
+
+TEST(Terminal, LinesOfTablesFit)
+{
+    const tool_run tool;
+    const std::string path = tool.write("long.std", deck_with_long_title());
+    const std::string whole = "  1  dead  " + std::string(70, 'T') + "  1 member, 0 joints  1 SELFWEIGHT";
+    EXPECT_TRUE(has_line(tool({"info", path}).out, whole));
+    EXPECT_TRUE(has_line(on_screen(0, {}, {"info", path}).out, whole)) << "a terminal that does not say how wide it is";
+    EXPECT_TRUE(has_line(on_screen(116, {}, {"info", path}).out, whole)) << "the last cell of a line stays free";
+    // The other columns take 35 cells, and five gaps 10: of 79 cells the title has 34.
+    const std::string cut = on_screen(80, {}, {"info", path}).out;
+    EXPECT_TRUE(has_line(cut, "  1  dead  " + std::string(31, 'T') + "...  1 member, 0 joints  1 SELFWEIGHT")) << cut;
+}
+
+TEST(Terminal, NumbersAreNeverCut)
+{
+    const tool_run tool;
+    const std::string path = tool.write("tower.std", tower_deck());
+    const std::string narrow = on_screen(30, {"NO_COLOR=1"}, {"storeys", "-q", path}).out;
+    const std::string plain = tool({"storeys", path}).out;
+    EXPECT_EQ(narrow.substr(0, narrow.find("sections:")), plain.substr(0, plain.find("sections:")));
+}
+
+} // namespace
+} // namespace cli_test
