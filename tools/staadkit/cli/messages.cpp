@@ -1,5 +1,6 @@
 #include "cli/messages.h"
 
+#include "cli/progress_line.h"
 #include "cli/terminal.h"
 #include "cli/text_encoding.h"
 #include "output/phrases.h"
@@ -16,6 +17,7 @@ namespace {
 void print_line(std::string line)
 {
     line += '\n';
+    clear_progress();
     static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr)); // there is no other place to report a failure
 }
 

@@ -1,20 +1,25 @@
 #include "cli/progress_line.h"
 
-#include "cli/native_path.h"
 #include "cli/terminal.h"
 #include "cli/text_encoding.h"
 
-#include <cstdint>
+#include <fmt/format.h>
+
 #include <cstdio>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
+#include <utility>
 
 namespace tool {
 namespace {
 
-constexpr std::uintmax_t megabyte = 1'000'000;
-constexpr std::uintmax_t long_file = 16 * megabyte;
+using clock = std::chrono::steady_clock;
+
+constexpr auto before_shown = std::chrono::seconds(1);
+constexpr auto between_updates = std::chrono::milliseconds(100);
+
+/// There is one terminal: the line that may be shown on it, and the cells that it takes now.
+const progress_line* current = nullptr;
+std::size_t shown_width = 0;
 
 void print(std::string_view text)
 {
@@ -24,21 +29,51 @@ void print(std::string_view text)
 
 } // namespace
 
-progress_line::progress_line(const std::string& path)
+progress_line::progress_line(std::string name, unit counted)
+    : name_(std::move(name)), counted_(counted),
+      may_show_(current == nullptr && !display().quiet && is_terminal(stderr)), next_(clock::now() + before_shown)
 {
-    std::error_code no_file;
-    const std::uintmax_t size = std::filesystem::file_size(native_path(path), no_file);
-    if (no_file || size <= long_file || display().quiet || !is_terminal(stderr))
-        return;
-    const std::string text = "reading " + printable_name(path) + ", " + std::to_string(size / megabyte) + " MB ...";
-    width_ = display_width(text);
-    print(text);
+    if (may_show_)
+        current = this;
 }
 
 progress_line::~progress_line()
 {
-    if (width_ != 0)
-        print('\r' + std::string(width_, ' ') + '\r');
+    if (current != this)
+        return;
+    clear_progress();
+    current = nullptr;
+}
+
+void progress_line::update(std::size_t done, std::size_t total)
+{
+    if (!may_show_ || clock::now() < next_)
+        return;
+    next_ = clock::now() + between_updates;
+    const std::size_t width = terminal_width(stderr);
+    const std::string line = width > 1 ? clipped(text(done, total), width - 1) : text(done, total);
+    clear_progress();
+    print(line);
+    shown_width = display_width(line);
+}
+
+std::string progress_line::text(std::size_t done, std::size_t total) const
+{
+    constexpr double megabyte = 1e6;
+    if (counted_ == unit::files)
+        return fmt::format("{} of {} files", done, total);
+    const double read = static_cast<double>(done) / megabyte;
+    if (total == 0)
+        return fmt::format("reading {}: {:.0f} MB", printable_name(name_), read);
+    return fmt::format("reading {}: {:.0f} of {:.0f} MB", printable_name(name_), read,
+                       static_cast<double>(total) / megabyte);
+}
+
+void clear_progress()
+{
+    if (shown_width != 0)
+        print('\r' + std::string(shown_width, ' ') + '\r');
+    shown_width = 0;
 }
 
 } // namespace tool

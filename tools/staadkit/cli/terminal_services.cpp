@@ -1,5 +1,6 @@
 #include "cli/terminal_services.h"
 
+#include "cli/progress_line.h"
 #include "cli/terminal.h"
 #include "cli/text_encoding.h"
 
@@ -11,6 +12,7 @@ namespace {
 
 void print(std::string_view text)
 {
+    clear_progress();
     static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr)); // there is no other place to report a failure
 }
 

@@ -29,7 +29,7 @@ void put_counts(std_output& out, const model_comparison& comparison)
 {
     table rows({align::left, align::right, align::right, align::right, align::right, align::right, align::right,
                 align::right, align::right});
-    rows.add_row({"", "in NEW", "in OLD", "matched", "renumbered", "resectioned", "moved", "new", "gone"});
+    rows.add_heading({"", "in NEW", "in OLD", "matched", "renumbered", "resectioned", "moved", "new", "gone"});
     for (const named_kind& kind : kinds_of(comparison)) {
         const kind_comparison& counted = kind.compared;
         const bool has_sections = &counted == &comparison.members;

@@ -126,8 +126,8 @@ public:
             names.emplace_back(column.name);
             units.emplace_back(column.unit);
         }
-        rows_.add_row(std::move(names));
-        rows_.add_row(std::move(units));
+        rows_.add_heading(std::move(names));
+        rows_.add_heading(std::move(units));
     }
 
     void add(const STAAD::ForcePoint& point)
@@ -175,7 +175,7 @@ void put_extremes(std_output& out, const STAAD::SdReader& model)
     const align left = align::left;
     const align right = align::right;
     table rows({left, left, right, left, right, right, right});
-    rows.add_row({"", "", "value", "unit", "member", "load case", "position, mm"});
+    rows.add_heading({"", "", "value", "unit", "member", "load case", "position, mm"});
     for (const force_extreme& each : extremes)
         rows.add_row({each.component->name, each.word(), table_number(each.value, *each.component),
                       each.component->unit, std::to_string(each.member), std::to_string(each.load_case),

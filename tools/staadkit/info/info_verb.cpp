@@ -2,6 +2,7 @@
 
 #include "cli/messages.h"
 #include "cli/open_model.h"
+#include "cli/progress_line.h"
 #include "cli/verbs.h"
 #include "info/info_report.h"
 #include "output/std_output.h"
@@ -45,11 +46,14 @@ public:
     {
         const bool is_array = options_.as_json && !is_single_;
         const char* before = "[\n";
+        progress_line progress({}, progress_line::unit::files);
+        std::size_t count = 0;
         for (const std::string& file : options_.files) {
             if (is_array)
                 out_.put(before);
             before = ",\n";
             put_report(open_model(file));
+            progress.update(++count, options_.files.size());
         }
         if (is_array)
             out_.put("]\n");

@@ -1,6 +1,9 @@
 #include "output/std_output.h"
 
 #include "cli/messages.h"
+#include "cli/progress_line.h"
+
+#include <fmt/format.h>
 
 #include <cerrno>
 #include <cstddef>
@@ -44,6 +47,7 @@ void std_output::flush()
 
 void std_output::write(std::string_view text)
 {
+    clear_progress();
     if (!failed_ && std::fwrite(text.data(), 1, text.size(), stdout) != text.size()) {
         error_ = errno;
         failed_ = true;
@@ -59,7 +63,7 @@ exit_code std_output::close(exit_code so_far)
     }
     if (!failed_)
         return so_far;
-    print_error(std::string("standard output: ") + std::strerror(error_));
+    print_error(fmt::format("standard output: {}", std::strerror(error_)));
     return not_written;
 }
 

@@ -20,7 +20,7 @@ public:
     void put(char c);
     bool failed() const noexcept { return failed_; }
 
-    /// Writes what is left. `so_far` if all was written; else tells so and returns `not_written`.
+    /// Writes what is left. `so_far` if all was written; else says so and returns `not_written`.
     exit_code close(exit_code so_far);
 
 private:

@@ -57,8 +57,9 @@ class storey_table {
 public:
     explicit storey_table(bool with_forces) : with_forces_(with_forces), rows_(std::vector<align>(11, align::right))
     {
-        add({"storey", "base (m)", "height (m)"},
-            {"joints", "columns", "beams", "braces", "level braces", "shells", "sections"}, "with forces");
+        rows_.add_heading(cells_of({"storey", "base (m)", "height (m)"},
+                                   {"joints", "columns", "beams", "braces", "level braces", "shells", "sections"},
+                                   "with forces"));
     }
 
     void add_row(std::vector<std::string> name, const counts& counted, const std::string& sections)
@@ -66,21 +67,22 @@ public:
         const auto of = [&](STAAD::BeamType type) {
             return std::to_string(counted.members_of[static_cast<std::size_t>(type)]);
         };
-        add(std::move(name),
-            {std::to_string(counted.joints), of(STAAD::Column), of(STAAD::Beam), of(STAAD::Brace),
-             of(STAAD::HorizontalBrace), std::to_string(counted.shells), sections},
-            std::to_string(counted.with_forces));
+        rows_.add_row(cells_of(std::move(name),
+                               {std::to_string(counted.joints), of(STAAD::Column), of(STAAD::Beam), of(STAAD::Brace),
+                                of(STAAD::HorizontalBrace), std::to_string(counted.shells), sections},
+                               std::to_string(counted.with_forces)));
     }
 
     void put(std_output& out) const { rows_.put(out); }
 
 private:
-    void add(std::vector<std::string> row, const std::vector<std::string>& cells, const std::string& forces)
+    std::vector<std::string> cells_of(std::vector<std::string> row, const std::vector<std::string>& cells,
+                                      const std::string& forces) const
     {
         row.insert(row.end(), cells.begin(), cells.end());
         if (with_forces_)
             row.push_back(forces);
-        rows_.add_row(std::move(row));
+        return row;
     }
 
     bool with_forces_;
