@@ -1,4 +1,4 @@
-#include "command_outline.h"
+#include "pages.h"
 
 #include <CLI/CLI.hpp>
 
@@ -33,7 +33,7 @@ value_kind kind_of(const option_outline& option)
 {
     if (!option.choices.empty())
         return value_kind::word;
-    return option.placeholder == "N" ? value_kind::number : value_kind::file;
+    return option.placeholder == "N" || option.placeholder == "LIST" ? value_kind::number : value_kind::file;
 }
 
 option_outline outline_of(const CLI::Option& option)

@@ -1,6 +1,6 @@
 // staadkit_pages FOLDER: writes the manual page and the completions below the folder, as they lie below share/.
 
-#include "cli/command_line.h"
+#include "command_line.h"
 #include "pages.h"
 
 #include <CLI/CLI.hpp>

@@ -1,10 +1,10 @@
 // staadkit: shows what .std files hold, and writes them anew.
 
-#include "cli/command_line.h"
 #include "cli/messages.h"
 #include "cli/suggest.h"
 #include "cli/terminal_services.h"
 #include "cli/text_encoding.h"
+#include "command_line.h"
 #include "output/std_output.h"
 
 #include <CLI/CLI.hpp>

@@ -3,7 +3,6 @@
 #include "cli/progress_line.h"
 #include "cli/terminal.h"
 #include "cli/text_encoding.h"
-#include "output/phrases.h"
 
 #include <fmt/format.h>
 
@@ -25,7 +24,7 @@ void print_line(std::string line)
 std::string further_ones(const STAAD::Finding& finding)
 {
     if (finding.code == skipped_code)
-        return fmt::format(" ({})", count_of(finding.count, "line"));
+        return fmt::format(" ({} {})", finding.count, finding.count == 1 ? "line" : "lines");
     if (finding.count < 2)
         return {};
     const bool has_last = finding.last_line > finding.first_line;

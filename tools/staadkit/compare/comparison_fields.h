@@ -4,7 +4,7 @@
 
 #include "cli/open_model.h"
 #include "compare/model_comparison.h"
-#include "output/finding_fields.h"
+#include "output/json_writer.h"
 #include "staad/compare/match.h"
 
 #include <cstddef>

@@ -1,7 +1,6 @@
 #include "compare/comparison_text.h"
 
 #include "output/phrases.h"
-#include "output/run_list.h"
 #include "output/table.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "forces/force_selection.h"
 
-#include "output/run_list.h"
+#include "output/phrases.h"
 #include "staad/text/ranges.h"
 #include "staad/text/split_string.h"
 

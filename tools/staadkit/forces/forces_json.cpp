@@ -3,7 +3,6 @@
 #include "forces/force_selection.h"
 #include "forces/force_tables.h"
 #include "forces/forces_report.h"
-#include "output/finding_fields.h"
 #include "output/json_writer.h"
 #include "output/phrases.h"
 

@@ -1,7 +1,6 @@
 // The report of "info" for programs: numbers not rounded, texts in full.
 
 #include "info/info_report.h"
-#include "output/finding_fields.h"
 #include "output/json_writer.h"
 #include "output/phrases.h"
 

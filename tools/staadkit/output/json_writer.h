@@ -6,9 +6,10 @@
 #ifndef TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 #define TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 
-#include "output/finding_fields.h"
+#include "cli/messages.h"
 #include "output/std_output.h"
 #include "staad/model/fields.h"
+#include "staad/report/read_report.h"
 
 #include <array>
 #include <cstddef>
@@ -21,6 +22,18 @@
 #include <vector>
 
 namespace tool {
+
+/// The fields of a finding as JSON documents have them.
+template<class Visit>
+void each_field(const STAAD::Finding& finding, Visit visit)
+{
+    visit("severity", std::string(severity_word(finding.severity)));
+    visit("code", finding.code);
+    visit("first_line", finding.first_line);
+    visit("last_line", finding.last_line);
+    visit("text", finding.text);
+    visit("count", finding.count);
+}
 
 class json_writer {
 public:

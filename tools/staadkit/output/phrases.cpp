@@ -1,8 +1,12 @@
 #include "output/phrases.h"
 
+#include "staad/text/ranges.h"
+
+#include <fmt/format.h>
+
 #include <algorithm>
-#include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace tool {
 namespace {
@@ -35,7 +39,7 @@ std::string storey_terms(const std::vector<double>& levels)
             return text + "...";
         const std::size_t count = equal_storeys(levels, first);
         if (count > 1)
-            text += std::to_string(count) + " x ";
+            text += fmt::format("{} x ", count);
         text += storey_metres(levels[first + 1] - levels[first]);
         first += count;
     }
@@ -46,27 +50,19 @@ std::string storey_terms(const std::vector<double>& levels)
 
 std::string count_of(std::size_t count, std::string_view noun)
 {
-    std::string text = std::to_string(count) + ' ';
-    text += noun;
-    if (count != 1)
-        text += 's';
-    return text;
+    return fmt::format("{} {}{}", count, noun, count == 1 ? "" : "s");
 }
 
 std::string short_number(double number)
 {
-    char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::general, 7);
-    return {digits, end.ptr};
+    return fmt::format("{:.7g}", number);
 }
 
 std::string fixed_number(double number, int digits)
 {
-    char text[400]; // the largest double has 309 digits before the point
-    const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::fixed, digits);
-    const std::string_view written(text, static_cast<std::size_t>(end.ptr - text));
-    const bool is_minus_zero = written.front() == '-' && written.find_first_not_of("-0.") == std::string_view::npos;
-    return std::string(is_minus_zero ? written.substr(1) : written);
+    const std::string text = fmt::format("{:.{}f}", number, digits);
+    const bool is_minus_zero = text.front() == '-' && text.find_first_not_of("-0.") == std::string::npos;
+    return is_minus_zero ? text.substr(1) : text;
 }
 
 std::string metres(double length)
@@ -83,16 +79,27 @@ std::string storeys_in_words(const std::vector<double>& levels)
         return "none (no upright and no level member)";
     if (!std::all_of(levels.begin(), levels.end(), [](double level) { return std::isfinite(level); }))
         return "not finite";
+    const std::string base = storey_metres(levels.front());
     if (levels.size() == 1)
-        return "none (one level, at " + storey_metres(levels.front()) + " m)";
-    return std::to_string(levels.size() - 1) + " (" + storey_terms(levels) + " m), base at " +
-           storey_metres(levels.front()) + " m";
+        return fmt::format("none (one level, at {} m)", base);
+    return fmt::format("{} ({} m), base at {} m", levels.size() - 1, storey_terms(levels), base);
 }
 
 const char* load_type_word(STAAD::LoadCase::LoadType type) noexcept
 {
     constexpr const char* words[] = {"unknown", "dead", "live", "wind", "seismic"};
     return words[type];
+}
+
+std::string run_list(const std::vector<int>& numbers)
+{
+    constexpr std::size_t most_runs = 10;
+    constexpr std::size_t one_line = std::numeric_limits<std::size_t>::max();
+    auto runs = STAAD::make_id_ranges(numbers);
+    const bool is_cut = runs.size() > most_runs;
+    if (is_cut)
+        runs.resize(most_runs);
+    return STAAD::format_id_ranges({}, runs, one_line) + (is_cut ? " ..." : "");
 }
 
 } // namespace tool

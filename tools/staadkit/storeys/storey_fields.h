@@ -3,7 +3,7 @@
 #define TOOLS_STAADKIT_STOREYS_STOREY_FIELDS_H
 
 #include "cli/open_model.h"
-#include "output/finding_fields.h"
+#include "output/json_writer.h"
 #include "storeys/storey_summary.h"
 
 #include <optional>

@@ -1,4 +1,4 @@
-#include "cli/command_line.h"
+#include "command_line.h"
 
 #include "cli/terminal.h"
 #include "output/std_output.h"

@@ -1,6 +1,6 @@
 /// The command line: the verbs, their options, and the help on both.
-#ifndef TOOLS_STAADKIT_CLI_COMMAND_LINE_H
-#define TOOLS_STAADKIT_CLI_COMMAND_LINE_H
+#ifndef TOOLS_STAADKIT_COMMAND_LINE_H
+#define TOOLS_STAADKIT_COMMAND_LINE_H
 
 #include "cli/verbs.h"
 
