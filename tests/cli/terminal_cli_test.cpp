@@ -1,4 +1,4 @@
-// What is different at a terminal: colours, and tables that fit.
+// What is different at a terminal: colours, tables that fit, progress.
 
 #include "terminal_run.h"
 
@@ -73,6 +73,32 @@ TEST(Terminal, NumbersAreNeverCutAndHeadingsBold)
     ASSERT_NE(bold, std::string::npos) << narrow;
     narrow.erase(narrow.find("\x1B[0m"), 4).erase(bold, 4);
     EXPECT_EQ(narrow.substr(0, narrow.find("sections:")), plain.substr(0, plain.find("sections:")));
+}
+
+/// The tool with a deck on its standard input that comes in two parts, more than a second between them.
+words slow_input(const std::string& deck)
+{
+    return {"sh", "-c", "(head -c 1000000 " + deck + "; sleep 1.2; tail -c +1000001 " + deck + ") | \"$0\" \"$@\""};
+}
+
+TEST(Terminal, ShowsTheBytesOfALongReading)
+{
+    const tool_run tool;
+    const std::string deck = tool.write("long.std", std::string(2000000, '\n') + small_deck());
+    const std::string shown = on_screen(80, slow_input(deck), {"info", "-"}).out;
+    const std::size_t progress = shown.find("reading <stdin>: 1 MB");
+    ASSERT_NE(progress, std::string::npos) << shown;
+    EXPECT_LT(progress, shown.find("<stdin>\nunits:")) << shown;
+    EXPECT_FALSE(contains(on_screen(80, slow_input(deck), {"info", "-q", "-"}).out, "reading"));
+}
+
+TEST(Terminal, ShowsTheFilesOfALongReading)
+{
+    const tool_run tool;
+    const std::string deck = tool.write("long.std", std::string(2000000, '\n') + small_deck());
+    const std::string shown = on_screen(80, slow_input(deck), {"info", "-", deck, deck}).out;
+    EXPECT_TRUE(contains(shown, "1 of 3 files")) << shown;
+    EXPECT_FALSE(contains(shown, "reading")) << shown;
 }
 
 } // namespace

@@ -34,12 +34,14 @@ std::FILE* open_file(const std::filesystem::path& path, const char* mode)
 
 #endif
 
-bool read_to_end(std::FILE* stream, std::string& text)
+bool read_to_end(std::FILE* stream, std::string& text, const std::function<void(std::size_t)>& progress)
 {
     std::array<char, 1U << 16U> block;
     for (std::size_t count = block.size(); count == block.size();) {
         count = std::fread(block.data(), 1, block.size(), stream);
         text.append(block.data(), count);
+        if (progress)
+            progress(text.size());
     }
     return std::ferror(stream) == 0;
 }

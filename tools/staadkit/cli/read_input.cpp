@@ -4,6 +4,8 @@
 #include "cli/progress_line.h"
 
 #include <cerrno>
+#include <cstddef>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string_view>
@@ -72,10 +74,12 @@ std::string kind_of(const std::string& bytes)
     return {};
 }
 
-input_bytes read_stream(std::FILE* stream)
+/// `size` is that of the file; 0 if it has none, as a pipe.
+input_bytes read_stream(std::FILE* stream, const std::string& name, std::size_t size)
 {
     input_bytes input;
-    if (!read_to_end(stream, input.bytes))
+    progress_line shown(input_name(name));
+    if (!read_to_end(stream, input.bytes, [&shown, size](std::size_t done) { shown.update(done, size); }))
         return failure(FindingCode::file_unreadable, "it cannot be read to its end" + reason(errno));
     return input;
 }
@@ -85,16 +89,17 @@ input_bytes read_standard_input()
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
-    return read_stream(stdin);
+    return read_stream(stdin, "-", 0);
 }
 
 input_bytes read_file(const std::string& name)
 {
-    const progress_line shown(name);
+    std::error_code no_size;
+    const std::uintmax_t size = std::filesystem::file_size(native_path(name), no_size);
     errno = 0;
     const std::unique_ptr<std::FILE, close_file> file(open_file(native_path(name), "rb"));
     if (file)
-        return read_stream(file.get());
+        return read_stream(file.get(), name, no_size ? 0 : static_cast<std::size_t>(size));
     if (errno == ENOENT)
         return failure(FindingCode::file_missing, "the file does not exist");
     return failure(FindingCode::file_access, "the file cannot be opened" + reason(errno));

@@ -46,14 +46,17 @@ public:
     {
         const bool is_array = options_.as_json && !is_single_;
         const char* before = "[\n";
-        progress_line progress({}, progress_line::unit::files);
+        std::optional<progress_line> progress;
+        if (!is_single_)
+            progress.emplace(std::string(), progress_line::unit::files);
         std::size_t count = 0;
         for (const std::string& file : options_.files) {
             if (is_array)
                 out_.put(before);
             before = ",\n";
             put_report(open_model(file));
-            progress.update(++count, options_.files.size());
+            if (progress)
+                progress->update(++count, options_.files.size());
         }
         if (is_array)
             out_.put("]\n");
