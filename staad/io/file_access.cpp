@@ -20,24 +20,14 @@ namespace {
 
 #ifdef _WIN32
 /// Windows has wide names for files: narrow ones stop at 260 characters.
-std::FILE* open(const char* path, const char* mode)
+std::FILE* open_stream(const std::filesystem::path& path, const char* mode)
 {
-    return _wfopen(wide_path(path).c_str(), wide_text(mode).c_str());
-}
-
-std::filesystem::path system_path(const char* path)
-{
-    return wide_path(path);
+    return _wfopen(long_path(path.native()).c_str(), wide_text(mode).c_str());
 }
 #else
-std::FILE* open(const char* path, const char* mode)
+std::FILE* open_stream(const std::filesystem::path& path, const char* mode)
 {
-    return std::fopen(path, mode);
-}
-
-std::filesystem::path system_path(const char* path)
-{
-    return path;
+    return std::fopen(path.c_str(), mode);
 }
 #endif
 
@@ -52,10 +42,10 @@ using open_file = std::unique_ptr<std::FILE, close_file>;
 constexpr std::size_t first_guess = 1 << 16;
 
 /// A named pipe opened for reading and writing never ends: this program itself could still write to it.
-bool is_pipe(const char* path)
+bool is_pipe(const std::filesystem::path& path)
 {
     std::error_code error;
-    return std::filesystem::is_fifo(system_path(path), error);
+    return std::filesystem::is_fifo(path, error);
 }
 
 /// Size of a file that can be measured, 0 of one that cannot (a device).
@@ -93,19 +83,11 @@ void read_to_end(std::FILE* file, file_bytes& result)
     }
 }
 
-} // namespace
-
-file_bytes read_updatable_file(const char* path)
+file_bytes read_opened(const std::filesystem::path& path, const char* mode)
 {
     file_bytes result;
-    if (path == nullptr)
-        return result;
-    if (is_pipe(path)) {
-        result.outcome = file_bytes::state::not_accessible;
-        return result;
-    }
     errno = 0;
-    const open_file file(open(path, "r+b"));
+    const open_file file(open_stream(path, mode));
     if (!file) {
         result.outcome = errno == ENOENT ? file_bytes::state::missing : file_bytes::state::not_accessible;
         return result;
@@ -116,32 +98,74 @@ file_bytes read_updatable_file(const char* path)
     return result;
 }
 
+} // namespace
+
+std::filesystem::path system_path(const char* name)
+{
+#ifdef _WIN32
+    return wide_path(name);
+#else
+    return name;
+#endif
+}
+
+file_bytes read_updatable_file(const char* path)
+{
+    if (path != nullptr && !is_pipe(system_path(path)))
+        return read_opened(system_path(path), "r+b");
+    file_bytes nothing;
+    nothing.outcome = path == nullptr ? file_bytes::state::missing : file_bytes::state::not_accessible;
+    return nothing;
+}
+
+file_bytes read_file(const std::filesystem::path& path)
+{
+    return read_opened(path, "rb");
+}
+
 bool can_read(const char* path)
+{
+    return path != nullptr && can_read(system_path(path));
+}
+
+bool can_read(const std::filesystem::path& path)
 {
 #ifdef _WIN32
     constexpr int for_reading = 4;
-    return path != nullptr && _waccess(wide_path(path).c_str(), for_reading) == 0;
+    return _waccess(long_path(path.native()).c_str(), for_reading) == 0;
 #else
-    return path != nullptr && access(path, R_OK) == 0;
+    return access(path.c_str(), R_OK) == 0;
 #endif
 }
 
 bool can_be_opened(const char* path)
 {
+    return path != nullptr && can_be_opened(system_path(path));
+}
+
+bool can_be_opened(const std::filesystem::path& path)
+{
     std::error_code error;
-    if (path == nullptr || std::filesystem::is_directory(system_path(path), error))
-        return false;
-    return open_file(open(path, "r")) != nullptr;
+    return !std::filesystem::is_directory(path, error) && open_file(open_stream(path, "r")) != nullptr;
 }
 
 output_file::output_file(const char* path)
 {
-    if (path == nullptr) {
+    if (path == nullptr)
         error_ = std::make_error_code(std::errc::invalid_argument);
-        return;
-    }
+    else
+        open(system_path(path));
+}
+
+output_file::output_file(const std::filesystem::path& path)
+{
+    open(path);
+}
+
+void output_file::open(const std::filesystem::path& path)
+{
     errno = 0;
-    file_ = open(path, "w");
+    file_ = open_stream(path, "w");
     if (file_ == nullptr)
         fail();
 }

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <string_view>
 #include <system_error>
@@ -19,15 +20,23 @@ struct file_bytes {
     std::size_t size = 0;
 };
 
+/// The path that a narrow name is: the system's own bytes, on Windows text in the ANSI code page.
+std::filesystem::path system_path(const char* name);
+
 /// Reads the whole of `path`, opened for reading and writing although nothing is written: a file that
 /// is missing or write-protected is refused. A null path is missing.
 file_bytes read_updatable_file(const char* path);
 
+/// Reads the whole of `path`, opened for reading alone: a device or pipe to its end.
+file_bytes read_file(const std::filesystem::path& path);
+
 /// Whether a file of that name is there and may be read; false for a null path.
 bool can_read(const char* path);
+bool can_read(const std::filesystem::path& path);
 
 /// Whether `path` can be opened for reading as a file.
 bool can_be_opened(const char* path);
+bool can_be_opened(const std::filesystem::path& path);
 
 /// A text file written from its beginning: what stood in it is gone. Line feeds become the line ends of
 /// the platform. After the first failure it takes everything and writes nothing.
@@ -35,6 +44,7 @@ class output_file {
 public:
     /// A null path cannot be opened.
     explicit output_file(const char* path);
+    explicit output_file(const std::filesystem::path& path);
     ~output_file();
     output_file(const output_file&) = delete;
     output_file& operator=(const output_file&) = delete;
@@ -45,6 +55,7 @@ public:
     std::error_code close() noexcept;
 
 private:
+    void open(const std::filesystem::path& path);
     void fail() noexcept;
 
     std::FILE* file_ = nullptr;

@@ -11,7 +11,7 @@ namespace {
 /// earlier than files.
 constexpr std::size_t longest_plain_path = 247;
 
-/// The whole path from the drive on, with "\" between its parts: what stands behind the prefix is taken
+/// The whole path from the drive on, with "\" between its parts: what follows the prefix is taken
 /// as it is. Empty if the system refuses it.
 std::wstring full_path(const std::wstring& path)
 {
@@ -43,13 +43,17 @@ std::string narrow_text(std::wstring_view wide)
     return narrow;
 }
 
-std::wstring wide_path(std::string_view narrow)
+std::wstring long_path(std::wstring path)
 {
-    std::wstring path = wide_text(narrow);
     const std::wstring full = full_path(path);
     if (full.size() <= longest_plain_path || full.starts_with(L"\\\\?\\"))
         return path;
     return full.starts_with(L"\\\\") ? L"\\\\?\\UNC" + full.substr(1) : L"\\\\?\\" + full;
+}
+
+std::wstring wide_path(std::string_view narrow)
+{
+    return long_path(wide_text(narrow));
 }
 
 } // namespace STAAD::detail

@@ -13,7 +13,7 @@
 namespace STAAD {
 
 /// Forces and moments at one station of a member.
-struct STAAD_API ForcePoint {
+struct ForcePoint {
     double position = 0.0; ///< mm from the member's start
     double f1 = 0.0;       ///< kN, first force column
     double f2 = 0.0;       ///< kN, second force column
@@ -24,7 +24,7 @@ struct STAAD_API ForcePoint {
 };
 
 /// Forces of one member under one load case.
-struct STAAD_API BeamLoadCaseRecord {
+struct BeamLoadCaseRecord {
     int load_case = 0;                   ///< load case number as printed
     std::vector<ForcePoint> points;      ///< stations as printed
     std::vector<ForcePoint> pkpm_points; ///< resampled at nine stations; empty until then
@@ -33,12 +33,12 @@ struct STAAD_API BeamLoadCaseRecord {
     /// fills `pkpm_points` with nine stations: nine as they stand, else the first, seven at eighths of
     /// the last position (linear between neighbours), the last. Fewer than two points leave
     /// `pkpm_points` as it was. Cost: n log n for n points.
-    void sort_pkpm_format();
+    STAAD_API void sort_pkpm_format();
 };
 
 /// One station of the list that the downstream design program takes: a point for each kind of
 /// load, all zeros where there is none.
-struct STAAD_API BeamLoadList {
+struct BeamLoadList {
     ForcePoint dead;
     ForcePoint live;
     ForcePoint wind;
@@ -46,21 +46,21 @@ struct STAAD_API BeamLoadList {
 };
 
 /// Forces of one member under every load case of the listing.
-struct STAAD_API BeamForceAndMOM {
+struct BeamForceAndMOM {
     int beam = 0;                              ///< 1-based position in SdReader::beams
     std::map<int, BeamLoadCaseRecord> records; ///< by load case number
 
     /// Stores `record`, or appends its `points` to the record of the same load case.
-    void add_loadCase_record(const BeamLoadCaseRecord& record);
+    STAAD_API void add_loadCase_record(const BeamLoadCaseRecord& record);
     /// Adds every record of `other` if it is of the same member; else nothing happens.
-    void merge(const BeamForceAndMOM& other);
+    STAAD_API void merge(const BeamForceAndMOM& other);
     /// Resamples every record.
-    void sort_pkpm_format();
+    STAAD_API void sort_pkpm_format();
 
     /// The list that the downstream design program takes: station i has the i-th `pkpm_points` of the
     /// dead, live, wind and seismic load case. Of several cases of one kind the highest number counts;
     /// nothing is added up. Empty if no record has a kind and stations.
-    std::vector<BeamLoadList> get_pkpm_load_on_section(const std::map<int, LoadCase>& load_cases) const;
+    STAAD_API std::vector<BeamLoadList> get_pkpm_load_on_section(const std::map<int, LoadCase>& load_cases) const;
 };
 
 } // namespace STAAD

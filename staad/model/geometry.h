@@ -13,7 +13,7 @@
 namespace STAAD {
 
 /// One joint.
-struct STAAD_API SdNode {
+struct SdNode {
     int id = 0;     ///< joint number of the file
     double x = 0.0; ///< mm, the file's Z
     double y = 0.0; ///< mm, the file's X
@@ -24,18 +24,18 @@ struct STAAD_API SdNode {
     SdNode() = default;
     /// Reads "number X Y Z" in file order and file units, without the ";".
     /// A missing or unreadable number is 0; words after the fourth are ignored.
-    SdNode(const std::string& item);
+    STAAD_API SdNode(const std::string& item);
 };
 
 /// Three lengths in the model frame, mm.
-struct STAAD_API SdOffset {
+struct SdOffset {
     double x = 0.0;
     double y = 0.0;
     double z = 0.0;
 };
 
 /// One member.
-struct STAAD_API SdBeam {
+struct SdBeam {
     int id = 0;            ///< member number of the file
     int node_start = 0;    ///< 1-based position in SdReader::nodes; 0: no such joint
     int node_end = 0;      ///< 1-based position in SdReader::nodes; 0: no such joint
@@ -56,11 +56,11 @@ struct STAAD_API SdBeam {
     SdBeam() = default;
     /// Reads "number start end", the ends still as joint numbers of the file.
     /// A missing or unreadable number is 0; words after the third are ignored.
-    SdBeam(const std::string& item);
+    STAAD_API SdBeam(const std::string& item);
 };
 
 /// One surface: a wall or slab that the analysis meshes itself.
-struct STAAD_API SdSurface {
+struct SdSurface {
     int id = 0;                ///< surface number of the file
     std::vector<int> node_ids; ///< corners as joint numbers of the file, in the order written
     int thickness = 0;         ///< whole mm, truncated toward zero
@@ -69,11 +69,11 @@ struct STAAD_API SdSurface {
     SdSurface() = default;
     /// Reads "corner corner ... WORD number"; the word is not checked.
     /// Fewer than four words: number 0 and no corners.
-    SdSurface(const std::string& item);
+    STAAD_API SdSurface(const std::string& item);
 };
 
 /// One shell element, or the copy of a surface among the shells.
-struct STAAD_API SdShell {
+struct SdShell {
     int id = 0;                ///< element number of the file
     std::vector<int> node_ids; ///< corners as 1-based positions in SdReader::nodes; 0: no such joint
     int thickness = 0;         ///< whole mm, truncated toward zero
@@ -81,9 +81,9 @@ struct STAAD_API SdShell {
 
     SdShell() = default;
     /// Reads "number corner corner ...", the corners still as joint numbers of the file.
-    SdShell(const std::string& item);
+    STAAD_API SdShell(const std::string& item);
     /// Copies field by field; the corners stay what they are in the surface.
-    SdShell(const SdSurface& surface);
+    STAAD_API SdShell(const SdSurface& surface);
 };
 
 } // namespace STAAD

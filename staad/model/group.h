@@ -10,7 +10,7 @@
 namespace STAAD {
 
 /// One group of the START GROUP DEFINITION block.
-struct STAAD_API SdGroup {
+struct SdGroup {
     enum IdType : int { JointId = 0, MemberId = 1, ElementId = 2 };
 
     std::string kind;     ///< "JOINT", "MEMBER", "GEOMETRY", "ELEMENT", "FLOOR" or empty
@@ -19,7 +19,7 @@ struct STAAD_API SdGroup {
 
     /// What `ids` number, by `kind`: MEMBER and GEOMETRY members, ELEMENT and FLOOR elements,
     /// everything else joints.
-    IdType GetIdType() const;
+    STAAD_API IdType GetIdType() const;
 };
 
 } // namespace STAAD

@@ -10,7 +10,7 @@
 namespace STAAD {
 
 /// One primary load case: a header line that begins with "LOAD".
-struct STAAD_API LoadCase {
+struct LoadCase {
     enum LoadType : int { Unknown = 0, Dead = 1, Live = 2, Wind = 3, Seismic = 4 };
 
     int id = 0;            ///< load case number
@@ -20,20 +20,20 @@ struct STAAD_API LoadCase {
     LoadCase() = default;
     /// Reads "LOAD number LOADTYPE words TITLE words". A line of fewer than six words leaves the
     /// record empty, number included; a third word other than LOADTYPE leaves the texts empty.
-    LoadCase(const std::string& line);
+    STAAD_API LoadCase(const std::string& line);
 
     /// Kind by the beginning of `type_text`, in any case: "Dead Load" is Dead, "Roof Live" Unknown.
-    LoadType load_type() const;
+    STAAD_API LoadType load_type() const;
 };
 
 /// One load definition as text, before its numbers are read.
-struct STAAD_API LoadDef_raw {
+struct LoadDef_raw {
     std::string text;  ///< for example "MEMBER LOAD UNI GY -5"
     int load_case = 0; ///< number of the load case it stands under
 };
 
 /// One load definition in model units and axes.
-struct STAAD_API LoadDefination {
+struct LoadDefination {
     std::string kind;      ///< for example "MEMBER LOAD UNI"; empty: not understood
     std::string direction; ///< direction word turned to the model's axes: file GY is model GZ
     /// kN, kN/mm, kN*mm and mm: the load first, then distances along the member.
@@ -42,7 +42,7 @@ struct STAAD_API LoadDefination {
     int load_case = 0; ///< number of the load case it belongs to
 
     /// Exact comparison of all four fields, no tolerance.
-    bool operator==(const LoadDefination& other) const;
+    STAAD_API bool operator==(const LoadDefination& other) const;
 };
 
 } // namespace STAAD

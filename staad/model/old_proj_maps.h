@@ -2,14 +2,12 @@
 #ifndef STAAD_MODEL_OLD_PROJ_MAPS_H
 #define STAAD_MODEL_OLD_PROJ_MAPS_H
 
-#include "staad/export.h"
-
 #include <map>
 
 namespace STAAD {
 
 /// All keys and values are 1-based positions; what has no counterpart has no entry.
-struct STAAD_API OldProjMaps {
+struct OldProjMaps {
     std::map<int, int> joints_new_to_old;
     std::map<int, int> members_new_to_old;
     std::map<int, int> shells_new_to_old;

@@ -3,8 +3,6 @@
 #ifndef STAAD_MODEL_PARAMETERS_H
 #define STAAD_MODEL_PARAMETERS_H
 
-#include "staad/export.h"
-
 #include <array>
 #include <string>
 #include <vector>
@@ -13,7 +11,7 @@ namespace STAAD {
 
 /// Wind parameters. Numbers are written as they stand: the units are the host's, in practice m,
 /// kN/m2 and s.
-struct STAAD_API WindLoadParam {
+struct WindLoadParam {
     std::string title;                               ///< free for the host; not written
     double base_press = 0.0;                         ///< basic wind pressure
     std::string soil_type;                           ///< site terrain roughness category
@@ -30,7 +28,7 @@ struct STAAD_API WindLoadParam {
 };
 
 /// Seismic parameters of the generated response-spectrum case.
-struct STAAD_API SeismicParam {
+struct SeismicParam {
     std::array<bool, 3> dir_active{};  ///< X, Y, Z of the file
     std::array<int, 3> dir_factor{};   ///< X, Y, Z of the file
     bool y_freedom = false;            ///< vertical freedom considered

@@ -17,4 +17,9 @@ void SdReader::init()
     shell_index.clear();
 }
 
+void SdReader::Reset()
+{
+    *this = {};
+}
+
 } // namespace STAAD

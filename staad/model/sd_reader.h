@@ -13,6 +13,8 @@
 #include "staad/model/parameters.h"
 #include "staad/model/section.h"
 
+#include <cstddef>
+#include <filesystem>
 #include <map>
 #include <set>
 #include <string>
@@ -26,11 +28,12 @@ namespace STAAD {
 struct ReadReport;
 
 namespace detail {
+class force_import;
 class line_list;
+class model_reader;
+class model_writer;
 class reading;
 class text_output;
-struct force_section;
-struct member_tally;
 struct sd_reader_access;
 struct written_loads;
 } // namespace detail
@@ -47,7 +50,13 @@ enum BeamType : int {
 ///
 /// A plain value: copies share nothing, a moved-from model has empty containers. It has no lock;
 /// different objects may be used in different threads at the same time.
-class STAAD_API SdReader {
+///
+/// Names of files: a `const char*` is what the C library opens, on Windows a name in the ANSI code page,
+/// and is refused unless the file can be opened for reading and writing, although nothing is written to
+/// it. A `std::filesystem::path` is opened for reading alone: write-protected files, devices and pipes
+/// are read, and on Windows it holds every name. A string literal or null is a `const char*`; any other
+/// text, a `std::string` among them, becomes a path as the standard library has it.
+class SdReader {
 public:
     /// Density of the isotropic concrete: 23.5615 kN/m3, or a number of the file as written there.
     double concrete_density = 23.5615;
@@ -84,7 +93,9 @@ public:
     /// joint, member and element indexes. Everything else stays: surfaces, groups, supports,
     /// releases, `surface_index`, `unit_text`, factors, `old_proj_maps`, `brace_ids`, density and
     /// the parameter blocks.
-    void init();
+    STAAD_API void init();
+    /// Empties everything, also what init() leaves: the model is as a new one.
+    STAAD_API void Reset();
 
     /// Reads one ".std" file and makes it the content of this model.
     ///
@@ -103,13 +114,16 @@ public:
     ///           through. The model may then be incomplete and can be read into again.
     /// Cost:     the text is held in memory once; time grows linearly with its length and with the
     ///           numbers that its stored lists and the references to its loads come to.
-    bool ReadSDDataFromStdFile(const char* path);
-    /// The same, and tells what is worth knowing about the text. The model is the same either way. The
+    STAAD_API bool ReadSDDataFromStdFile(const char* path);
+    /// The same, and reports what is worth knowing about the text. The model is the same either way. The
     /// report is emptied first; after an exception it holds what was found by then.
-    bool ReadSDDataFromStdFile(const char* path, ReadReport& report);
+    STAAD_API bool ReadSDDataFromStdFile(const char* path, ReadReport& report);
+    /// The same of a file that need only be readable.
+    STAAD_API bool ReadSDDataFromStdFile(const std::filesystem::path& path);
+    STAAD_API bool ReadSDDataFromStdFile(const std::filesystem::path& path, ReadReport& report);
     /// Reads the text of a ".std" file from memory; everything else as ReadSDDataFromStdFile.
-    bool ReadSDDataFromText(std::string_view text);
-    bool ReadSDDataFromText(std::string_view text, ReadReport& report);
+    STAAD_API bool ReadSDDataFromText(std::string_view text);
+    STAAD_API bool ReadSDDataFromText(std::string_view text, ReadReport& report);
 
     /// Writes the model as normalised ".std", replacing a file of that name; reports nothing.
     ///
@@ -124,27 +138,28 @@ public:
     /// Threads:  different models may be written at the same time.
     /// Throws:   std::bad_alloc; what was written by then stays in the file.
     /// Cost:     linear in the model, beside the sorting of distinct texts and of unsorted lists.
-    void WriteDataToFile(const char* path);
-    /// The same, and tells how it went: true if every byte was written; else `error` is the first
+    STAAD_API void WriteDataToFile(const char* path);
+    /// The same, and reports how it went: true if every byte was written; else `error` is the first
     /// failure of the system. A null path is std::errc::invalid_argument.
-    bool WriteDataToFile(const char* path, std::error_code& error);
+    STAAD_API bool WriteDataToFile(const char* path, std::error_code& error);
+    STAAD_API bool WriteDataToFile(const std::filesystem::path& path, std::error_code& error);
     /// The same text in memory, lines ended by a line feed on every platform. Cost: as above, and room
     /// for the text once more.
-    std::string WriteDataToText();
+    STAAD_API std::string WriteDataToText();
 
     /// Adds the members that "MEMBER TRUSS", "MEMBER COMPRESSION" and "MEMBER TENSION" lines declare
     /// to `brace_ids`. `lines` are logical lines; the one line after each keyword is its list.
     /// Throws ReadLimitError as ReadSDDataFromStdFile does.
-    void ReadBrace(const std::vector<std::string>& lines);
+    STAAD_API void ReadBrace(const std::vector<std::string>& lines);
 
     /// Number in `load_defs` of a definition equal to `def`; added under the next number if there
     /// is none. Cost: linear in `load_defs`.
-    int add_a_load(const LoadDefination& def);
+    STAAD_API int add_a_load(const LoadDefination& def);
 
     /// Family and dimensions of an "UPTABLE table row" text: whole mm joined by "X". An unknown
     /// table gives (UnknownSection, ""), an unknown row an empty dimension text.
     /// Throws std::out_of_range if the row is blank.
-    std::pair<UsrDefineSectionType, std::string> GetSectionFromUsrTable(const std::string& text) const;
+    STAAD_API std::pair<UsrDefineSectionType, std::string> GetSectionFromUsrTable(const std::string& text) const;
 
     /// Reads the beam forces that the analysis printed, and makes them the content of `beam_forces`,
     /// each load case resampled at nine stations.
@@ -154,86 +169,93 @@ public:
     ///           model does not have are skipped. The last load case of a section's last member is
     ///           left out.
     /// Units:    afterwards positions are mm, forces kN, moments kN*mm. `unit_text` and the factors
-    ///           stay as the last section set them: ask for sections of user tables before.
+    ///           become those of the last section: ask for sections of user tables before.
     /// Messages: a model without members shows a message box (platform_services.h) and changes nothing.
     /// Tolerant: a file that cannot be opened for reading and writing, or has no title, empties
     ///           `beam_forces`; a null path as well.
+    /// Throws:   std::bad_alloc; `beam_forces` then has the members read by then, and `unit_text` and the
+    ///           factors are as they were.
     /// Cost:     the text is held in memory once; two walks over it, and n log n in the stations of a
     ///           record.
-    void ReadForceMomentFromTxtFile(const char* path);
-    /// The same, and tells what is worth knowing about the listing. The report is emptied first.
-    void ReadForceMomentFromTxtFile(const char* path, ReadReport& report);
+    STAAD_API void ReadForceMomentFromTxtFile(const char* path);
+    /// The same, and reports what is worth knowing about the listing. The report is emptied first.
+    STAAD_API void ReadForceMomentFromTxtFile(const char* path, ReadReport& report);
+    /// The same of a file that need only be readable, and without message boxes: true if `beam_forces` was
+    /// read and has forces. False also of a model without members, which stays as it is.
+    STAAD_API bool ReadForceMomentFromTxtFile(const std::filesystem::path& path);
+    STAAD_API bool ReadForceMomentFromTxtFile(const std::filesystem::path& path, ReadReport& report);
     /// Reads the text of a listing from memory, which must not be a text of this model; everything else
-    /// as ReadForceMomentFromTxtFile.
-    void ReadForceMomentFromText(std::string_view text);
-    void ReadForceMomentFromText(std::string_view text, ReadReport& report);
+    /// as ReadForceMomentFromTxtFile of a `const char*`, message box included. True if `beam_forces` was
+    /// read and has forces.
+    STAAD_API bool ReadForceMomentFromText(std::string_view text);
+    STAAD_API bool ReadForceMomentFromText(std::string_view text, ReadReport& report);
 
     /// Finds the counterparts of this model's joints, members and shells in `old`, and makes them the
     /// content of `old_proj_maps`.
     ///
     /// Joints:  the first earlier joint in list order that differs by less than 0.1 mm in each
-    ///          coordinate and is nobody's counterpart yet.
+    ///          coordinate and is not another joint's counterpart yet.
     /// Members: the first earlier member between the counterparts of both ends, in either direction.
     /// Shells:  the first earlier shell with the counterparts of all corners in the same order.
     /// Cost:    linear in both models; joints crowded within half a millimetre are compared one by one.
-    void MakeMap(const SdReader& old);
+    STAAD_API void MakeMap(const SdReader& old);
 
     /// Offers to take groups, supports and releases over from an earlier project file: nothing happens
     /// unless the file can be read, a yes/no question (platform_services.h) is answered yes, and the file
     /// gives a model. Then as TakeOverFrom. A null path is none.
-    void compWithOldProj(const char* path);
+    STAAD_API void compWithOldProj(const char* path);
+    /// The same of a file that need only be readable; whether it is, is asked of the system and not of
+    /// PlatformServices.
+    STAAD_API void compWithOldProj(const std::filesystem::path& path);
 
-    /// Takes groups, supports and releases over from `earlier`, told in this model's numbers: those of
-    /// the counterparts that MakeMap finds. What has none is left out.
+    /// Takes groups, supports and releases over from `earlier`, in this model's numbers: those of the
+    /// counterparts that MakeMap finds. What has none is left out.
     ///
     /// Groups:   replaced; one that would be empty is left out. Element groups go by joints, like joint
     ///           groups.
     /// Supports: replaced, empty lists included.
     /// Releases: added to; the same description is replaced.
-    void TakeOverFrom(const SdReader& earlier);
+    STAAD_API void TakeOverFrom(const SdReader& earlier);
 
     /// What `member` is. Its joints are looked up by position; a position outside `nodes` makes it
     /// neither column nor horizontal brace. Cost: one look-up in `brace_ids`.
-    BeamType GetBeamType(const SdBeam& member) const;
+    STAAD_API BeamType GetBeamType(const SdBeam& member) const;
     /// Unit normal of the shell at the 1-based position `index`, model frame, turned upward.
     /// (0, 0, 1) if there is no such shell, if a corner is no joint, or if the shell has no area to
     /// speak of.
-    void NormalOfShell(int index, double& nx, double& ny, double& nz) const;
+    STAAD_API void NormalOfShell(int index, double& nx, double& ny, double& nz) const;
     /// 1-based position of the first member, joint or shell of that number; -1 if there is none.
     /// Cost: a scan; for many numbers use `beam_index`, `node_index` and `shell_index`.
-    int locateBeamIndex(int id) const;
-    int locateNodeIndex(int id) const;
-    int locateShellIndex(int id) const;
+    STAAD_API int locateBeamIndex(int id) const;
+    STAAD_API int locateNodeIndex(int id) const;
+    STAAD_API int locateShellIndex(int id) const;
 
 private:
-    friend struct detail::sd_reader_access; // lets the suite call the steps below one by one
+    // The steps of reading, importing and writing, and those that call them in their order.
+    friend class detail::model_reader;
+    friend class detail::force_import;
+    friend class detail::model_writer;
+    friend struct detail::sd_reader_access; // lets the suite call the steps one by one
 
-    detail::line_list get_all_lines_from_file(const char* path, const std::string& skip_prefix, detail::reading& run);
+    detail::line_list get_all_lines_from_file(const char* path, const std::string& skip_prefix,
+                                              detail::reading& context);
     std::vector<unsigned> extract_id_from_items(const std::vector<std::string>& tokens, unsigned start);
     std::vector<unsigned> extract_id_from_line(const std::string& line);
 
-    bool read_file(const char* path, detail::reading run);
-    bool read_text(std::string_view text, detail::reading run);
-    bool read_lines(detail::line_list lines, detail::reading& run);
     void unify_staadpro_unit();
-    void read_user_table(const detail::line_list& lines, detail::reading& run);
-    void ReadGroudData(const detail::line_list& lines, std::size_t start, detail::reading& run);
-    void read_material(const detail::line_list& lines, detail::reading& run);
-    void ReadBrace(const detail::line_list& lines, detail::reading& run);
-    void read_surface(const detail::line_list& lines, detail::reading& run);
-    void read_beta(const detail::line_list& lines, detail::reading& run);
-    void read_support(const detail::line_list& lines, detail::reading& run);
-    void read_release(const detail::line_list& lines, detail::reading& run);
-    void read_offset(const detail::line_list& lines, detail::reading& run);
-    void read_load(const detail::line_list& lines, detail::reading& run);
+    void read_user_table(const detail::line_list& lines, detail::reading& context);
+    void ReadGroudData(const detail::line_list& lines, std::size_t start, detail::reading& context);
+    void read_material(const detail::line_list& lines, detail::reading& context);
+    void ReadBrace(const detail::line_list& lines, detail::reading& context);
+    void read_surface(const detail::line_list& lines, detail::reading& context);
+    void read_beta(const detail::line_list& lines, detail::reading& context);
+    void read_support(const detail::line_list& lines, detail::reading& context);
+    void read_release(const detail::line_list& lines, detail::reading& context);
+    void read_offset(const detail::line_list& lines, detail::reading& context);
+    void read_load(const detail::line_list& lines, detail::reading& context);
     LoadDefination get_load_defnination_from_string(const LoadDef_raw& raw);
     std::string ConvertSectionParamByUnit(const std::string& text) const;
 
-    void read_forces_file(const char* path, detail::reading run);
-    void read_forces_text(std::string_view text, detail::reading run);
-    bool start_forces(detail::reading& run);
-    void read_forces(std::string_view text, detail::reading& run);
-    void read_force_section(const detail::force_section& section, detail::member_tally& tally, detail::reading& run);
     void add_beam_force_moment(const BeamForceAndMOM& forces);
 
     bool IsColumn(const SdBeam& member) const;
@@ -241,7 +263,6 @@ private:
     bool IsHBrace(const SdBeam& member) const;
     void reset_member_id();
 
-    void write_blocks(detail::text_output& out);
     void write_std_head(detail::text_output& out) const;
     void write_std_node(detail::text_output& out) const;
     void write_std_beam(detail::text_output& out) const;

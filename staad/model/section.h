@@ -26,7 +26,7 @@ enum UsrDefineSectionType : int {
 
 /// One distinct member property. Equality and order look at `property` alone, so that an ordered
 /// container of sections holds each property text once, whatever the material.
-struct STAAD_API Section {
+struct Section {
     int tag = 0;          ///< free for the host; takes no part in comparison
     std::string type;     ///< "ST", "TAPERED", "PRIS" or empty, by the beginning of `property`
     std::string material; ///< material name of the members that carry the section
@@ -35,24 +35,24 @@ struct STAAD_API Section {
     Section() = default;
     /// Upper-cases `property_text` (ASCII letters only; other bytes, GBK among them, pass unchanged)
     /// and derives `type` from it.
-    Section(std::string material_name, std::string property_text);
+    STAAD_API Section(std::string material_name, std::string property_text);
 
-    bool operator==(const Section& other) const;
+    STAAD_API bool operator==(const Section& other) const;
     /// Byte-wise order of the property texts.
-    bool operator<(const Section& other) const;
+    STAAD_API bool operator<(const Section& other) const;
 };
 
 /// One table of a START USER TABLE block.
-struct STAAD_API SdUserSectionTable {
+struct SdUserSectionTable {
     std::string type;                   ///< family word, for example "WIDE FLANGE"
     std::string unit = "UNIT METER KN"; ///< the table's own UNIT line; look-ups do not use it
     /// Row name to the line after it. Dimension lines stand here as names, too.
     std::map<std::string, std::string> records;
 
     /// Sets or replaces the row `name`.
-    void AddRecord(const std::string& name, const std::string& dimensions);
+    STAAD_API void AddRecord(const std::string& name, const std::string& dimensions);
     /// Sets `type` to the family word of `family`; any value outside 1 to 10 changes nothing.
-    void SetType(UsrDefineSectionType family);
+    STAAD_API void SetType(UsrDefineSectionType family);
 };
 
 } // namespace STAAD

@@ -7,6 +7,7 @@
 #include "staad/units/unit_factors.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <utility>
 
 namespace STAAD {
@@ -79,15 +80,20 @@ bool no_model(FindingCode code, std::string_view missing, std::string why, const
     return false;
 }
 
-} // namespace
-
-line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& run)
+/// The lines of a file; none, and a finding that says why, of one that could not be read.
+line_list lines_of(detail::file_bytes file, std::string_view skip_prefix, reading& run)
 {
-    detail::file_bytes file = detail::read_updatable_file(path);
     if (file.outcome == detail::file_bytes::state::read)
         return {std::move(file.bytes), file.size, skip_prefix};
     detail::tell_file_trouble(file.outcome, run);
     return {};
+}
+
+} // namespace
+
+line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& run)
+{
+    return lines_of(detail::read_updatable_file(path), skip_prefix, run);
 }
 
 void SdReader::unify_staadpro_unit()
@@ -98,87 +104,112 @@ void SdReader::unify_staadpro_unit()
     force_length_factor = factors.force_length;
 }
 
-bool SdReader::read_file(const char* path, reading run)
-{
-    init();
-    return read_lines(get_all_lines_from_file(path, generated_comment, run), run);
-}
+namespace detail {
 
-bool SdReader::read_text(std::string_view text, reading run)
-{
-    line_list lines = line_list::from_text(text, generated_comment); // first: the text may be the model's own
-    init();
-    return read_lines(std::move(lines), run);
-}
+/// Reads one text into a model.
+class model_reader {
+public:
+    static bool read_file(SdReader& model, const char* path, reading context)
+    {
+        model.init();
+        return read_lines(model, model.get_all_lines_from_file(path, generated_comment, context), context);
+    }
+    static bool read_file(SdReader& model, const std::filesystem::path& path, reading context)
+    {
+        model.init();
+        return read_lines(model, lines_of(STAAD::detail::read_file(path), generated_comment, context), context);
+    }
+    static bool read_text(SdReader& model, std::string_view text, reading context)
+    {
+        line_list lines = line_list::from_text(text, generated_comment); // first: the text may be the model's own
+        model.init();
+        return read_lines(model, std::move(lines), context);
+    }
 
-bool SdReader::ReadSDDataFromStdFile(const char* path)
-{
-    return read_file(path, reading(nullptr));
-}
+private:
+    static bool read_lines(SdReader& model, line_list lines, reading& context);
+};
 
-bool SdReader::ReadSDDataFromStdFile(const char* path, ReadReport& report)
-{
-    return read_file(path, reading(&report));
-}
-
-bool SdReader::ReadSDDataFromText(std::string_view text)
-{
-    return read_text(text, reading(nullptr));
-}
-
-bool SdReader::ReadSDDataFromText(std::string_view text, ReadReport& report)
-{
-    return read_text(text, reading(&report));
-}
-
-bool SdReader::read_lines(line_list lines, reading& run)
+bool model_reader::read_lines(SdReader& model, line_list lines, reading& context)
 {
     lines.prepare();
-    if (run.findings.listening())
-        run.used.start(lines.size());
-    read_user_table(lines, run);
+    if (context.findings.listening())
+        context.used.start(lines.size());
+    model.read_user_table(lines, context);
 
     const std::size_t unit = lines.find_start("UNIT");
     if (unit >= lines.size() || unit + 1 == lines.size())
-        return no_model(FindingCode::no_unit, "UNIT", why_no_unit(lines), lines, run);
-    unit_text = lines[unit].text;
-    unify_staadpro_unit();
-    tell_units(lines, unit, run);
+        return no_model(FindingCode::no_unit, "UNIT", why_no_unit(lines), lines, context);
+    model.unit_text = lines[unit].text;
+    model.unify_staadpro_unit();
+    tell_units(lines, unit, context);
 
     const std::size_t joints = lines.find_start("JOINT COORDINATES", unit + 1);
     if (joints == lines.size())
         return no_model(FindingCode::no_joints, "JOINT COORDINATES",
-                        "no line after the UNIT line begins with 'JOINT COORDINATES'", lines, run);
+                        "no line after the UNIT line begins with 'JOINT COORDINATES'", lines, context);
     const std::size_t members = lines.find_equal("MEMBER INCIDENCES", joints + 1);
     if (members == lines.size())
         return no_model(FindingCode::no_members, "MEMBER INCIDENCES",
-                        "no line after the joints is exactly 'MEMBER INCIDENCES'", lines, run);
-    run.used.mark(joints);
-    run.used.mark(members);
-    detail::read_joints(*this, lines, {joints + 1, members}, run);
-    const std::size_t behind_members = detail::read_members(*this, lines, members + 1, run);
+                        "no line after the joints is exactly 'MEMBER INCIDENCES'", lines, context);
+    context.used.mark(joints);
+    context.used.mark(members);
+    read_joints(model, lines, {joints + 1, members}, context);
+    const std::size_t after_members = read_members(model, lines, members + 1, context);
 
-    const std::size_t shell_keyword = lines.find_equal("ELEMENT INCIDENCES SHELL", behind_members);
-    ReadGroudData(lines, behind_members, run);
-    read_material(lines, run);
-    ReadBrace(lines, run);
+    const std::size_t shell_keyword = lines.find_equal("ELEMENT INCIDENCES SHELL", after_members);
+    model.ReadGroudData(lines, after_members, context);
+    model.read_material(lines, context);
+    model.ReadBrace(lines, context);
     if (shell_keyword < lines.size()) {
-        run.used.mark(shell_keyword);
-        const std::size_t behind_shells = detail::read_elements(*this, lines, shell_keyword + 1, run);
-        detail::read_thicknesses(*this, lines, behind_shells, run);
+        context.used.mark(shell_keyword);
+        const std::size_t after_shells = read_elements(model, lines, shell_keyword + 1, context);
+        read_thicknesses(model, lines, after_shells, context);
     }
-    read_surface(lines, run);
-    detail::append_surfaces_to_shells(*this, run);
-    detail::read_member_properties(*this, lines, behind_members, run);
-    read_beta(lines, run);
-    detail::assign_materials(*this, lines, run);
-    read_support(lines, run);
-    read_release(lines, run);
-    read_offset(lines, run);
-    read_load(lines, run);
-    detail::tell_near_keywords(lines, {}, run);
-    detail::tell_skipped(lines, run);
+    model.read_surface(lines, context);
+    append_surfaces_to_shells(model, context);
+    read_member_properties(model, lines, after_members, context);
+    model.read_beta(lines, context);
+    assign_materials(model, lines, context);
+    model.read_support(lines, context);
+    model.read_release(lines, context);
+    model.read_offset(lines, context);
+    model.read_load(lines, context);
+    tell_near_keywords(lines, {}, context);
+    tell_skipped(lines, context);
     return true;
+}
+
+} // namespace detail
+
+bool SdReader::ReadSDDataFromStdFile(const char* path)
+{
+    return detail::model_reader::read_file(*this, path, reading(nullptr));
+}
+
+bool SdReader::ReadSDDataFromStdFile(const char* path, ReadReport& report)
+{
+    return detail::model_reader::read_file(*this, path, reading(&report));
+}
+
+bool SdReader::ReadSDDataFromStdFile(const std::filesystem::path& path)
+{
+    return detail::model_reader::read_file(*this, path, reading(nullptr));
+}
+
+bool SdReader::ReadSDDataFromStdFile(const std::filesystem::path& path, ReadReport& report)
+{
+    return detail::model_reader::read_file(*this, path, reading(&report));
+}
+
+bool SdReader::ReadSDDataFromText(std::string_view text)
+{
+    return detail::model_reader::read_text(*this, text, reading(nullptr));
+}
+
+bool SdReader::ReadSDDataFromText(std::string_view text, ReadReport& report)
+{
+    return detail::model_reader::read_text(*this, text, reading(&report));
 }
 
 } // namespace STAAD

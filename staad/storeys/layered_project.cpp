@@ -1,7 +1,5 @@
 #include "staad/storeys/layered_project.h"
 
-#include "staad/host/force_file.h"
-#include "staad/report/read_report.h"
 #include "staad/storeys/levels.h"
 
 #include <cstddef>
@@ -89,28 +87,6 @@ std::vector<StoreyLayer> storeys_between(const std::vector<double>& levels, std:
 }
 
 } // namespace
-
-bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces)
-{
-    SdReader model;
-    if (!model.ReadSDDataFromStdFile(path))
-        return false;
-    if (with_forces != 0)
-        model.ReadForceMomentFromTxtFile(find_force_file(path).c_str());
-    return BuildFromModel(std::move(model));
-}
-
-bool StaadProProject_layered::BuidFromFile(const char* path, int with_forces, ReadReport& of_model,
-                                           ReadReport& of_forces)
-{
-    of_forces = {};
-    SdReader model;
-    if (!model.ReadSDDataFromStdFile(path, of_model))
-        return false;
-    if (with_forces != 0)
-        model.ReadForceMomentFromTxtFile(find_force_file(path).c_str(), of_forces);
-    return BuildFromModel(std::move(model));
-}
 
 bool StaadProProject_layered::BuildFromModel(SdReader model)
 {

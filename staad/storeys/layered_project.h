@@ -6,6 +6,7 @@
 #include "staad/model/sd_reader.h"
 #include "staad/model/storey_layer.h"
 
+#include <filesystem>
 #include <map>
 #include <vector>
 
@@ -14,7 +15,7 @@ namespace STAAD {
 struct ReadReport;
 
 /// Storeys by the levels at which floors lie and columns end. A plain value.
-class STAAD_API StaadProProject_layered {
+class StaadProProject_layered {
 public:
     std::vector<StoreyLayer> layers;    ///< storeys, the lowest first
     std::vector<NodeLevel> node_levels; ///< one per joint, in the order of SdReader::nodes
@@ -34,13 +35,17 @@ public:
     ///          `node_levels` if a model was read.
     /// Throws:  as SdReader::ReadSDDataFromStdFile; the project is then as it was.
     /// Cost:    that of reading; n log n in members, and for joints and elements a search among the levels.
-    bool BuidFromFile(const char* path, int with_forces);
-    /// The same, and tells what is worth knowing about the model's text and about the listing of forces.
+    STAAD_API bool BuidFromFile(const char* path, int with_forces);
+    /// The same, and reports what is worth knowing about the model's text and about the listing of forces.
     /// Both reports are emptied first; that of the forces stays empty if none were asked for.
-    bool BuidFromFile(const char* path, int with_forces, ReadReport& of_model, ReadReport& of_forces);
+    STAAD_API bool BuidFromFile(const char* path, int with_forces, ReadReport& of_model, ReadReport& of_forces);
+    /// The same of files that need only be readable. No message box is shown of a model without members.
+    STAAD_API bool BuidFromFile(const std::filesystem::path& path, int with_forces);
+    STAAD_API bool BuidFromFile(const std::filesystem::path& path, int with_forces, ReadReport& of_model,
+                                ReadReport& of_forces);
     /// The same from a model in memory, forces included if it has them; true if it has a level. Move a
     /// large model in.
-    bool BuildFromModel(SdReader model);
+    STAAD_API bool BuildFromModel(SdReader model);
 };
 
 } // namespace STAAD

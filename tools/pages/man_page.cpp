@@ -2,6 +2,7 @@
 
 #include "cli/verbs.h"
 #include "pages.h"
+#include "staad/version.h"
 
 #include <cctype>
 #include <string_view>

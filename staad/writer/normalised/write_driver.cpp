@@ -5,53 +5,78 @@
 #include "staad/writer/normalised/written_loads.h"
 
 namespace STAAD {
+namespace detail {
+
+/// Writes one model: the blocks in their order.
+class model_writer {
+public:
+    template<class Path>
+    static std::error_code write_file(SdReader& model, const Path& path)
+    {
+        model.reset_member_id();
+        output_file file(path);
+        {
+            text_output out(file);
+            write_blocks(model, out);
+        }
+        return file.close();
+    }
+    static std::string write_text(SdReader& model)
+    {
+        model.reset_member_id();
+        text_output out;
+        write_blocks(model, out);
+        return out.take();
+    }
+
+private:
+    static void write_blocks(SdReader& model, text_output& out);
+};
+
+void model_writer::write_blocks(SdReader& model, text_output& out)
+{
+    written_loads loads;
+    model.write_std_head(out);
+    model.write_std_node(out);
+    model.write_std_beam(out);
+    model.write_std_board(out);
+    model.write_std_usrSectTable(out);
+    model.write_std_group(out);
+    model.write_std_thickness(out);
+    model.write_std_material(out);
+    model.write_std_truss(out);
+    model.write_std_section(out);
+    model.write_std_mat_table(out);
+    model.write_std_support(out);
+    model.write_std_release(out);
+    model.write_std_load(out, loads);
+    model.write_std_WL(out, loads);
+    model.write_std_EQ(out, loads);
+    out.put("FINISH");
+}
+
+} // namespace detail
 
 void SdReader::WriteDataToFile(const char* path)
 {
-    std::error_code unused;
-    WriteDataToFile(path, unused);
+    detail::model_writer::write_file(*this, path);
 }
 
 bool SdReader::WriteDataToFile(const char* path, std::error_code& error)
 {
-    reset_member_id();
-    detail::output_file file(path);
-    {
-        detail::text_output out(file);
-        write_blocks(out);
-    }
-    error = file.close();
+    error = detail::model_writer::write_file(*this, path);
+    return !error;
+}
+
+bool SdReader::WriteDataToFile(const std::filesystem::path& path, std::error_code& error)
+{
+    error = detail::model_writer::write_file(*this, path);
     return !error;
 }
 
 std::string SdReader::WriteDataToText()
 {
-    reset_member_id();
-    detail::text_output out;
-    write_blocks(out);
-    return out.take();
-}
-
-void SdReader::write_blocks(detail::text_output& out)
-{
-    detail::written_loads loads;
-    write_std_head(out);
-    write_std_node(out);
-    write_std_beam(out);
-    write_std_board(out);
-    write_std_usrSectTable(out);
-    write_std_group(out);
-    write_std_thickness(out);
-    write_std_material(out);
-    write_std_truss(out);
-    write_std_section(out);
-    write_std_mat_table(out);
-    write_std_support(out);
-    write_std_release(out);
-    write_std_load(out, loads);
-    write_std_WL(out, loads);
-    write_std_EQ(out, loads);
-    out.put("FINISH");
+    return detail::model_writer::write_text(*this);
 }
 
 void SdReader::write_std_head(detail::text_output& out) const
