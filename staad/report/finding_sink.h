@@ -10,7 +10,6 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <utility>
 
 namespace STAAD::detail {
 
@@ -40,21 +39,6 @@ public:
     {
         if (takes_one_more(code, place))
             append(severity, code, place, compose(), 1);
-    }
-    // By the text of a code: for the import of forces, until it names codes.
-    template<class Compose>
-    void add(Finding::Severity severity, std::string_view code, line_place place, Compose compose)
-    {
-        add_as(severity, find_finding_code(code)->code, place, compose);
-    }
-    template<class Compose>
-    void warn(std::string_view code, line_place place, Compose compose)
-    {
-        add(Finding::Warning, code, place, compose);
-    }
-    void fail(std::string_view code, line_place place, std::string text)
-    {
-        add(Finding::Error, code, place, [&] { return std::move(text); });
     }
     /// Adds one finding whatever their number, with a count of its own.
     void list(FindingCode code, line_place place, std::string text, std::size_t count);
