@@ -5,16 +5,13 @@
 ///     dialog_host take-over RESULT MODEL EARLIER_MODEL
 ///     dialog_host forces RESULT MODEL
 ///
-/// Or reads what another program shows: a file dialog, the storeys in the window of a host.
+/// Or reads what has been typed into the file dialog that another program shows.
 ///
 ///     dialog_host read-file-dialog RESULT
-///     dialog_host read-storeys RESULT
 
 #include "staad/model/sd_reader.h"
 #include "staad/storeys/layered_project.h"
-#include "tests/dialogs/list_reader.h"
 #include "tests/dialogs/onlooker.h"
-#include "tests/dialogs/result_file.h"
 #include "tests/support/model_equal.h"
 
 #include <windows.h>
@@ -28,7 +25,7 @@
 namespace STAAD {
 namespace {
 
-/// What a scenario is run with: the arguments behind RESULT.
+/// What a scenario is run with: the arguments after RESULT.
 using arguments = std::vector<const char*>;
 
 std::wstring current_folder()
@@ -124,11 +121,6 @@ void forces(const arguments& given, result_file& result)
     }
 }
 
-void read_storeys(const arguments&, result_file& result)
-{
-    read_list(L"storeys", result);
-}
-
 void read_dialog(const arguments&, result_file& result)
 {
     read_file_dialog(result);
@@ -139,8 +131,7 @@ using scenario = void (*)(const arguments&, result_file&);
 const std::map<std::string, scenario> scenarios = {{"import-without-model", import_without_model},
                                                    {"take-over", take_over},
                                                    {"forces", forces},
-                                                   {"read-file-dialog", read_dialog},
-                                                   {"read-storeys", read_storeys}};
+                                                   {"read-file-dialog", read_dialog}};
 
 } // namespace
 } // namespace STAAD

@@ -154,8 +154,6 @@ is_typed() {
     read_with read-file-dialog "$work/typed" && [ "$(head -n 1 "$work/typed")" = "name [$1]" ]
 }
 
-is_listed() { read_with read-file-dialog "$work/typed" && grep -qF "row [$1" "$work/typed"; }
-
 # A busy program may lose keys, so a name is typed anew until it stands in the dialog ...
 type_name() {
     local end=$((SECONDS + patience))
@@ -246,14 +244,6 @@ take-over-no() {
     answer n
 }
 
-# Windows leaves a box with "yes" and "no" alone where it is, since it cannot be cancelled; Wine closes it. Either way
-# it is not answered yes.
-take-over-escape() {
-    ask_to_take_over
-    press Escape
-    answer n
-}
-
 # The model lies beside nothing, its listing in another folder.
 ask_for_forces() {
     mkdir "$work/$project"
@@ -271,71 +261,21 @@ force-file-typed() {
     answer Return
 }
 
-# Into the folder first: the system then makes it the current one.
-force-file-browsed() {
-    ask_for_forces
-    type_name "$(windows_path "$work/$project")"
-    until_true enters_folder || fail "the dialog does not enter the folder"
-    type_name "$beam_forces.txt"
-    answer Return
-}
-
-enters_folder() { press Return && soon is_listed "$beam_forces.txt"; }
-
 force-file-cancelled() {
     ask_for_forces
     answer Escape
 }
 
-force-file-beside() {
+# The listing lies beside the model, so nothing is asked before the window is there.
+host-of-frame() {
     mkdir "$work/$project"
     frame_model >"$work/$project/$frame.std"
     frame_forces >"$work/$project/$frame.txt"
-    start_scenario forces "$work/$project/$frame.std"
-}
-
-# The host does not describe its dialogs.
-see_dialog_of_host() {
-    see_window "$(basename "$win32_host")"
-    take_picture "$1"
-}
-
-see_storeys() { # title
-    see_window "$(basename "$win32_host")" "$1"
-    take_picture
-    read_with read-storeys "$result" || fail "the list of storeys cannot be read"
-    answer Escape
-}
-
-# No listing lies beside it.
-host-of-tower() {
-    cp "$root/examples/twelve-storey.std" "$work"
-    start_program "$win32_host" "$(windows_path "$work/twelve-storey.std")"
-    see_dialog_of_host -forces
-    answer Escape
-    see_storeys twelve-storey.std
-}
-
-# The second word of the title is "dead load" in GBK.
-frame_with_load_case() { frame_model $'LOAD 1 LOADTYPE Dead  TITLE DEAD \xBA\xE3\xD4\xD8'; }
-
-host-of-frame() {
-    mkdir "$work/$project"
-    frame_with_load_case >"$work/$project/$frame.std"
-    frame_forces >"$work/$project/$frame.txt"
     start_program "$win32_host" "$(windows_path "$work/$project/$frame.std")"
-    see_storeys "$frame.std"
-}
-
-host-asks-for-model() {
-    frame_with_load_case >"$work/frame.std"
-    frame_forces >"$work/frame.txt"
-    start_program "$win32_host"
-    see_dialog_of_host -model
-    type_name "$(windows_path "$work/frame.std")"
-    take_picture -typed
-    answer Return
-    see_storeys frame.std
+    see_window "$(basename "$win32_host")" "$frame.std"
+    take_picture
+    title_of_window >"$result"
+    answer Escape
 }
 
 # Nothing is there to show a dialog on: each is over at once.

@@ -1,10 +1,7 @@
 #include "tests/dialogs/onlooker.h"
 
-#include "tests/dialogs/list_reader.h"
-
 #include <windows.h>
-// behind it
-#include <commctrl.h>
+// after it
 #include <dlgs.h>
 
 #include <algorithm>
@@ -15,6 +12,15 @@
 
 namespace STAAD {
 namespace {
+
+std::string utf8(std::wstring_view text)
+{
+    const int wide_size = static_cast<int>(text.size());
+    const int size = WideCharToMultiByte(CP_UTF8, 0, text.data(), wide_size, nullptr, 0, nullptr, nullptr);
+    std::string narrow(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(CP_UTF8, 0, text.data(), wide_size, narrow.data(), size, nullptr, nullptr);
+    return narrow;
+}
 
 std::wstring class_of(HWND window)
 {
@@ -159,6 +165,21 @@ void describe(HWND dialog, result_file& result)
 
 } // namespace
 
+result_file::result_file(const char* path) : file_(path, std::ios::binary) {}
+
+void result_file::line(const std::string& text)
+{
+    file_ << text << std::endl;
+}
+
+void result_file::line(const std::string& text, std::wstring_view more)
+{
+    std::wstring in_one_line;
+    for (const wchar_t letter : more)
+        in_one_line += letter == L'\n' ? std::wstring(L" / ") : std::wstring(1, letter);
+    line(text + " [" + utf8(in_one_line) + "]");
+}
+
 onlooker::onlooker(result_file& result) : result_(result), thread_([this] { look(); }) {}
 
 onlooker::~onlooker()
@@ -181,10 +202,7 @@ void onlooker::look() const
 
 void read_file_dialog(result_file& result)
 {
-    const HWND dialog = dialog_of(any_program);
-    result.line("name", text_of(name_field(dialog)));
-    for (const HWND list : parts_of(dialog, WC_LISTVIEWW))
-        read_rows(list, result);
+    result.line("name", text_of(name_field(dialog_of(any_program))));
 }
 
 } // namespace STAAD
