@@ -1,25 +1,43 @@
-/// The offer to take definitions over from an earlier project.
+/// The comparison with an earlier project file that asks the user first.
 #include "staad/host/platform_services.h"
+#include "staad/io/file_access.h"
 #include "staad/model/sd_reader.h"
 
 namespace STAAD {
+namespace {
 
-void SdReader::compWithOldProj(const char* path)
+bool user_agrees()
 {
-    PlatformServices& services = GetPlatformServices();
-    if (path == nullptr || !services.CanRead(path))
-        return;
     // The project data already exist. Compare, and take over the earlier data?
     const PlatformServices::Message question{{},
                                              u"\u5DE5\u7A0B\u6570\u636E\u5DF2\u5B58\u5728\uFF0C\u662F\u5426"
                                              u"\u5BF9\u6BD4\u5E76\u63D0\u53D6\u539F\u6709\u7684\u6570\u636E\uFF1F",
                                              PlatformServices::Buttons::YesNo,
                                              PlatformServices::Icon::None};
-    if (services.ShowMessage(question) != PlatformServices::Answer::Yes)
-        return;
+    return GetPlatformServices().ShowMessage(question) == PlatformServices::Answer::Yes;
+}
+
+/// `path` as either form has it.
+template<class Path>
+void take_over_if_wanted(SdReader& model, const Path& path)
+{
     SdReader earlier;
-    if (earlier.ReadSDDataFromStdFile(path))
-        TakeOverFrom(earlier);
+    if (user_agrees() && earlier.ReadSDDataFromStdFile(path))
+        model.TakeOverFrom(earlier);
+}
+
+} // namespace
+
+void SdReader::compWithOldProj(const char* path)
+{
+    if (path != nullptr && GetPlatformServices().CanRead(path))
+        take_over_if_wanted(*this, path);
+}
+
+void SdReader::compWithOldProj(const std::filesystem::path& path)
+{
+    if (detail::can_read(path))
+        take_over_if_wanted(*this, path);
 }
 
 } // namespace STAAD
