@@ -16,13 +16,13 @@ inline constexpr double same_place = 0.1;
 
 /// The counterparts of the records of one list: 1-based positions in the list of the other model by the
 /// 0-based index of the record; 0 for a record without a counterpart.
-struct STAAD_API Counterparts {
+struct Counterparts {
     std::vector<int> of_new; ///< for each record of the new model its position in the earlier one
     std::vector<int> of_old; ///< the inverse: of several new records with one counterpart the last
 };
 
 /// The counterparts in SdReader::nodes, `beams` and `shells`.
-struct STAAD_API ModelMatch {
+struct ModelMatch {
     Counterparts joints;
     Counterparts members;
     Counterparts shells;

@@ -11,7 +11,7 @@ namespace STAAD {
 
 /// The pairs of one list: 1-based positions in the list of the other model by the 0-based index of the
 /// record; 0 for none. A record is in one pair at most.
-struct STAAD_API Pairs {
+struct Pairs {
     std::vector<int> old_of_new;   ///< the same record in the earlier model
     std::vector<int> new_of_old;   ///< the inverse
     std::vector<int> moved_of_new; ///< the earlier record of the same number at another place
@@ -19,7 +19,7 @@ struct STAAD_API Pairs {
 };
 
 /// The pairs in SdReader::nodes, `beams` and `shells`.
-struct STAAD_API ModelPairs {
+struct ModelPairs {
     Pairs joints;
     Pairs members;
     Pairs shells;

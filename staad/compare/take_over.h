@@ -13,20 +13,20 @@ namespace STAAD {
 
 /// A group of the earlier model. ELEMENT and FLOOR groups go by joints, like joint groups: the numbers in
 /// them are taken for joint numbers.
-struct STAAD_API TakenGroup {
+struct TakenGroup {
     SdGroup group;         ///< `ids` in the new model's numbers
     std::vector<int> lost; ///< earlier numbers without a counterpart, in their order, repeats kept
 };
 
 /// One description of supports or releases of the earlier model.
-struct STAAD_API TakenList {
+struct TakenList {
     std::string description;
     std::vector<unsigned> numbers; ///< of joints for supports, of members for releases; the new model's
     std::vector<int> lost;         ///< as TakenGroup::lost
 };
 
 /// All that there is to take over, in the earlier model's order.
-struct STAAD_API TakenOver {
+struct TakenOver {
     std::vector<TakenGroup> groups; ///< also those of which nothing is left
     std::vector<TakenList> supports;
     std::vector<TakenList> releases;

@@ -21,7 +21,7 @@ class SdReader;
 STAAD_API std::vector<double> storey_levels(const SdReader& model);
 
 /// The level of every joint, member and shell of a model: an index in `levels`, from 0.
-struct STAAD_API LevelAssignment {
+struct LevelAssignment {
     std::vector<double> levels;             ///< as storey_levels
     std::vector<NodeLevel> joint_levels;    ///< by index in SdReader::nodes
     std::vector<std::size_t> member_levels; ///< by index in `beams`: that of the higher end

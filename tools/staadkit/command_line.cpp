@@ -2,6 +2,7 @@
 
 #include "cli/terminal.h"
 #include "output/std_output.h"
+#include "staad/version.h"
 
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>

@@ -2,37 +2,17 @@
 
 #include <array>
 
-#ifdef _WIN32
-#    include "staad/io/windows_path.h"
-#endif
-
 namespace tool {
 
+std::FILE* open_file(const std::filesystem::path& path, const char* mode)
+{
 #ifdef _WIN32
-
-std::filesystem::path native_path(const std::string& name)
-{
-    return STAAD::detail::wide_path(name);
-}
-
-std::FILE* open_file(const std::filesystem::path& path, const char* mode)
-{
-    return _wfopen(path.c_str(), STAAD::detail::wide_text(mode).c_str());
-}
-
+    const std::string letters = mode;
+    return _wfopen(path.c_str(), std::wstring(letters.begin(), letters.end()).c_str());
 #else
-
-std::filesystem::path native_path(const std::string& name)
-{
-    return name;
-}
-
-std::FILE* open_file(const std::filesystem::path& path, const char* mode)
-{
     return std::fopen(path.c_str(), mode);
-}
-
 #endif
+}
 
 bool read_to_end(std::FILE* stream, std::string& text, const std::function<void(std::size_t)>& progress)
 {

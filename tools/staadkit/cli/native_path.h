@@ -2,6 +2,8 @@
 #ifndef TOOLS_STAADKIT_CLI_NATIVE_PATH_H
 #define TOOLS_STAADKIT_CLI_NATIVE_PATH_H
 
+#include "staad/io/native_path.h"
+
 #include <cstddef>
 #include <cstdio>
 #include <filesystem>
@@ -10,8 +12,7 @@
 
 namespace tool {
 
-/// `name` as a path; on Windows names are in the ANSI code page, and may be long.
-std::filesystem::path native_path(const std::string& name);
+using STAAD::native_path;
 
 /// As std::fopen.
 std::FILE* open_file(const std::filesystem::path& path, const char* mode);
