@@ -19,7 +19,7 @@ constexpr std::uint64_t mixed(std::uint64_t hash, std::uint64_t part) noexcept
     return hash ^ (hash >> 31U);
 }
 
-/// Open addressing, filled once and never emptied. Keys stay where they are: `same(index)` tells whether
+/// Open addressing, filled once and never emptied. Keys stay where they are: `same(index)` says whether
 /// an index stands for the key that is looked for.
 class hash_table {
 public:

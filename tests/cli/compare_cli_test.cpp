@@ -237,7 +237,7 @@ TEST(Compare, NoModelInOneOfThem)
     EXPECT_FALSE(report.contains("differ"));
 }
 
-TEST(Compare, AFullDiskIsTold)
+TEST(Compare, AFullDiskIsReported)
 {
     if (!std::filesystem::exists("/dev/full"))
         GTEST_SKIP() << "no /dev/full here";

@@ -48,28 +48,29 @@ TEST(Storeys, TableFromTheTopDown)
     const std::string path = tool.write("in.std", storeys_deck());
     const tool_result result = tool({"storeys", path});
     EXPECT_EQ(result.exit_code, 0) << result.err;
-    // Storey 1: columns 1 and 2, beams 5 and 11, brace 7, level brace 12, surface 5; no section, 1 of 4, for 11.
+    // Storey 1: columns 1 and 2, beams 5 and 11, brace 7, horizontal brace 12, surface 5; no section, 1 of 4, for 11.
     // Joint 7 and member 8 rise above the top; 9 lies at the bottom, 10 has no joint to rise to.
-    EXPECT_EQ(result.out,
-              path + "\n"
-                     "storeys: 2 (4.00 + 3.50 m), base at 0.00 m, from the top down\n"
-                     "   storey  base (m)  height (m)  joints  columns  beams  braces  level braces  shells  sections\n"
-                     "        2     4.000       3.500       2        2      1       0             0       1         2\n"
-                     "        1     0.000       4.000       2        2      2       1             1       1         4\n"
-                     "  in none                             4        0      3       0             0       2         3\n"
-                     "    total                             8        4      6       1             1       4         5\n"
-                     "members and shells in no storey:\n"
-                     "  at the lowest level  1 member   9\n"
-                     "  at the lowest level  1 element  102\n"
-                     "  above the top level  1 member   8\n"
-                     "  above the top level  1 element  103\n"
-                     "  unknown joints       1 member   10\n"
-                     "sections: 5\n"
-                     "  1  PRIS500X500       C40  4 members  storeys 1 TO 2\n"
-                     "  2  PRIS600X300       C30  3 members  storeys 1 TO 2, 1 in none\n"
-                     "  3  TABLE ST L100X10  C30  2 members  storey 1\n"
-                     "  4  PRIS400           C30  1 member   in no storey\n"
-                     "  5  (empty)           C30  2 members  storey 1, 1 in none\n");
+    EXPECT_EQ(
+        result.out,
+        path + "\n"
+               "storeys: 2 (4.00 + 3.50 m), base at 0.00 m, from the top down\n"
+               "   storey  base (m)  height (m)  joints  columns  beams  braces  horizontal braces  shells  sections\n"
+               "        2     4.000       3.500       2        2      1       0                  0       1         2\n"
+               "        1     0.000       4.000       2        2      2       1                  1       1         4\n"
+               "  in none                             4        0      3       0                  0       2         3\n"
+               "    total                             8        4      6       1                  1       4         5\n"
+               "members and shells in no storey:\n"
+               "  at the lowest level  1 member   9\n"
+               "  at the lowest level  1 element  102\n"
+               "  above the top level  1 member   8\n"
+               "  above the top level  1 element  103\n"
+               "  unknown joints       1 member   10\n"
+               "sections: 5\n"
+               "  1  PRIS500X500       C40  4 members  storeys 1 TO 2\n"
+               "  2  PRIS600X300       C30  3 members  storeys 1 TO 2, 1 in none\n"
+               "  3  TABLE ST L100X10  C30  2 members  storey 1\n"
+               "  4  PRIS400           C30  1 member   in no storey\n"
+               "  5  (empty)           C30  2 members  storey 1, 1 in none\n");
 }
 
 TEST(Storeys, JsonHasEveryNumber)
@@ -139,13 +140,14 @@ TEST(Storeys, OneLevelIsAStorey)
     EXPECT_TRUE(has_line(result.out, "storeys: 1 (one level, at 4.500 m: height by convention)")) << result.out;
     // The member without joints counts as one of the lowest level, which is that of a storey here.
     EXPECT_TRUE(has_line(
-        result.out, "        1     4.500       3.000       2        0      2       0             0       0         1"))
+        result.out,
+        "        1     4.500       3.000       2        0      2       0                  0       0         1"))
         << result.out;
     EXPECT_TRUE(has_line(result.out, "  above the top level  1 member  2")) << result.out;
     EXPECT_FALSE(contains(result.out, "unknown joints")) << result.out;
 }
 
-TEST(Storeys, NoLevelIsToldAndIsAnExitCode)
+TEST(Storeys, NoLevelIsReportedAndIsAnExitCode)
 {
     const tool_run tool;
     const std::string path = tool.write("in.std", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 6 1 0\n"
@@ -173,7 +175,7 @@ TEST(Storeys, LongListsAreCutInWordsAndWholeInJson)
 {
     const tool_run tool;
     std::string deck = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 4 0; 3 5 0 0\nMEMBER INCIDENCES\n1 1 2\n";
-    // Every other number, from 10 to 32: twelve runs, of which ten are told.
+    // Every other number, from 10 to 32: twelve runs, of which ten are printed.
     json numbers = json::array();
     for (int member = 10; member <= 32; member += 2) {
         deck += std::to_string(member) + " 1 3\n";
@@ -238,8 +240,9 @@ const std::string frame_listing = STAADKIT_SOURCE_DIR "/examples/concrete-frame.
 void expect_forces_of_the_frame(const tool_result& result)
 {
     EXPECT_EQ(result.exit_code, 0) << result.err;
-    EXPECT_TRUE(has_line(result.out, "   storey  base (m)  height (m)  joints  columns  beams  braces  level braces  "
-                                     "shells  sections  with forces"))
+    EXPECT_TRUE(has_line(result.out,
+                         "   storey  base (m)  height (m)  joints  columns  beams  braces  horizontal braces  "
+                         "shells  sections  with forces"))
         << result.out;
     const auto row = [&](const char* begin, const char* end) {
         const std::size_t at = result.out.find(begin);
@@ -359,7 +362,7 @@ TEST(Storeys, APlaceWithoutEndIsNoCrash)
     EXPECT_EQ(tool({"compare", path, path}).exit_code, 0);
 }
 
-TEST(Storeys, AFullDiskIsTold)
+TEST(Storeys, AFullDiskIsReported)
 {
     if (!std::filesystem::exists("/dev/full"))
         GTEST_SKIP() << "no /dev/full here";

@@ -177,7 +177,7 @@ TEST(TakeOver, AsksAtATerminal)
     EXPECT_EQ(no.exit_code, 4);
     EXPECT_TRUE(contains(no.err, "Take groups, supports and releases over, and write " + out + "? [y/N] ")) << no.err;
     EXPECT_TRUE(contains(no.err, "staadkit: error: " + out + ": not written: the answer was no")) << no.err;
-    EXPECT_TRUE(contains(no.out, "groups to take over: 5\n")) << "it is told before it is asked";
+    EXPECT_TRUE(contains(no.out, "groups to take over: 5\n")) << "the report comes before the question";
     EXPECT_FALSE(fs::exists(out));
 
     const tool_result yes = at_terminal(tool, call, "y\n");

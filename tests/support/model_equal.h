@@ -23,7 +23,7 @@ template<class Record>
 std::vector<std::string> filled_fields(const Record& record);
 
 /// Where two models differ in a public field: "nodes[2].x: 0 and 300". Empty: they are the same.
-/// Past a hundred differences only their number is told.
+/// After a hundred differences only their number is given.
 std::vector<std::string> model_differences(const SdReader& a, const SdReader& b);
 
 } // namespace STAAD

@@ -1,4 +1,4 @@
-/// The table under the comparison: keys told apart though their hashes are the same.
+/// The table under the comparison: different keys stay apart though their hashes are the same.
 
 #include "staad/compare/hash_table.h"
 
@@ -18,7 +18,7 @@ struct hash_row {
     hash_function hash;
 };
 
-/// A hash has two halves: one tells where to look first, the other what to look for.
+/// A hash has two halves: one says where to look first, the other what to look for.
 const hash_row hashes[] = {
     {"mixed well", [](int key) { return mixed(0, static_cast<std::uint64_t>(key)); }},
     {"all the same", [](int) { return std::uint64_t{0}; }},

@@ -44,7 +44,7 @@ SdReader model_with_definitions()
     return model;
 }
 
-/// Compares with `path`; tells whether anything came of it, and the messages shown.
+/// Whether the comparison with `path` changed anything.
 bool changes(scripted_services& desktop, Answer answer, const char* path)
 {
     desktop.answer = answer;

@@ -1,4 +1,4 @@
-/// Columns, braces, level braces and everything else.
+/// Columns, braces, horizontal braces and everything else.
 
 #include "tests/support/placed_models.h"
 #include "tests/support/sd_reader_access.h"
@@ -62,7 +62,7 @@ TEST(BeamKind, FollowsGeometryAndDeclaration)
         const SdReader plain = model_of(c.start, c.end, false);
         EXPECT_EQ(access::IsColumn(plain, plain.beams[0]), c.column);
         EXPECT_FALSE(access::IsBrace(plain, plain.beams[0]));
-        EXPECT_FALSE(access::IsHBrace(plain, plain.beams[0])) << "only a brace is a level brace";
+        EXPECT_FALSE(access::IsHBrace(plain, plain.beams[0])) << "only a brace is a horizontal brace";
         EXPECT_EQ(plain.GetBeamType(plain.beams[0]), c.plain_type);
 
         const SdReader brace = model_of(c.start, c.end, true);

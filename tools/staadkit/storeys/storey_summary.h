@@ -1,4 +1,4 @@
-/// What "storeys" tells about a model, before it is put in words.
+/// What "storeys" reports about a model, before it is put in words.
 #ifndef TOOLS_STAADKIT_STOREYS_STOREY_SUMMARY_H
 #define TOOLS_STAADKIT_STOREYS_STOREY_SUMMARY_H
 

@@ -57,7 +57,7 @@ public:
     explicit storey_table(bool with_forces) : with_forces_(with_forces), rows_(std::vector<align>(11, align::right))
     {
         rows_.add_heading(cells_of({"storey", "base (m)", "height (m)"},
-                                   {"joints", "columns", "beams", "braces", "level braces", "shells", "sections"},
+                                   {"joints", "columns", "beams", "braces", "horizontal braces", "shells", "sections"},
                                    "with forces"));
     }
 

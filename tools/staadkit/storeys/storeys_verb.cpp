@@ -53,7 +53,7 @@ void put_text(std_output& out, const std::string& name, const std::optional<open
     put_storeys(out, summary, forces.has_value());
 }
 
-exit_code tell_storeys(opened_model& opened, const std::optional<opened_forces>& forces, const storeys_options& options)
+exit_code report_storeys(opened_model& opened, const std::optional<opened_forces>& forces, const storeys_options& options)
 {
     const storeys_summary summary = summarise_storeys(std::move(opened.model));
     const exit_code result = summary.storeys.empty() ? done_with_findings : done;
@@ -66,7 +66,7 @@ exit_code tell_storeys(opened_model& opened, const std::optional<opened_forces>&
     return out.close(result);
 }
 
-/// Reads what is to be read, and tells what it had to tell. False if there is nothing to go on with.
+/// Reads the model and the listing asked for, and prints their findings. False if there is no model, or no listing.
 bool read_inputs(opened_model& opened, std::optional<opened_forces>& forces, const storeys_options& options)
 {
     const STAAD::Finding::Severity least = least_severity(options.with_notes);
@@ -93,7 +93,7 @@ exit_code run_storeys(const storeys_options& options)
     std::optional<opened_forces> forces;
     try {
         if (read_inputs(opened, forces, options))
-            return tell_storeys(opened, forces, options);
+            return report_storeys(opened, forces, options);
     } catch (const std::bad_alloc&) {
         give_up_for_memory(opened);
         print_finding(opened.name, opened.report.findings.back());
