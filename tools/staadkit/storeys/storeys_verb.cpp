@@ -53,7 +53,8 @@ void put_text(std_output& out, const std::string& name, const std::optional<open
     put_storeys(out, summary, forces.has_value());
 }
 
-exit_code report_storeys(opened_model& opened, const std::optional<opened_forces>& forces, const storeys_options& options)
+exit_code report_storeys(opened_model& opened, const std::optional<opened_forces>& forces,
+                         const storeys_options& options)
 {
     const storeys_summary summary = summarise_storeys(std::move(opened.model));
     const exit_code result = summary.storeys.empty() ? done_with_findings : done;
