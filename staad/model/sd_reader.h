@@ -34,6 +34,7 @@ class model_reader;
 class model_writer;
 class reading;
 class text_output;
+class written_numbers;
 struct sd_reader_access;
 struct written_loads;
 } // namespace detail
@@ -132,9 +133,10 @@ public:
     ///           are written as the model holds them. The wind and seismic loads of `wl_param` and
     ///           `eq_param` follow the load cases. Offsets, and loads on joints, areas, floors and by
     ///           self weight, are not written.
-    /// Changes:  members become numbers 1 to M in list order, shells M + 1 and on; `brace_ids` becomes
-    ///           the members whose `kind_code` is Brace or HorizontalBrace; the user tables with keys 1
-    ///           to 10 get the family word of their key. Also where `path` cannot be opened.
+    /// Changes:  before anything is written, and also where `path` cannot be opened: members become
+    ///           numbers 1 to M in list order, shells M + 1 and on; `brace_ids` becomes the members whose
+    ///           `kind_code` is Brace or HorizontalBrace; the user tables with keys 1 to 10 get the
+    ///           family word of their key. normalised_text() gives the text without these changes.
     /// Threads:  different models may be written at the same time.
     /// Throws:   std::bad_alloc; what was written by then stays in the file.
     /// Cost:     linear in the model, beside the sorting of distinct texts and of unsorted lists.
@@ -265,19 +267,20 @@ private:
 
     void write_std_head(detail::text_output& out) const;
     void write_std_node(detail::text_output& out) const;
-    void write_std_beam(detail::text_output& out) const;
-    void write_std_board(detail::text_output& out) const;
-    void write_std_usrSectTable(detail::text_output& out);
+    void write_std_beam(detail::text_output& out, const detail::written_numbers& numbers) const;
+    void write_std_board(detail::text_output& out, const detail::written_numbers& numbers) const;
+    void write_std_usrSectTable(detail::text_output& out) const;
     void write_std_group(detail::text_output& out) const;
-    void write_std_thickness(detail::text_output& out) const;
+    void write_std_thickness(detail::text_output& out, const detail::written_numbers& numbers) const;
     void write_std_material(detail::text_output& out) const;
-    void write_std_truss(detail::text_output& out);
-    void write_std_section(detail::text_output& out) const;
-    void write_std_mat_table(detail::text_output& out) const;
-    void write_std_beta(detail::text_output& out) const;
+    void write_std_truss(detail::text_output& out, const detail::written_numbers& numbers) const;
+    void write_std_section(detail::text_output& out, const detail::written_numbers& numbers) const;
+    void write_std_mat_table(detail::text_output& out, const detail::written_numbers& numbers) const;
+    void write_std_beta(detail::text_output& out, const detail::written_numbers& numbers) const;
     void write_std_support(detail::text_output& out) const;
     void write_std_release(detail::text_output& out) const;
-    void write_std_load(detail::text_output& out, detail::written_loads& loads) const;
+    void write_std_load(detail::text_output& out, const detail::written_numbers& numbers,
+                        detail::written_loads& loads) const;
     void write_std_WL(detail::text_output& out, detail::written_loads& loads) const;
     void write_std_EQ(detail::text_output& out, detail::written_loads& loads) const;
 };

@@ -36,13 +36,4 @@ int SdReader::locateShellIndex(int id) const
     return locate(shells, id);
 }
 
-void SdReader::reset_member_id()
-{
-    int number = 0;
-    for (SdBeam& member : beams)
-        member.id = ++number;
-    for (SdShell& shell : shells)
-        shell.id = ++number;
-}
-
 } // namespace STAAD

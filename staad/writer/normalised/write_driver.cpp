@@ -1,19 +1,20 @@
-/// The order of the blocks, and the two places that a written model goes to.
+/// What writing changes in a model, the order of the blocks, and the places that a written model goes to.
 #include "staad/io/file_access.h"
-#include "staad/model/sd_reader.h"
 #include "staad/text/text_output.h"
 #include "staad/writer/normalised/written_loads.h"
+#include "staad/writer/normalised/written_numbers.h"
+#include "staad/writer/normalised_text.h"
 
 namespace STAAD {
 namespace detail {
 
-/// Writes one model: the blocks in their order.
+/// Writes one model.
 class model_writer {
 public:
     template<class Path>
     static std::error_code write_file(SdReader& model, const Path& path)
     {
-        model.reset_member_id();
+        take_over_written(model);
         output_file file(path);
         {
             text_output out(file);
@@ -21,35 +22,54 @@ public:
         }
         return file.close();
     }
+
     static std::string write_text(SdReader& model)
     {
-        model.reset_member_id();
+        take_over_written(model);
+        return text_of(model);
+    }
+
+    static std::string text_of(const SdReader& model)
+    {
         text_output out;
         write_blocks(model, out);
         return out.take();
     }
 
 private:
-    static void write_blocks(SdReader& model, text_output& out);
+    static void take_over_written(SdReader& model);
+    static void write_blocks(const SdReader& model, text_output& out);
 };
 
-void model_writer::write_blocks(SdReader& model, text_output& out)
+/// Gives the model what its text will say: numbers, families of user tables, braces. The text does not depend
+/// on it.
+void model_writer::take_over_written(SdReader& model)
 {
+    model.reset_member_id();
+    for (auto& [number, table] : model.usr_tables)
+        table.SetType(static_cast<UsrDefineSectionType>(number)); // the number of a table is its family
+    const std::vector<int> braces = brace_numbers(model, written_numbers(model));
+    model.brace_ids = std::set<int>(braces.begin(), braces.end());
+}
+
+void model_writer::write_blocks(const SdReader& model, text_output& out)
+{
+    const written_numbers numbers(model);
     written_loads loads;
     model.write_std_head(out);
     model.write_std_node(out);
-    model.write_std_beam(out);
-    model.write_std_board(out);
+    model.write_std_beam(out, numbers);
+    model.write_std_board(out, numbers);
     model.write_std_usrSectTable(out);
     model.write_std_group(out);
-    model.write_std_thickness(out);
+    model.write_std_thickness(out, numbers);
     model.write_std_material(out);
-    model.write_std_truss(out);
-    model.write_std_section(out);
-    model.write_std_mat_table(out);
+    model.write_std_truss(out, numbers);
+    model.write_std_section(out, numbers);
+    model.write_std_mat_table(out, numbers);
     model.write_std_support(out);
     model.write_std_release(out);
-    model.write_std_load(out, loads);
+    model.write_std_load(out, numbers, loads);
     model.write_std_WL(out, loads);
     model.write_std_EQ(out, loads);
     out.put("FINISH");
@@ -77,6 +97,20 @@ bool SdReader::WriteDataToFile(const std::filesystem::path& path, std::error_cod
 std::string SdReader::WriteDataToText()
 {
     return detail::model_writer::write_text(*this);
+}
+
+std::string normalised_text(const SdReader& model)
+{
+    return detail::model_writer::text_of(model);
+}
+
+void SdReader::reset_member_id()
+{
+    const detail::written_numbers numbers(*this);
+    for (SdBeam& member : beams)
+        member.id = numbers.of(member);
+    for (SdShell& shell : shells)
+        shell.id = numbers.of(shell);
 }
 
 void SdReader::write_std_head(detail::text_output& out) const

@@ -1,6 +1,6 @@
 /// Joints, members and elements.
-#include "staad/model/sd_reader.h"
 #include "staad/writer/normalised/packed_items.h"
+#include "staad/writer/normalised/written_numbers.h"
 
 namespace STAAD {
 namespace {
@@ -22,21 +22,21 @@ void SdReader::write_std_node(detail::text_output& out) const
     items.finish();
 }
 
-void SdReader::write_std_beam(detail::text_output& out) const
+void SdReader::write_std_beam(detail::text_output& out, const detail::written_numbers& numbers) const
 {
     out.line("MEMBER INCIDENCES");
     detail::packed_items items(out);
     for (const SdBeam& member : beams)
-        items.add(member.id, member.node_start, member.node_end);
+        items.add(numbers.of(member), member.node_start, member.node_end);
     items.finish();
 }
 
-void SdReader::write_std_board(detail::text_output& out) const
+void SdReader::write_std_board(detail::text_output& out, const detail::written_numbers& numbers) const
 {
     out.line("ELEMENT INCIDENCES SHELL");
     detail::packed_items items(out);
     for (const SdShell& shell : shells) {
-        items.add_number(shell.id);
+        items.add_number(numbers.of(shell));
         for (const int joint : shell.node_ids)
             items.add_number(joint);
         items.end_item();

@@ -1,5 +1,4 @@
 /// Load cases and their member loads.
-#include "staad/model/sd_reader.h"
 #include "staad/text/text_output.h"
 #include "staad/writer/normalised/id_groups.h"
 #include "staad/writer/normalised/written_loads.h"
@@ -39,11 +38,12 @@ void write_loads_of_case(detail::text_output& out, std::span<const detail::membe
 
 } // namespace
 
-void SdReader::write_std_load(detail::text_output& out, detail::written_loads& loads) const
+void SdReader::write_std_load(detail::text_output& out, const detail::written_numbers& numbers,
+                              detail::written_loads& loads) const
 {
     if (load_defs.empty() || load_cases.empty())
         return;
-    loads.collect(load_cases, load_defs, beams);
+    loads.collect(*this, numbers);
     for (const auto& [key, load_case] : load_cases) {
         loads.last_number = std::max(loads.last_number, load_case.id);
         out.line("LOAD ", load_case.id, " LOADTYPE ", load_case.type_text, " TITLE LOAD CASE ", load_case.id);

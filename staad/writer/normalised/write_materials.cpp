@@ -1,7 +1,7 @@
 /// The material library, and what the constants block gives to members and elements.
-#include "staad/model/sd_reader.h"
 #include "staad/text/run_lines.h"
 #include "staad/writer/normalised/id_groups.h"
+#include "staad/writer/normalised/written_numbers.h"
 
 #include <cmath>
 #include <string>
@@ -54,15 +54,15 @@ void SdReader::write_std_material(detail::text_output& out) const
     out.put(before_concrete_density, detail::real{concrete_density}, after_concrete_density);
 }
 
-void SdReader::write_std_mat_table(detail::text_output& out) const
+void SdReader::write_std_mat_table(detail::text_output& out, const detail::written_numbers& numbers) const
 {
     out.line("CONSTANTS");
-    write_std_beta(out);
+    write_std_beta(out, numbers);
     detail::id_groups<std::string_view> by_material;
     for (const SdBeam& member : beams)
-        by_material.at(member.material).push_back(member.id);
+        by_material.at(member.material).push_back(numbers.of(member));
     for (const SdShell& shell : shells)
-        by_material.at(shell.material).push_back(shell.id);
+        by_material.at(shell.material).push_back(numbers.of(shell));
 
     const auto materials = by_material.ascending();
     if (materials.size() == 1) {
@@ -76,12 +76,12 @@ void SdReader::write_std_mat_table(detail::text_output& out) const
     }
 }
 
-void SdReader::write_std_beta(detail::text_output& out) const
+void SdReader::write_std_beta(detail::text_output& out, const detail::written_numbers& numbers) const
 {
     detail::id_groups<double> by_beta;
     for (const SdBeam& member : beams) {
         if (std::abs(member.beta) >= smallest_beta)
-            by_beta.at(member.beta).push_back(member.id);
+            by_beta.at(member.beta).push_back(numbers.of(member));
     }
     for (const auto* members : by_beta.ascending()) {
         const std::string head = "BETA " + detail::format_real(members->first) + " MEMB";

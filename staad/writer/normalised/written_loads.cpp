@@ -41,14 +41,14 @@ std::string_view member_load_word(const LoadDefination& definition)
     return std::string_view(definition.kind).substr(member_load_prefix.size());
 }
 
-loaded_members::loaded_members(const std::map<int, LoadDefination>& definitions, const std::vector<SdBeam>& members)
-    : positions_(member_load_positions(definitions)), ends_(positions_.entries().size() + 2)
+loaded_members::loaded_members(const SdReader& model, const written_numbers& numbers)
+    : positions_(member_load_positions(model.load_defs)), ends_(positions_.entries().size() + 2)
 {
     const auto for_each_reference = [&](auto visit) {
-        for (const SdBeam& member : members) {
+        for (const SdBeam& member : model.beams) {
             for (const int definition : member.int_list) {
                 if (const int position = positions_.position(definition))
-                    visit(static_cast<std::size_t>(position), member.id);
+                    visit(static_cast<std::size_t>(position), numbers.of(member));
             }
         }
     };
@@ -84,13 +84,12 @@ int written_loads::next_number(int count) noexcept
     return last_number = static_cast<int>(static_cast<unsigned>(last_number) + static_cast<unsigned>(count));
 }
 
-void written_loads::collect(const std::map<int, LoadCase>& load_cases, const std::map<int, LoadDefination>& definitions,
-                            const std::vector<SdBeam>& beams)
+void written_loads::collect(const SdReader& model, const written_numbers& numbers)
 {
-    members = loaded_members(definitions, beams);
-    for (const auto& [key, load_case] : load_cases)
+    members = loaded_members(model, numbers);
+    for (const auto& [key, load_case] : model.load_cases)
         collected[load_case.id];
-    for (const auto& [number, definition] : definitions) {
+    for (const auto& [number, definition] : model.load_defs) {
         const std::span<const int> loaded = members.of(number);
         const auto found = loaded.empty() ? collected.end() : collected.find(definition.load_case);
         if (found != collected.end())

@@ -2,10 +2,9 @@
 #ifndef STAAD_WRITER_NORMALISED_WRITTEN_LOADS_H
 #define STAAD_WRITER_NORMALISED_WRITTEN_LOADS_H
 
-#include "staad/model/geometry.h"
-#include "staad/model/load.h"
 #include "staad/text/number_lookup.h"
 #include "staad/text/text_output.h"
+#include "staad/writer/normalised/written_numbers.h"
 
 #include <cstddef>
 #include <map>
@@ -27,7 +26,7 @@ std::string_view member_load_word(const LoadDefination& definition);
 class loaded_members {
 public:
     loaded_members() = default;
-    loaded_members(const std::map<int, LoadDefination>& definitions, const std::vector<SdBeam>& members);
+    loaded_members(const SdReader& model, const written_numbers& numbers);
 
     /// Numbers of the members that refer to the definition, in list order; one that refers to it
     /// twice stands there twice.
@@ -58,10 +57,9 @@ struct written_loads {
     /// `last_number` raised by `count`; past the 32-bit limit it goes on from the other one.
     int next_number(int count) noexcept;
 
-    /// Fills `members` and `collected` with the member loads of the cases in `load_cases` that act on
-    /// any member.
-    void collect(const std::map<int, LoadCase>& load_cases, const std::map<int, LoadDefination>& definitions,
-                 const std::vector<SdBeam>& beams);
+    /// Fills `members` and `collected` with the member loads of the model's load cases that act on any
+    /// member.
+    void collect(const SdReader& model, const written_numbers& numbers);
 
     int last_number = 0; ///< running load case number
     loaded_members members;
