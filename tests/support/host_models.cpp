@@ -1,7 +1,6 @@
 #include "tests/support/host_models.h"
 
 #include "tests/support/chinese_texts.h"
-#include "tests/support/written_loads.h"
 #include "tests/support/written_text.h"
 
 #include <cstddef>

@@ -54,7 +54,7 @@ void read_members(const SdReader& from, SdReader& to)
     }
 }
 
-/// Shells are numbered behind the members; the copies of surfaces come back as shells, the surfaces do not.
+/// Shells are numbered after the members; the copies of surfaces come back as shells, the surfaces do not.
 /// A thickness is truncated once more after its six digits.
 void read_shells(const SdReader& from, SdReader& to)
 {
@@ -141,7 +141,7 @@ SdReader read_back(const SdReader& model)
     SdReader back;
     back.unit_text = "UNIT METER KN";
     back.length_factor = mm_per_metre;
-    // the density is read from the characters behind the seventh of "E 2.17184e+007"
+    // the density is read from the characters after the seventh of "E 2.17184e+007"
     back.concrete_density = 84e7;
     read_joints(model, back);
     read_members(model, back);

@@ -18,7 +18,7 @@ struct read_section {
     std::string text;
 };
 
-/// What the text behind a member list is read as. TABLE and UPTABLE come back. The dimensions of the others
+/// What the text after a member list is read as. TABLE and UPTABLE come back. The dimensions of the others
 /// were put together into one word in mm: a second reading skips its first character after TAPERED, or after
 /// PRIS, takes TAPERED's first number for metres, and leaves PRIS without its keyword.
 read_section section_of(const std::string& text)
@@ -76,7 +76,7 @@ std::vector<int> named_members(const std::vector<int>& members, std::size_t word
 
 /// Members without a material, if others have one: their line lacks the name, so that MEMB is taken for the
 /// name and the first number of the list for MEMB. A list that began with a range still names its first member:
-/// the TO that is left counts from 1, and members of a name have lines of their own behind this one.
+/// the TO that is left counts from 1, and members of a name have lines of their own after this one.
 void read_nameless_materials(const SdReader& from, SdReader& to)
 {
     std::vector<std::size_t> nameless;

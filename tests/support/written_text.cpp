@@ -1,5 +1,7 @@
 #include "tests/support/written_text.h"
 
+#include "staad/writer/normalised_text.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -57,9 +59,9 @@ std::string between(const std::string& text, const std::string& first, const std
     return text.substr(begin, end - begin);
 }
 
-std::string between(SdReader model, const std::string& first, const std::string& last)
+std::string between(const SdReader& model, const std::string& first, const std::string& last)
 {
-    return between(model.WriteDataToText(), first, last);
+    return between(normalised_text(model), first, last);
 }
 
 std::string joints(const SdReader& model)
@@ -94,15 +96,13 @@ std::string supports_to_loads(const SdReader& model)
 
 std::string wind(const SdReader& model)
 {
-    SdReader copy = model;
-    const std::string text = copy.WriteDataToText();
+    const std::string text = normalised_text(model);
     return "DEFINE WIND LOAD\n" + between(text, "DEFINE WIND LOAD", seismic_header(text));
 }
 
 std::string seismic(const SdReader& model)
 {
-    SdReader copy = model;
-    const std::string text = copy.WriteDataToText();
+    const std::string text = normalised_text(model);
     const std::string header = seismic_header(text);
     return header + "\n" + between(text, header, "FINISH");
 }
@@ -154,6 +154,26 @@ std::vector<int> every_second(int first, int count)
     for (int i = 0; i < count; ++i)
         numbers.push_back(first + 2 * i);
     return numbers;
+}
+
+void add_case(SdReader& model, int number, const std::string& type)
+{
+    model.load_cases[number].id = number;
+    model.load_cases[number].type_text = type;
+    model.load_cases[number].title = "TITLE OF THE FILE";
+}
+
+void add_load(SdReader& model, const LoadDefination& load, const std::vector<int>& positions)
+{
+    const int number = static_cast<int>(model.load_defs.size()) + 1;
+    model.load_defs[number] = load;
+    for (const int position : positions)
+        model.beams.at(static_cast<std::size_t>(position - 1)).int_list.push_back(number);
+}
+
+LoadDefination uniform(double value, int load_case)
+{
+    return {"MEMBER LOAD UNI", "GZ", {value}, load_case};
 }
 
 } // namespace STAAD::written

@@ -14,9 +14,9 @@ namespace STAAD::written {
 std::string between(const std::string& text, const std::string& first, const std::string& last);
 
 /// The same of the text that `model` is written as.
-std::string between(SdReader model, const std::string& first, const std::string& last);
+std::string between(const SdReader& model, const std::string& first, const std::string& last);
 
-/// Joints, members, shells; the user tables, groups and thicknesses behind the shells.
+/// Joints, members, shells; the user tables, groups and thicknesses after the shells.
 std::string joints(const SdReader& model);
 std::string members(const SdReader& model);
 std::string shells_tables_groups(const SdReader& model);
@@ -31,7 +31,7 @@ std::string wind(const SdReader& model);
 /// The seismic case, its header line included, up to "FINISH".
 std::string seismic(const SdReader& model);
 
-/// Physical lines, without their line feeds. A text behind the last line feed is a line as well.
+/// Physical lines, without their line feeds. A text after the last line feed is a line as well.
 std::vector<std::string> lines_of(const std::string& text);
 
 inline constexpr const char* one_material = "C30";
@@ -45,6 +45,15 @@ SdShell shell(int thickness);
 
 /// The numbers first, first + 2, first + 4, ..., `count` of them: a range each.
 std::vector<int> every_second(int first, int count);
+
+/// Adds a load case with a title, which is not written.
+void add_case(SdReader& model, int number, const std::string& type = "Dead");
+
+/// Puts a definition under the next number, and on the members at `positions` (from 1).
+void add_load(SdReader& model, const LoadDefination& load, const std::vector<int>& positions);
+
+/// A uniform load along GZ.
+LoadDefination uniform(double value, int load_case);
 
 } // namespace STAAD::written
 

@@ -1,4 +1,4 @@
-/// Job header, joints, members and shell elements as they are written.
+/// Joints, members and shell elements as they are written.
 
 #include "staad/model/sd_reader.h"
 #include "tests/support/written_text.h"
@@ -64,29 +64,11 @@ std::string item_of_length(int number, std::size_t length)
     return item + ';';
 }
 
-TEST(WriteHead, IsTheSameSixLinesForEveryModel)
-{
-    SdReader model = written::row_of_members(2);
-    model.unit_text = "UNIT FEET KIP";
-    const std::string text = model.WriteDataToText();
-    const std::string head = "STAAD SPACE\nSTART JOB INFORMATION\nENGINEER DATE 04-Jun-14\nEND JOB INFORMATION\n"
-                             "INPUT WIDTH 79\nUNIT METER KN\nJOINT COORDINATES\n";
-    EXPECT_EQ(text.substr(0, head.size()), head);
-}
-
 TEST(WriteJoints, NumbersThemByPosition)
 {
     SdReader model;
     model.nodes = {joint(10, 0, 0, 0), joint(30, 0, 1000, 0), joint(20, 0, 2000, 0)};
     EXPECT_EQ(written::joints(model), "1 0 0 0; 2 1 0 0; 3 2 0 0;\n");
-}
-
-TEST(WriteJoints, KeepsTheNumbersInTheModel)
-{
-    SdReader model;
-    model.nodes = {joint(10, 0, 0, 0)};
-    model.WriteDataToText();
-    EXPECT_EQ(model.nodes[0].id, 10);
 }
 
 struct coordinates {
@@ -129,17 +111,10 @@ TEST(WriteMembers, NumbersThemFromOneAndKeepsTheirReferences)
     model.shells = {shell_with({1, 2, 1}), shell_with({2, 1, 2, 1})};
     EXPECT_EQ(written::members(model), "1 1 2; 2 2 1; 3 2 2;\n");
     EXPECT_EQ(written::between(model, "ELEMENT INCIDENCES SHELL", "ELEMENT PROPERTY"), "4 1 2 1; 5 2 1 2 1;\n");
-}
-
-TEST(WriteMembers, LeavesTheNewNumbersInTheModel)
-{
-    SdReader model;
-    model.beams = {member(10, 1, 2), member(30, 2, 1)};
-    model.shells = {shell_with({1, 2, 1})};
     model.WriteDataToText();
-    EXPECT_EQ(model.beams[0].id, 1);
-    EXPECT_EQ(model.beams[1].id, 2);
-    EXPECT_EQ(model.shells[0].id, 3);
+    EXPECT_EQ(model.nodes[0].id, 10) << "joints keep their numbers in the model";
+    EXPECT_EQ(model.beams[1].id, 2) << "members and shells do not";
+    EXPECT_EQ(model.shells[1].id, 5);
 }
 
 TEST(WriteMembers, WritesReferencesToNoJointAsTheyAre)
@@ -183,7 +158,7 @@ const packing packing_rows[] = {
     {"a longer first item has, too, and is not cut", {150}, {{}, {1}}},
     {"what follows a first item of 79 begins a line", {79, 10}, {{}, {1}, {2}}},
     {"a later long item has no empty line before it", {10, 79, 10}, {{1}, {2}, {3}}},
-    {"nothing fits behind 77 characters", {77, 6}, {{1}, {2}}},
+    {"nothing fits after 77 characters", {77, 6}, {{1}, {2}}},
     {"two long items in a row", {200, 200}, {{}, {1}, {2}}},
 };
 
@@ -205,14 +180,6 @@ TEST(PackItems, KeepsLinesToSeventyNineCharacters)
         }
         EXPECT_EQ(written::between(model, "ELEMENT INCIDENCES SHELL", "ELEMENT PROPERTY"), want) << row.why;
     }
-}
-
-TEST(PackItems, FillsLinesOfManyMembers)
-{
-    EXPECT_EQ(written::members(written::row_of_members(25)),
-              "1 1 2; 2 2 3; 3 3 4; 4 4 5; 5 5 6; 6 6 7; 7 7 8; 8 8 9; 9 9 10; 10 10 11;\n"
-              "11 11 12; 12 12 13; 13 13 14; 14 14 15; 15 15 16; 16 16 17; 17 17 18; 18 18 19;\n"
-              "19 19 20; 20 20 21; 21 21 22; 22 22 23; 23 23 24; 24 24 25; 25 25 26;\n");
 }
 
 } // namespace

@@ -3,7 +3,6 @@
 #include "staad/model/sd_reader.h"
 #include "tests/support/chinese_texts.h"
 #include "tests/support/deck.h"
-#include "tests/support/written_loads.h"
 #include "tests/support/written_text.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +10,6 @@
 #include <array>
 #include <climits>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -125,43 +123,34 @@ std::string between(const SeismicParam& parameters, const std::string& first, co
     return written::between(written::seismic(with(parameters)), first, last);
 }
 
-TEST(WriteSeismic, KnowsTheEarthquakeTypeInBothEncodings)
+struct word_row {
+    chinese::encoded text;
+    const char* type;  ///< the line if it is the earthquake type
+    const char* group; ///< the line if it is the design group
+};
+
+const word_row word_rows[] = {
+    {chinese::far, "*{ EQ TYPE : 1\n", ""},
+    {chinese::near, "*{ EQ TYPE : 2\n", ""},
+    {chinese::frequent, "*{ EQ TYPE : 3\n", ""},
+    {chinese::rare, "*{ EQ TYPE : 4\n", ""},
+    {chinese::first_group, "", "*{ EQ GROUP : 1\n"},
+    {chinese::second_group, "", "*{ EQ GROUP : 2\n"},
+    {chinese::third_group, "", "*{ EQ GROUP : 3\n"},
+    {{"1", "FAR"}, "", ""},
+    {{" \xD4\xB6", "\xD4\xB6 "}, "", ""},           // a blank beside the word
+    {{"\xB6\xE0", "\xB6\xE0\xD3\xF6\xD3"}, "", ""}, // half a word, and more than one
+};
+
+TEST(WriteSeismic, KnowsTypesAndGroupsInBothEncodings)
 {
-    using chinese::encoded;
-    const std::vector<std::pair<encoded, std::string>> types = {
-        {chinese::far, "*{ EQ TYPE : 1\n"},
-        {chinese::near, "*{ EQ TYPE : 2\n"},
-        {chinese::frequent, "*{ EQ TYPE : 3\n"},
-        {chinese::rare, "*{ EQ TYPE : 4\n"},
-        {{"", "FAR"}, ""},
-        {{" \xD4\xB6", "\xD4\xB6 "}, ""},           // a blank beside the word
-        {{"\xB6\xE0", "\xB6\xE0\xD3\xF6\xD3"}, ""}, // half a word, and more than one
-        {chinese::first_group, ""},
-    };
-    for (const auto& [text, want] : types) {
-        for (const char* const bytes : {text.gbk, text.utf8}) {
+    for (const word_row& row : word_rows) {
+        for (const char* const bytes : {row.text.gbk, row.text.utf8}) {
             SeismicParam parameters;
             parameters.eq_type = bytes;
-            EXPECT_EQ(between(parameters, chinese::eq_type, chinese::post_method), want) << bytes;
-        }
-    }
-}
-
-TEST(WriteSeismic, KnowsTheDesignGroupInBothEncodings)
-{
-    using chinese::encoded;
-    const std::vector<std::pair<encoded, std::string>> groups = {
-        {chinese::first_group, "*{ EQ GROUP : 1\n"},
-        {chinese::second_group, "*{ EQ GROUP : 2\n"},
-        {chinese::third_group, "*{ EQ GROUP : 3\n"},
-        {{"", "1"}, ""},
-        {chinese::far, ""},
-    };
-    for (const auto& [text, want] : groups) {
-        for (const char* const bytes : {text.gbk, text.utf8}) {
-            SeismicParam parameters;
             parameters.eq_group = bytes;
-            EXPECT_EQ(between(parameters, chinese::eq_group, chinese::special_accelerate), want) << bytes;
+            EXPECT_EQ(between(parameters, chinese::eq_type, chinese::post_method), row.type) << bytes;
+            EXPECT_EQ(between(parameters, chinese::eq_group, chinese::special_accelerate), row.group) << bytes;
         }
     }
 }
@@ -200,7 +189,7 @@ TEST(WriteSeismic, WritesNumbersOfAnySize)
     EXPECT_EQ(between(large, chinese::proportion_factor, chinese::loadno_factor), "*{ PROPORTION FACTOR : 1e+300\n");
 }
 
-TEST(WriteSeismic, NumbersItsCaseBehindTheWindCases)
+TEST(WriteSeismic, NumbersItsCaseAfterTheWindCases)
 {
     struct row {
         int highest;
