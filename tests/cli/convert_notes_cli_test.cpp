@@ -119,27 +119,19 @@ const expected_note tower_notes[] = {
      "    LOAD 6 WL AUTO WIND LOAD"},
 };
 
-TEST(ConvertNotes, AllThatHappensToTheTower)
+TEST(ConvertNotes, AllThatHappensToTheTowerEachWhereItSays)
 {
     const tool_run tool;
-    const std::vector<printed_note> notes = notes_in(convert(tool, tower_deck()).err);
+    const tool_result result = convert(tool, tower_deck());
+    const std::vector<std::string> lines = lines_of(result.out);
+    const std::vector<printed_note> notes = notes_in(result.err);
     ASSERT_EQ(notes.size(), std::size(tower_notes));
     for (std::size_t i = 0; i < notes.size(); ++i) {
         EXPECT_EQ(notes[i].code, tower_notes[i].code);
         EXPECT_EQ(notes[i].text, tower_notes[i].text);
         EXPECT_EQ(notes[i].example, tower_notes[i].example) << notes[i].code;
-    }
-}
-
-TEST(ConvertNotes, ExamplesStandWhereTheNotesSay)
-{
-    const tool_run tool;
-    const tool_result result = convert(tool, tower_deck());
-    const std::vector<std::string> lines = lines_of(result.out);
-    for (const printed_note& note : notes_in(result.err)) {
-        ASSERT_GE(note.line, 1U) << note.code;
-        ASSERT_LE(note.line, lines.size()) << note.code;
-        EXPECT_EQ(note.example, "    " + lines[note.line - 1]) << note.code;
+        ASSERT_LE(notes[i].line, lines.size()) << notes[i].code;
+        EXPECT_EQ(notes[i].example, "    " + lines.at(notes[i].line - 1)) << notes[i].code;
     }
 }
 
@@ -149,135 +141,110 @@ std::string frame(const char* joints, const char* members, const std::string& mo
            more + "FINISH\n";
 }
 
-struct numbers_case {
+std::string in_units(const char* unit, const std::string& more)
+{
+    return unit + std::string("\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\n") + more + "FINISH\n";
+}
+
+const std::string two_loads = "LOAD 1 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 CON GY -7 1\n1 UNI GX 2\n";
+const char* const loads_text =
+    "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is written as GZ)";
+const std::string spring = "SUPPORTS\n1 FIXED BUT MZ\n2 FIXED BUT KFY 100\n";
+const char* const feet_text = "numbers in sections, supports and releases keep the units of the input, UNIT FEET KIP";
+const std::string rolled = "MEMBER PROPERTY\n1 TABLE ST H400\nCONSTANTS\n";
+
+struct note_case {
     const char* why;
     std::string deck;
-    const char* text;
+    const char* code;
+    const char* text; ///< empty: there is no such note
     const char* example;
 };
 
-const numbers_case numbers_cases[] = {
+const note_case note_cases[] = {
     {"joints 10 20 30, nothing that lists them", frame("10 0 0 0; 20 0 3 0; 30 4 3 0", "1 10 20; 2 20 30", {}),
-     "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0; 3 4 3 0;"},
+     "numbers", "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0; 3 4 3 0;"},
     {"joint 3 stands before joint 2: the example is the first list that misleads",
-     frame("1 0 0 0; 3 0 3 0; 2 4 3 0", "1 1 3; 2 3 2", "SUPPORTS\n1 FIXED\n2 PINNED\n"),
+     frame("1 0 0 0; 3 0 3 0; 2 4 3 0", "1 1 3; 2 3 2", "SUPPORTS\n1 FIXED\n2 PINNED\n"), "numbers",
      "joints have new numbers (joint 3 is 2); supports still name the old ones", "    2 PINNED"},
     {"a number that nothing had and something has now", frame("10 0 0 0; 20 0 3 0", "1 10 20", "SUPPORTS\n2 FIXED\n"),
-     "joints have new numbers (joint 10 is 1); supports still name the old ones", "    2 FIXED"},
+     "numbers", "joints have new numbers (joint 10 is 1); supports still name the old ones", "    2 FIXED"},
     {"a number that nothing had and nothing has", frame("10 0 0 0; 20 0 3 0", "1 10 20", "SUPPORTS\n3 FIXED\n"),
-     "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0;"},
+     "numbers", "joints have new numbers (joint 10 is 1)", "    1 0 0 0; 2 0 3 0;"},
     {"members: releases and groups, supports are right as they are",
      frame("1 0 0 0; 2 0 3 0; 3 4 3 0", "7 1 2; 8 2 3",
            "START GROUP DEFINITION\nJOINT\n_TOP 2 3\nMEMBER\n_BEAM 8\nEND GROUP DEFINITION\n"
            "SUPPORTS\n1 FIXED\nMEMBER RELEASE\n8 START MY MZ\n"),
-     "members have new numbers (member 7 is 1); releases and groups still name the old ones", "    8 START MY MZ"},
+     "numbers", "members have new numbers (member 7 is 1); releases and groups still name the old ones",
+     "    8 START MY MZ"},
     {"elements: a group of elements",
      frame("1 0 0 0; 2 0 3 0; 3 4 3 0", "1 1 2",
            "ELEMENT INCIDENCES SHELL\n1 1 2 3\nSTART GROUP DEFINITION\nELEMENT\n_WALL 1\nEND GROUP DEFINITION\n"),
-     "elements have new numbers (element 1 is 2); groups still name the old ones", "    _WALL 1"},
-    {"all three", frame("2 0 0 0; 3 0 3 0; 4 4 3 0", "2 2 3; 3 3 4", "ELEMENT INCIDENCES SHELL\n9 2 3 4\n"),
+     "numbers", "elements have new numbers (element 1 is 2); groups still name the old ones", "    _WALL 1"},
+    {"all three", frame("2 0 0 0; 3 0 3 0; 4 4 3 0", "2 2 3; 3 3 4", "ELEMENT INCIDENCES SHELL\n9 2 3 4\n"), "numbers",
      "joints, members and elements have new numbers (joint 2 is 1, member 2 is 1 and element 9 is 3)",
      "    1 0 0 0; 2 0 3 0; 3 4 3 0;"},
-    {"nothing changes", frame("1 0 0 0; 2 0 3 0", "1 1 2", "SUPPORTS\n1 FIXED\n"), "", ""},
+    {"nothing changes", frame("1 0 0 0; 2 0 3 0", "1 1 2", "SUPPORTS\n1 FIXED\n"), "numbers", "", ""},
+
+    {"loads of every kind that is lost",
+     small_deck("LOAD 4 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 UNI GY -5\n"
+                "LOAD 5 LOADTYPE Live\nAREA LOAD\n1 ALOAD -0.5\n1 ALOAD -0.7\nFLOOR LOAD\nYRANGE 3 3 FLOAD -2\n"
+                "LOAD 6 LOADTYPE Live\nELEMENT LOAD\n1 PR GY -2\nPERFORM ANALYSIS\n"),
+     "loads-left-out",
+     "not written: 2 area loads, 1 other load, floor loads by range (1 line) and 1 title of load cases",
+     "    LOAD 5 LOADTYPE  TITLE LOAD CASE 5"},
+    {"cases without loads", small_deck("LOAD 1 LOADTYPE Dead TITLE DL\nLOAD 2\nPERFORM ANALYSIS\n"), "loads-left-out",
+     "not written: 1 title of load cases and 2 load cases without loads", "    LOAD 4 WL AUTO WIND LOAD"},
+    {"the first load in the order of the bytes", small_deck(two_loads + "PERFORM ANALYSIS\n"), "loads", loads_text,
+     "    1 CON GZ -7.000000 1000.000000"},
+    {"a line load down is the better example", small_deck(two_loads + "1 UNI GY -3\nPERFORM ANALYSIS\n"), "loads",
+     loads_text, "    1 UNI GZ -0.003000"},
+
+    {"user tables that change family or lose their unit",
+     small_deck("START USER TABLE\n"
+                "TABLE 1\nUNIT METER KN\nWIDE FLANGE\nH300\n0.3 0.15 0.0065 0.009\n"
+                "TABLE 2\nUNIT FEET KIP\nPIPE\nP1\n0.5 0.4\n"
+                "TABLE 12\nUNIT METER KN\nPIPE\nP2\n0.5 0.4\nEND\n"),
+     "user-tables",
+     "user tables cannot be read: rows are sorted, lines of numbers stand among their names; TABLE 2 is CHANNEL and "
+     "was "
+     "PIPE; TABLE 2 has lost its UNIT FEET KIP",
+     "    0.3 0.15 0.0065 0.009"},
+    {"a material that the written library lacks", small_deck(rolled + "MATERIAL C30 ALL\n"), "materials",
+     "not in the material library that is written: C30", "    MATERIAL C30 ALL"},
+    {"no material", small_deck(), "materials", "not in the material library that is written: (no name)",
+     "    MATERIAL  ALL"},
+    {"known", small_deck(rolled + "MATERIAL STEEL ALL\n"), "materials", "", ""},
+    {"known", small_deck(rolled + "MATERIAL C1 ALL\n"), "materials", "", ""},
+    {"known", small_deck(rolled + "MATERIAL CONCRETE ALL\n"), "materials", "", ""},
+    {"known", small_deck(rolled + "MATERIAL STAINLESSSTEEL ALL\n"), "materials", "", ""},
+    {"known", small_deck(rolled + "MATERIAL ALUMINUM ALL\n"), "materials", "", ""},
+
+    {"a spring", in_units("UNIT FEET KIP", spring), "kept-units", feet_text, "    2 FIXED BUT KFY 100"},
+    {"of metres and kN it is what the file says", in_units("UNIT METER KN", spring), "kept-units", "", ""},
+    {"of metres alone it is not", in_units("UNIT METER KIP", spring), "kept-units",
+     "numbers in sections, supports and releases keep the units of the input, UNIT METER KIP",
+     "    2 FIXED BUT KFY 100"},
+    {"a release", in_units("UNIT FEET KIP", "MEMBER RELEASE\n1 START MZ 0.5\n"), "kept-units", feet_text,
+     "    1 START MZ 0.5"},
+    {"a gap between angles", in_units("UNIT FEET KIP", "MEMBER PROPERTY\n1 TABLE LD L303 SP 0.25\nCONSTANTS\n"),
+     "kept-units", feet_text, "    1 TABLE LD L303 SP 0.25"},
+    {"names with digits are no numbers",
+     in_units("UNIT FEET KIP", "MEMBER PROPERTY\n1 TABLE ST W14X22\nCONSTANTS\nSUPPORTS\n1 FIXED BUT MZ\n"),
+     "kept-units", "", ""},
+
+    {"texts of the file cannot drive the terminal", small_deck(rolled + "MATERIAL \x1B[31m ALL\n"), "materials",
+     "not in the material library that is written: \\x1B[31m", "    MATERIAL \\x1B[31m ALL"},
 };
 
-TEST(ConvertNotes, NewNumbers)
+TEST(ConvertNotes, EachWhereItApplies)
 {
     const tool_run tool;
-    for (const numbers_case& each : numbers_cases) {
-        const printed_note note = note_of(tool, each.deck, "numbers");
+    for (const note_case& each : note_cases) {
+        const printed_note note = note_of(tool, each.deck, each.code);
         EXPECT_EQ(note.text, each.text) << each.why;
         EXPECT_EQ(note.example, each.example) << each.why;
     }
-}
-
-TEST(ConvertNotes, LoadsThatAreLeftOut)
-{
-    const tool_run tool;
-    const printed_note note = note_of(tool,
-                                      small_deck("LOAD 4 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 UNI GY -5\n"
-                                                 "LOAD 5 LOADTYPE Live\nAREA LOAD\n1 ALOAD -0.5\n1 ALOAD -0.7\n"
-                                                 "FLOOR LOAD\nYRANGE 3 3 FLOAD -2\n"
-                                                 "LOAD 6 LOADTYPE Live\nELEMENT LOAD\n1 PR GY -2\nPERFORM ANALYSIS\n"),
-                                      "loads-left-out");
-    EXPECT_EQ(note.text, "not written: 2 area loads, 1 other load, floor loads by range (1 line) and 1 title of load "
-                         "cases");
-    EXPECT_EQ(note.example, "    LOAD 5 LOADTYPE  TITLE LOAD CASE 5");
-}
-
-TEST(ConvertNotes, CasesWithoutLoads)
-{
-    const tool_run tool;
-    const printed_note note =
-        note_of(tool, small_deck("LOAD 1 LOADTYPE Dead TITLE DL\nLOAD 2\nPERFORM ANALYSIS\n"), "loads-left-out");
-    EXPECT_EQ(note.text, "not written: 1 title of load cases and 2 load cases without loads");
-    EXPECT_EQ(note.example, "    LOAD 4 WL AUTO WIND LOAD");
-}
-
-TEST(ConvertNotes, ALineLoadIsTheBestExample)
-{
-    const tool_run tool;
-    const std::string loads = "LOAD 1 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 CON GY -7 1\n1 UNI GX 2\n";
-    // Load texts in the order of their bytes: CON, UNI GY, UNI GZ.
-    EXPECT_EQ(note_of(tool, small_deck(loads + "PERFORM ANALYSIS\n"), "loads").example,
-              "    1 CON GZ -7.000000 1000.000000");
-    EXPECT_EQ(note_of(tool, small_deck(loads + "1 UNI GY -3\nPERFORM ANALYSIS\n"), "loads").example,
-              "    1 UNI GZ -0.003000");
-}
-
-TEST(ConvertNotes, UserTablesThatChangeFamilyOrLoseTheirUnit)
-{
-    const tool_run tool;
-    const std::string tables = "START USER TABLE\n"
-                               "TABLE 1\nUNIT METER KN\nWIDE FLANGE\nH300\n0.3 0.15 0.0065 0.009\n"
-                               "TABLE 2\nUNIT FEET KIP\nPIPE\nP1\n0.5 0.4\n"
-                               "TABLE 12\nUNIT METER KN\nPIPE\nP2\n0.5 0.4\n"
-                               "END\n";
-    EXPECT_EQ(note_of(tool, small_deck(tables), "user-tables").text,
-              "user tables cannot be read: rows are sorted, lines of numbers stand among their names; TABLE 2 is "
-              "CHANNEL and was PIPE; TABLE 2 has lost its UNIT FEET KIP");
-}
-
-TEST(ConvertNotes, MaterialsThatTheWrittenLibraryLacks)
-{
-    const tool_run tool;
-    const std::string property = "MEMBER PROPERTY\n1 TABLE ST H400\nCONSTANTS\n";
-    for (const char* known : {"STEEL", "C1", "CONCRETE", "STAINLESSSTEEL", "ALUMINUM"})
-        EXPECT_EQ(note_of(tool, small_deck(property + "MATERIAL " + known + " ALL\n"), "materials").text, "") << known;
-    const printed_note note = note_of(tool, small_deck(property + "MATERIAL C30 ALL\n"), "materials");
-    EXPECT_EQ(note.text, "not in the material library that is written: C30");
-    EXPECT_EQ(note.example, "    MATERIAL C30 ALL");
-    const printed_note nameless = note_of(tool, small_deck(), "materials");
-    EXPECT_EQ(nameless.text, "not in the material library that is written: (no name)");
-    EXPECT_EQ(nameless.example, "    MATERIAL  ALL");
-}
-
-TEST(ConvertNotes, NumbersInDescriptionsKeepTheUnitsOfTheInput)
-{
-    const tool_run tool;
-    const auto deck = [](const std::string& unit, const std::string& more) {
-        return unit + "\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\n" + more + "FINISH\n";
-    };
-    const std::string spring = "SUPPORTS\n1 FIXED BUT MZ\n2 FIXED BUT KFY 100\n";
-    const printed_note note = note_of(tool, deck("UNIT FEET KIP", spring), "kept-units");
-    EXPECT_EQ(note.text, "numbers in sections, supports and releases keep the units of the input, UNIT FEET KIP");
-    EXPECT_EQ(note.example, "    2 FIXED BUT KFY 100");
-    EXPECT_EQ(note_of(tool, deck("UNIT METER KN", spring), "kept-units").text, "") << "they are what the file says";
-    EXPECT_EQ(note_of(tool, deck("UNIT METER KIP", spring), "kept-units").example, "    2 FIXED BUT KFY 100");
-    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", "MEMBER RELEASE\n1 START MZ 0.5\n"), "kept-units").example,
-              "    1 START MZ 0.5");
-    const std::string gap = "MEMBER PROPERTY\n1 TABLE LD L303 SP 0.25\nCONSTANTS\n";
-    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", gap), "kept-units").example, "    1 TABLE LD L303 SP 0.25");
-    const std::string no_number = "MEMBER PROPERTY\n1 TABLE ST W14X22\nCONSTANTS\nSUPPORTS\n1 FIXED BUT MZ\n";
-    EXPECT_EQ(note_of(tool, deck("UNIT FEET KIP", no_number), "kept-units").text, "");
-}
-
-TEST(ConvertNotes, TextsOfTheFileCannotDriveTheTerminal)
-{
-    const tool_run tool;
-    const std::string deck = small_deck("MEMBER PROPERTY\n1 TABLE ST H400\nCONSTANTS\nMATERIAL \x1B[31m ALL\n");
-    EXPECT_FALSE(contains(convert(tool, deck).err, "\x1B"));
-    EXPECT_EQ(note_of(tool, deck, "materials").example, "    MATERIAL \\x1B[31m ALL");
 }
 
 TEST(ConvertNotes, TheDocumentationShowsThemAsTheyAre)
