@@ -24,11 +24,9 @@ SdReader read(const std::string& text)
     return model;
 }
 
-SdReader written_and_read(SdReader model)
+SdReader written_and_read(const SdReader& model)
 {
-    const std::string text = normalised_text(model);
-    EXPECT_EQ(model.WriteDataToText(), text);
-    return read(text);
+    return read(normalised_text(model));
 }
 
 /// The braces of the file as a host declares them for writing.
@@ -70,6 +68,9 @@ TEST(ReadWriteRead, RandomDecksComeBackAsPredicted)
         const SdReader model = seed % 3 == 0 ? with_kinds(deck.model) : deck.model;
         const std::string found = surprises(model);
         ASSERT_EQ(found, "") << "make_random_deck(" << seed << ", " << members << "), read again and predicted";
+        if (seed % 10 == 0) {
+            ASSERT_EQ(SdReader(model).WriteDataToText(), normalised_text(model)) << seed;
+        }
     }
 }
 
