@@ -1,12 +1,14 @@
 #!/usr/bin/env python3
-"""Whether the tree of sources is in order; from the project's root: rooms.py [--report], which never fails
+"""Whether the tree of sources is in order; from the project's root: rooms.py [RULE...]
 
-- A room (a folder of staad/, tools/staadkit/ or tools/ with all below it) includes only the rooms that its row in the table
-  of docs/architecture.md names.
-- Neither files nor rooms include each other in a loop.
-- The tool includes public headers of the library only: those that staad/CMakeLists.txt lists.
-- A header and the source of its name have 40 lines together, or a reason in short_files.txt.
-- There are at most 1.25 lines of test for a line of staad/ and tools/.
+The rules, of which those named are reported and do not make it fail:
+
+- arrows: a room (a folder of staad/, tools/staadkit/ or tools/ with all below it) includes only the rooms that its
+  row in the table of docs/architecture.md names.
+- loops: neither files nor rooms include each other in a loop.
+- public: the tool includes public headers of the library only: those that staad/CMakeLists.txt lists.
+- short: a header and the source of its name have 40 lines together, or a reason in short_files.txt.
+- ratio: there are at most 1.25 lines of test for a line of staad/ and tools/.
 """
 import collections
 import fnmatch
@@ -19,11 +21,11 @@ MOST_TEST_LINES = 1.25
 TOOL = 'tools/staadkit'
 SOURCES = ('.h', '.cpp')
 
-complaints = []
+complaints = []  # pairs of rule and message
 
 
-def complain(message):
-    complaints.append(message)
+def complain(rule, message):
+    complaints.append((rule, message))
 
 
 def files(*folders, suffixes=SOURCES):
@@ -42,7 +44,7 @@ def included_by(path):
         candidates = (name, beside.as_posix(), f'{TOOL}/{name}')
         found = next((each for each in candidates if pathlib.Path(each).is_file()), None)
         if found is None:
-            complain(f'{path}: no file {name}')
+            complain('arrows', f'{path}: no file {name}')
         else:
             yield found
 
@@ -69,13 +71,13 @@ def check_arrows(arrows):
     listed = listed_arrows()
     for (start, end), (path, included) in sorted(arrows.items()):
         if end not in listed.get(start, ()):
-            complain(f'{path} includes {included}: docs/architecture.md has no arrow from {start} to {end}')
+            complain('arrows', f'{path} includes {included}: docs/architecture.md has no arrow from {start} to {end}')
     for start, ends in listed.items():
         for end in sorted(ends):
             if (start, end) not in arrows:
-                complain(f'docs/architecture.md: no file of {start} includes one of {end}')
+                complain('arrows', f'docs/architecture.md: no file of {start} includes one of {end}')
     for room in sorted({room for arrow in arrows for room in arrow} - listed.keys()):
-        complain(f'docs/architecture.md: no row for {room}')
+        complain('arrows', f'docs/architecture.md: no row for {room}')
 
 
 def loop(graph):
@@ -102,7 +104,7 @@ def check_public_headers(graph):
     for path in files('tools'):
         for included in sorted(graph[path]):
             if included.startswith('staad/') and included not in public:
-                complain(f'{path} includes {included}, which is private')
+                complain('public', f'{path} includes {included}, which is private')
 
 
 def is_forwarder(path):
@@ -126,9 +128,10 @@ def check_short_files():
         patterns = {each for each in reasons for path in paths if fnmatch.fnmatch(path, each)}
         answered |= patterns
         if not patterns:
-            complain(f'{" and ".join(paths)}: {lines[stem]} lines, and no reason in tests/rooms/short_files.txt')
+            names = ' and '.join(paths)
+            complain('short', f'{names}: {lines[stem]} lines, and no reason in tests/rooms/short_files.txt')
     for pattern in sorted(reasons.keys() - answered):
-        complain(f'tests/rooms/short_files.txt: nothing that is short is called {pattern}')
+        complain('short', f'tests/rooms/short_files.txt: nothing that is short is called {pattern}')
 
 
 def check_ratio():
@@ -137,7 +140,7 @@ def check_ratio():
     code = count(files('staad', 'tools'))
     print(f'{tests} lines of test for {code} of code: {tests / code:.3f} a line')
     if tests > MOST_TEST_LINES * code:
-        complain(f'more than {MOST_TEST_LINES} lines of test for a line of staad/ and tools/')
+        complain('ratio', f'more than {MOST_TEST_LINES} lines of test for a line of staad/ and tools/')
 
 
 def main():
@@ -154,13 +157,13 @@ def main():
                   if start.startswith('tools/') == end.startswith('tools/')})
     for what, each in (('files', graph), ('rooms', rooms)):
         if found := loop(each):
-            complain(f'a loop of {what}: ' + ' > '.join(found))
+            complain('loops', f'a loop of {what}: ' + ' > '.join(found))
     check_public_headers(graph)
     check_short_files()
     check_ratio()
-    for each in complaints:
-        print(each)
-    return 1 if complaints and '--report' not in sys.argv else 0
+    for rule, message in complaints:
+        print(f'{rule}: {message}')
+    return 1 if {rule for rule, _ in complaints} - set(sys.argv[1:]) else 0
 
 
 if __name__ == '__main__':
