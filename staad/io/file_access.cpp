@@ -1,5 +1,7 @@
 #include "staad/io/file_access.h"
 
+#include "staad/io/native_path.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -100,19 +102,10 @@ file_bytes read_opened(const std::filesystem::path& path, const char* mode)
 
 } // namespace
 
-std::filesystem::path system_path(const char* name)
-{
-#ifdef _WIN32
-    return wide_path(name);
-#else
-    return name;
-#endif
-}
-
 file_bytes read_updatable_file(const char* path)
 {
-    if (path != nullptr && !is_pipe(system_path(path)))
-        return read_opened(system_path(path), "r+b");
+    if (path != nullptr && !is_pipe(native_path(path)))
+        return read_opened(native_path(path), "r+b");
     file_bytes nothing;
     nothing.outcome = path == nullptr ? file_bytes::state::missing : file_bytes::state::not_accessible;
     return nothing;
@@ -125,7 +118,7 @@ file_bytes read_file(const std::filesystem::path& path)
 
 bool can_read(const char* path)
 {
-    return path != nullptr && can_read(system_path(path));
+    return path != nullptr && can_read(native_path(path));
 }
 
 bool can_read(const std::filesystem::path& path)
@@ -140,7 +133,7 @@ bool can_read(const std::filesystem::path& path)
 
 bool can_be_opened(const char* path)
 {
-    return path != nullptr && can_be_opened(system_path(path));
+    return path != nullptr && can_be_opened(native_path(path));
 }
 
 bool can_be_opened(const std::filesystem::path& path)
@@ -154,7 +147,7 @@ output_file::output_file(const char* path)
     if (path == nullptr)
         error_ = std::make_error_code(std::errc::invalid_argument);
     else
-        open(system_path(path));
+        open(native_path(path));
 }
 
 output_file::output_file(const std::filesystem::path& path)

@@ -20,9 +20,6 @@ struct file_bytes {
     std::size_t size = 0;
 };
 
-/// The path that a narrow name is: the system's own bytes, on Windows text in the ANSI code page.
-std::filesystem::path system_path(const char* name);
-
 /// Reads the whole of `path`, opened for reading and writing although nothing is written: a file that
 /// is missing or write-protected is refused. A null path is missing.
 file_bytes read_updatable_file(const char* path);
