@@ -3,7 +3,7 @@
 
 #include "staad/forces/force_line.h"
 #include "staad/forces/force_sections.h"
-#include "staad/io/file_access.h"
+#include "staad/io/open_file.h"
 #include "staad/model/positions.h"
 #include "staad/model/sd_reader.h"
 #include "staad/report/finding_sink.h"
@@ -255,7 +255,7 @@ public:
     /// Empties the forces. False, and everything stays, if the model has no members.
     bool start();
     import_outcome read(std::string_view listing);
-    import_outcome read(const file_bytes& file);
+    import_outcome read(const FileBytes& file, bool for_update);
 
 private:
     void read_section(const force_section& section);
@@ -278,12 +278,15 @@ bool force_import::start()
     return true;
 }
 
-import_outcome force_import::read(const file_bytes& file)
+import_outcome force_import::read(const FileBytes& file, bool for_update)
 {
-    if (file.outcome == file_bytes::state::read)
-        return read({file.bytes.get(), file.size});
-    report_file_trouble({.is_missing = file.outcome == file_bytes::state::missing,
-                         .is_refused = file.outcome == file_bytes::state::not_accessible},
+    using enum FileBytes::Outcome;
+    if (file.outcome == FileBytes::Outcome::read)
+        return read(file.text());
+    report_file_trouble({.is_missing = file.outcome == missing,
+                         .is_folder = file.outcome == directory,
+                         .is_refused = file.outcome == refused,
+                         .for_update = for_update},
                         findings_);
     return import_outcome::no_file;
 }
@@ -349,13 +352,13 @@ import_outcome import_forces(SdReader& model, std::string_view listing, finding_
 import_outcome import_updatable_file(SdReader& model, const char* path, finding_sink& findings)
 {
     force_import import(model, findings);
-    return import.start() ? import.read(read_updatable_file(path)) : import_outcome::no_members;
+    return import.start() ? import.read(read_updatable_file(path), true) : import_outcome::no_members;
 }
 
 import_outcome import_file(SdReader& model, const std::filesystem::path& path, finding_sink& findings)
 {
     force_import import(model, findings);
-    return import.start() ? import.read(read_file(path)) : import_outcome::no_members;
+    return import.start() ? import.read(read_file(path), false) : import_outcome::no_members;
 }
 
 } // namespace detail

@@ -1,6 +1,6 @@
 /// The comparison with an earlier project file that asks the user first.
 #include "staad/host/platform_services.h"
-#include "staad/io/file_access.h"
+#include "staad/io/open_file.h"
 #include "staad/model/sd_reader.h"
 
 namespace STAAD {

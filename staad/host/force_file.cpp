@@ -2,8 +2,8 @@
 #include "staad/host/force_file.h"
 
 #include "staad/host/platform_services.h"
-#include "staad/io/file_access.h"
 #include "staad/io/native_path.h"
+#include "staad/io/open_file.h"
 #include "staad/report/read_report.h"
 #include "staad/storeys/layered_project.h"
 
@@ -44,7 +44,7 @@ std::filesystem::path force_file_of(const std::filesystem::path& path)
 {
     std::filesystem::path beside = without_extension(path.native());
     beside += ".txt";
-    return detail::can_be_opened(beside) ? beside : native_path(ask_for_force_file().c_str());
+    return detail::can_be_opened(beside) ? beside : native_path(ask_for_force_file());
 }
 
 const char* as_argument(const std::string& path)

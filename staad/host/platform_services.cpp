@@ -5,7 +5,7 @@
 #ifdef _WIN32
 #    include "staad/host/windows_services.h"
 #else
-#    include "staad/io/file_access.h"
+#    include "staad/io/open_file.h"
 #endif
 
 namespace STAAD {

@@ -2,7 +2,7 @@
 
 #ifdef _WIN32
 
-#    include "staad/io/file_access.h"
+#    include "staad/io/open_file.h"
 #    include "staad/io/windows_path.h"
 
 #    include <windows.h>

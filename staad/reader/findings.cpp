@@ -178,10 +178,13 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
     }
 }
 
-void tell_file_trouble(file_bytes::state outcome, reading& context)
+void tell_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context)
 {
-    using state = file_bytes::state;
-    report_file_trouble({.is_missing = outcome == state::missing, .is_refused = outcome == state::not_accessible},
+    using enum FileBytes::Outcome;
+    report_file_trouble({.is_missing = outcome == missing,
+                         .is_folder = outcome == directory,
+                         .is_refused = outcome == refused,
+                         .for_update = for_update},
                         context.findings);
 }
 

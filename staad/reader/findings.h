@@ -2,7 +2,7 @@
 #ifndef STAAD_READER_FINDINGS_H
 #define STAAD_READER_FINDINGS_H
 
-#include "staad/io/file_access.h"
+#include "staad/io/read_file.h"
 #include "staad/reader/reading.h"
 #include "staad/text/id_list.h"
 #include "staad/text/lines.h"
@@ -40,8 +40,8 @@ void report_block_open(const line_list& lines, std::size_t begin, std::string_vi
 /// empty if one was.
 void tell_near_keywords(const line_list& lines, std::string_view missing, reading& context);
 
-/// A file that gives no text: why.
-void tell_file_trouble(file_bytes::state outcome, reading& context);
+/// Why a file gives no text; `for_update` says that it had to be opened for writing, too.
+void tell_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context);
 
 /// One finding per word of a UNIT line that the tables do not know; one if it is short of words.
 void tell_unit_words(std::string_view unit_line, line_place place, reading& context);

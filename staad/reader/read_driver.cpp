@@ -1,6 +1,6 @@
 // The order in which the blocks of a text are read.
 
-#include "staad/io/file_access.h"
+#include "staad/io/open_file.h"
 #include "staad/model/sd_reader.h"
 #include "staad/reader/blocks/blocks.h"
 #include "staad/reader/findings.h"
@@ -81,11 +81,11 @@ bool no_model(FindingCode code, std::string_view missing, std::string why, const
 }
 
 /// The lines of a file; none, and a finding that says why, of one that could not be read.
-line_list lines_of(detail::file_bytes file, std::string_view skip_prefix, reading& run)
+line_list lines_of(FileBytes file, bool for_update, std::string_view skip_prefix, reading& run)
 {
-    if (file.outcome == detail::file_bytes::state::read)
+    if (file.outcome == FileBytes::Outcome::read)
         return {std::move(file.bytes), file.size, skip_prefix};
-    detail::tell_file_trouble(file.outcome, run);
+    detail::tell_file_trouble(file.outcome, for_update, run);
     return {};
 }
 
@@ -93,7 +93,7 @@ line_list lines_of(detail::file_bytes file, std::string_view skip_prefix, readin
 
 line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& run)
 {
-    return lines_of(detail::read_updatable_file(path), skip_prefix, run);
+    return lines_of(detail::read_updatable_file(path), true, skip_prefix, run);
 }
 
 void SdReader::unify_staadpro_unit()
@@ -117,7 +117,7 @@ public:
     static bool read_file(SdReader& model, const std::filesystem::path& path, reading context)
     {
         model.init();
-        return read_lines(model, lines_of(STAAD::detail::read_file(path), generated_comment, context), context);
+        return read_lines(model, lines_of(STAAD::read_file(path), false, generated_comment, context), context);
     }
     static bool read_text(SdReader& model, std::string_view text, reading context)
     {

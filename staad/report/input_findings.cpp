@@ -21,8 +21,11 @@ void report_file_trouble(file_trouble trouble, finding_sink& findings)
     };
     if (trouble.is_missing)
         fail(FindingCode::file_missing, "the file does not exist");
+    else if (trouble.is_folder)
+        fail(FindingCode::file_access, "it is a folder, not a file");
     else if (trouble.is_refused)
-        fail(FindingCode::file_access, "the file cannot be opened for reading and writing");
+        fail(FindingCode::file_access, trouble.for_update ? "the file cannot be opened for reading and writing"
+                                                          : "the file cannot be opened for reading");
     else
         fail(FindingCode::file_unreadable, "the file cannot be read to its end");
 }

@@ -11,7 +11,9 @@ namespace STAAD::detail {
 /// Why a file gives no text; neither: it cannot be read to its end.
 struct file_trouble {
     bool is_missing = false;
+    bool is_folder = false;
     bool is_refused = false;
+    bool for_update = false; ///< it had to be opened for writing, too
 };
 
 void report_file_trouble(file_trouble trouble, finding_sink& findings);

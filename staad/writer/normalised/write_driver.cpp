@@ -1,5 +1,5 @@
 /// What writing changes in a model, the order of the blocks, and the places that a written model goes to.
-#include "staad/io/file_access.h"
+#include "staad/io/output_file.h"
 #include "staad/text/text_output.h"
 #include "staad/writer/normalised/written_loads.h"
 #include "staad/writer/normalised/written_numbers.h"

@@ -1,7 +1,7 @@
 /// Files on Windows: narrow names in the ANSI code page, long names, line ends.
 #ifdef _WIN32
 
-#    include "staad/io/file_access.h"
+#    include "staad/io/open_file.h"
 #    include "staad/io/windows_path.h"
 #    include "staad/model/sd_reader.h"
 #    include "tests/support/temporary_file.h"
