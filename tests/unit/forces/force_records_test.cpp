@@ -4,138 +4,132 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 #include <vector>
 
 namespace STAAD {
 namespace {
 
-using listings::values_of;
-using listings::values_of_all;
+/// Load cases and the positions of their stations.
+using stations = std::map<int, std::vector<double>>;
 
-const ForcePoint a{1, 2, 3, 4, 5, 6, 7};
-const ForcePoint b{11, 12, 13, 14, 15, 16, 17};
-const ForcePoint c{21, 22, 23, 24, 25, 26, 27};
-
-BeamLoadCaseRecord record(int load_case, const std::vector<ForcePoint>& points,
-                          const std::vector<ForcePoint>& pkpm_points = {})
+BeamLoadCaseRecord record(int load_case, const std::vector<double>& positions)
 {
     BeamLoadCaseRecord made;
     made.load_case = load_case;
-    made.points = points;
-    made.pkpm_points = pkpm_points;
+    for (const double position : positions)
+        made.points.push_back({position, 1, 2, 3, 4, 5, 6});
     return made;
 }
 
-BeamForceAndMOM forces(int beam, const std::vector<BeamLoadCaseRecord>& records)
+BeamForceAndMOM forces(int beam, const stations& cases)
 {
     BeamForceAndMOM made;
     made.beam = beam;
-    for (const BeamLoadCaseRecord& one : records)
-        made.records[one.load_case] = one;
+    for (const auto& [load_case, positions] : cases)
+        made.records[load_case] = record(load_case, positions);
     return made;
 }
 
-void expect_points(const BeamForceAndMOM& of, int load_case, const std::vector<ForcePoint>& want)
+stations stations_of(const BeamForceAndMOM& member)
 {
-    ASSERT_EQ(of.records.count(load_case), 1U) << load_case;
-    EXPECT_EQ(of.records.at(load_case).load_case, load_case);
-    EXPECT_EQ(values_of_all(of.records.at(load_case).points), values_of_all(want)) << load_case;
+    stations found;
+    for (const auto& [load_case, kept] : member.records) {
+        EXPECT_EQ(kept.load_case, load_case);
+        for (const ForcePoint& point : kept.points) {
+            EXPECT_EQ(listings::values_of(point), (listings::values{point.position, 1, 2, 3, 4, 5, 6}));
+            found[load_case].push_back(point.position);
+        }
+        found[load_case];
+    }
+    return found;
 }
 
-TEST(AddLoadCaseRecord, StoresANewOneWhole)
+TEST(AddLoadCaseRecord, StoresANewOneAndAppendsToOneThatIsThere)
 {
+    struct add_case {
+        const char* why;
+        stations before;
+        BeamLoadCaseRecord added;
+        stations want;
+    };
+    const add_case cases[] = {
+        {"a new one, in the order given", {}, record(5, {2, 1}), {{5, {2, 1}}}},
+        {"one that is there: appended", {{5, {1}}, {6, {3}}}, record(5, {3, 2, 1}), {{5, {1, 3, 2, 1}}, {6, {3}}}},
+        {"an empty one is stored", {}, record(0, {}), {{0, {}}}},
+        {"and appended to", {{0, {}}}, record(0, {1}), {{0, {1}}}},
+        {"nothing appended to one", {{0, {1}}}, record(0, {}), {{0, {1}}}},
+    };
+    for (const add_case& c : cases) {
+        BeamForceAndMOM member = forces(1, c.before);
+        member.add_loadCase_record(c.added);
+        EXPECT_EQ(stations_of(member), c.want) << c.why;
+    }
+}
+
+TEST(AddLoadCaseRecord, TakesResampledStationsOfANewOneAlone)
+{
+    BeamLoadCaseRecord resampled = record(5, {1});
+    resampled.pkpm_points = {{7, 1, 2, 3, 4, 5, 6}};
     BeamForceAndMOM member;
-    member.add_loadCase_record(record(5, {b, a}, {c}));
-    ASSERT_EQ(member.records.size(), 1U);
-    expect_points(member, 5, {b, a});
-    EXPECT_EQ(values_of_all(member.records.at(5).pkpm_points), values_of_all({c}));
-}
-
-TEST(AddLoadCaseRecord, AppendsThePointsOfOneThatIsThere)
-{
-    BeamForceAndMOM member = forces(1, {record(5, {a}, {a}), record(6, {c})});
-    member.add_loadCase_record(record(5, {c, b, a}, {b}));
-    ASSERT_EQ(member.records.size(), 2U);
-    expect_points(member, 5, {a, c, b, a});
-    EXPECT_EQ(values_of_all(member.records.at(5).pkpm_points), values_of_all({a})) << "what was resampled stays";
-    expect_points(member, 6, {c});
-}
-
-TEST(AddLoadCaseRecord, TakesEmptyOnes)
-{
-    BeamForceAndMOM member;
-    member.add_loadCase_record(record(0, {}));
-    expect_points(member, 0, {});
-    member.add_loadCase_record(record(0, {a}));
-    expect_points(member, 0, {a});
-    member.add_loadCase_record(record(0, {}));
-    expect_points(member, 0, {a});
+    member.add_loadCase_record(resampled);
+    resampled.pkpm_points.front().position = 8;
+    member.add_loadCase_record(resampled);
+    ASSERT_EQ(member.records.at(5).pkpm_points.size(), 1U);
+    EXPECT_EQ(member.records.at(5).pkpm_points.front().position, 7) << "what was resampled stays";
 }
 
 TEST(AddLoadCaseRecord, DoublesARecordOfItsOwn)
 {
-    BeamForceAndMOM member = forces(1, {record(5, {a, b, c})});
+    BeamForceAndMOM member = forces(1, {{5, {1, 2, 3}}});
     for (int times = 2; times <= 16; times *= 2) // while the list has room and while it has none
         member.add_loadCase_record(member.records.at(5));
-    ASSERT_EQ(member.records.at(5).points.size(), 48U);
-    for (std::size_t i = 0; i < 48; i += 3) {
-        EXPECT_EQ(values_of(member.records.at(5).points[i]), values_of(a)) << i;
-        EXPECT_EQ(values_of(member.records.at(5).points[i + 2]), values_of(c)) << i;
+    std::vector<double> want;
+    for (int i = 0; i < 16; ++i)
+        want.insert(want.end(), {1, 2, 3});
+    EXPECT_EQ(stations_of(member), (stations{{5, want}}));
+}
+
+TEST(MergeForces, AddsTheRecordsOfTheSameMember)
+{
+    struct merge_case {
+        const char* why;
+        BeamForceAndMOM member;
+        BeamForceAndMOM other;
+        stations want;
+    };
+    const merge_case cases[] = {
+        {"new cases are added, old ones appended to",
+         forces(7, {{1, {1}}, {3, {2}}}),
+         forces(7, {{2, {3}}, {3, {1, 3}}, {-1, {2}}}),
+         {{-1, {2}}, {1, {1}}, {2, {3}}, {3, {2, 1, 3}}}},
+        {"nothing of another member", forces(7, {{1, {1}}}), forces(8, {{1, {2}}, {2, {3}}}), {{1, {1}}}},
+        {"members without numbers are the same", forces(0, {}), forces(0, {{1, {1}}}), {{1, {1}}}},
+        {"nothing to add", forces(0, {{1, {1}}}), forces(0, {}), {{1, {1}}}},
+    };
+    for (const merge_case& c : cases) {
+        BeamForceAndMOM member = c.member;
+        member.merge(c.other);
+        EXPECT_EQ(stations_of(member), c.want) << c.why;
+        EXPECT_EQ(member.beam, c.member.beam) << c.why;
     }
-}
-
-TEST(MergeForces, AddsNewCasesAndAppendsToOldOnes)
-{
-    BeamForceAndMOM member = forces(7, {record(1, {a}), record(3, {b})});
-    const BeamForceAndMOM other = forces(7, {record(2, {c}), record(3, {a, c}), record(-1, {b})});
-    member.merge(other);
-    EXPECT_EQ(member.beam, 7);
-    ASSERT_EQ(member.records.size(), 4U);
-    expect_points(member, -1, {b});
-    expect_points(member, 1, {a});
-    expect_points(member, 2, {c});
-    expect_points(member, 3, {b, a, c});
-    EXPECT_EQ(other.records.size(), 3U) << "the other one stays";
-    expect_points(other, 3, {a, c});
-}
-
-TEST(MergeForces, TakesNothingOfAnotherMember)
-{
-    BeamForceAndMOM member = forces(7, {record(1, {a})});
-    member.merge(forces(8, {record(1, {b}), record(2, {c})}));
-    ASSERT_EQ(member.records.size(), 1U);
-    expect_points(member, 1, {a});
-    EXPECT_EQ(member.beam, 7);
-}
-
-TEST(MergeForces, OfMembersWithoutNumbersIsTheSame)
-{
-    BeamForceAndMOM member;
-    member.merge(forces(0, {record(1, {a})}));
-    expect_points(member, 1, {a});
-    member.merge(BeamForceAndMOM());
-    expect_points(member, 1, {a});
 }
 
 TEST(MergeForces, WithItselfDoublesEveryRecord)
 {
-    BeamForceAndMOM member = forces(7, {record(1, {a, b}), record(2, {}), record(3, {c})});
+    BeamForceAndMOM member = forces(7, {{1, {1, 2}}, {2, {}}, {3, {3}}});
     member.merge(member);
-    ASSERT_EQ(member.records.size(), 3U);
-    expect_points(member, 1, {a, b, a, b});
-    expect_points(member, 2, {});
-    expect_points(member, 3, {c, c});
+    EXPECT_EQ(stations_of(member), (stations{{1, {1, 2, 1, 2}}, {2, {}}, {3, {3, 3}}}));
 }
 
 TEST(MergeForces, GoesByTheNumberInTheRecord)
 {
     BeamForceAndMOM other;
-    other.records[9] = record(4, {a}); // a host may store a record anywhere
+    other.records[9] = record(4, {1}); // a host may store a record anywhere
     BeamForceAndMOM member;
     member.merge(other);
-    ASSERT_EQ(member.records.size(), 1U);
-    expect_points(member, 4, {a});
+    EXPECT_EQ(stations_of(member), (stations{{4, {1}}}));
 }
 
 } // namespace

@@ -132,21 +132,12 @@ TEST(LoadLists, AreEmptyWithoutAKnownKind)
 
 TEST(LoadLists, TakeNothingFromRecordsThatWereNotResampled)
 {
-    const auto types = cases({{1, "Dead"}, {2, "Live"}});
+    const auto types = cases({{1, "Dead"}, {2, "Live"}, {3, "Dead"}});
     EXPECT_TRUE(forces({record(1, 0), record(2, 0)}).get_pkpm_load_on_section(types).empty());
-    const auto list = forces({record(1, 0), record(2, 9)}).get_pkpm_load_on_section(types);
+    const auto list = forces({record(1, 9), record(2, 9), record(3, 0)}).get_pkpm_load_on_section(types);
     ASSERT_EQ(list.size(), 9U);
-    EXPECT_EQ(values_of(list[8].dead), zeros);
+    EXPECT_EQ(values_of(list[8].dead), zeros) << "case 3 counts, and has nothing";
     EXPECT_EQ(values_of(list[8].live), point(2, 8));
-}
-
-TEST(LoadLists, LoseACaseToALaterOneWithoutStations)
-{
-    const auto list = forces({record(1, 9), record(2, 9), record(3, 0)})
-                          .get_pkpm_load_on_section(cases({{1, "Dead"}, {2, "Live"}, {3, "Dead"}}));
-    ASSERT_EQ(list.size(), 9U);
-    EXPECT_EQ(values_of(list[0].dead), zeros) << "case 3 counts, and has nothing";
-    EXPECT_EQ(values_of(list[0].live), point(2, 0));
 }
 
 TEST(LoadLists, AreAsLongAsTheLongest)
@@ -160,22 +151,6 @@ TEST(LoadLists, AreAsLongAsTheLongest)
     EXPECT_EQ(values_of(list[0].seismic), point(3, 0));
     EXPECT_EQ(values_of(list[1].seismic), zeros);
     EXPECT_EQ(values_of(list[0].wind), zeros);
-}
-
-TEST(LoadLists, ComeFromTheListingAndTheModel)
-{
-    SdReader model;
-    ASSERT_TRUE(
-        model.ReadSDDataFromText("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 6 0 0\nMEMBER INCIDENCES\n101 1 2\n"
-                                 "LOAD 1 LOADTYPE Dead TITLE A\nMEMBER LOAD\n101 UNI GY -1\n"
-                                 "LOAD 2 LOADTYPE Live TITLE B\nMEMBER LOAD\n101 UNI GY -1\nFINISH\n"));
-    model.ReadForceMomentFromText(listings::section(
-        {"101 1:A 0 8 0 0 0 0 0", "8 16 0 0 0 0 0", "2:B 0 0 0 0 0 0 0", "8 0 -8 0 0 0 0", "3:C @0"}));
-    const auto list = model.beam_forces.at(1).get_pkpm_load_on_section(model.load_cases);
-    ASSERT_EQ(list.size(), 9U);
-    EXPECT_EQ(values_of(list[3].dead), (values{3, 11, 0, 0, 0, 0, 0}));
-    EXPECT_EQ(values_of(list[3].live), (values{3, 0, -3, 0, 0, 0, 0}));
-    EXPECT_EQ(values_of(list[3].wind), zeros);
 }
 
 } // namespace

