@@ -1,13 +1,17 @@
 // A host that knows nothing but the installed headers and library. It reaches for every public part
-// once: reading, queries, user tables, loads, words, findings and the error that crosses the border
-// between library and host.
+// once: reading, queries, user tables, loads, words, findings, files, the version and the error that crosses
+// the border between library and host.
 
+#include "staad/io/read_file.h"
 #include "staad/model/sd_reader.h"
 #include "staad/report/read_limit.h"
 #include "staad/report/read_report.h"
 #include "staad/text/split_string.h"
+#include "staad/version.h"
 
+#include <filesystem>
 #include <iostream>
+#include <string>
 
 namespace {
 
@@ -80,6 +84,17 @@ void print_limit()
     }
 }
 
+void print_files(STAAD::SdReader& model)
+{
+    const std::filesystem::path missing = "no such file.std";
+    std::cout << (STAAD::read_file(missing).outcome == STAAD::FileBytes::Outcome::missing ? "missing" : "there")
+              << (model.ReadSDDataFromStdFile(missing) ? ", read\n" : ", not read\n");
+    std::cout << (std::string(STAAD::version()) == STAADKIT_VERSION ? "headers and library agree\n"
+                                                                    : "versions differ\n");
+    model.Reset();
+    std::cout << (model.ReadForceMomentFromTxtFile(missing) ? "forces\n" : "no forces\n");
+}
+
 } // namespace
 
 int main()
@@ -102,4 +117,5 @@ int main()
             std::cout << "line " << finding.first_line << ": " << finding.code << '\n';
     }
     print_limit();
+    print_files(model);
 }

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 
@@ -25,16 +26,6 @@ const std::string listing = listings::section(
     {"101 1:DEAD @0", "@3000", "2:LIVE @0", "@1500", "@3000", "104 1:DEAD @0", "103 1:DEAD @0", "@6000", "2:LIVE @0"});
 /// A single case of member 102.
 const std::string other_listing = listings::section({"102 7:WIND @0", "@3000", "8:NEVER @0"});
-
-StaadProProject_layered built(const project_folder& folder, int with_forces)
-{
-    StaadProProject_layered project;
-    EXPECT_TRUE(project.BuidFromFile(folder.model(), with_forces));
-    EXPECT_EQ(layered::storeys(project), "0+3000: 101 102 103") << "with or without forces";
-    return project;
-}
-
-// ---- the file beside the model -------------------------------------------------------------------------
 
 TEST(ForceFileBeside, HasTheNameOfTheModelLessFourCharacters)
 {
@@ -62,91 +53,56 @@ TEST(ForceFileBeside, HasTheNameOfTheModelLessFourCharacters)
         EXPECT_EQ(force_file_beside(one.model), one.listing) << one.model;
 }
 
-TEST(ProjectForces, AreReadFromTheFileBesideTheModel)
-{
-    for (const int with_forces : {1, 2, -1}) {
-        const project_folder folder(deck);
-        folder.write("deck.txt", listing);
-        folder.write("other.txt", other_listing);
-        scripted_services desktop;
-        desktop.chosen_file = folder.path("other.txt");
-        desktop.readable = false; // whether it can be read is seen by opening it
-        EXPECT_EQ(forces(built(folder, with_forces)), "101: 1 2; 103: 1") << with_forces;
-        EXPECT_TRUE(desktop.questions.empty());
-        EXPECT_TRUE(desktop.messages.empty());
-    }
-}
+enum what_is_beside { nothing, a_listing, an_empty_file, a_folder };
 
-TEST(ProjectForces, AreNotLookedForElsewhereIfTheFileBesideTheModelHasNone)
-{
-    const project_folder folder(deck);
-    folder.write("deck.txt", "");
-    folder.write("other.txt", other_listing);
-    scripted_services desktop;
-    desktop.chosen_file = folder.path("other.txt");
-    EXPECT_EQ(forces(built(folder, 1)), "");
-    EXPECT_TRUE(desktop.questions.empty());
-}
+struct lookup_case {
+    const char* why;
+    what_is_beside beside;
+    const char* chosen; ///< in the dialog; empty: cancelled
+    int with_forces;
+    const char* want;
+    std::size_t questions;
+};
 
-TEST(ProjectForces, AreNotLookedForIfNobodyWantsThem)
-{
-    const project_folder folder(deck);
-    folder.write("other.txt", other_listing);
-    scripted_services desktop;
-    desktop.chosen_file = folder.path("other.txt");
-    EXPECT_EQ(forces(built(folder, 0)), "") << "no file beside the model";
-    EXPECT_TRUE(desktop.questions.empty());
-    folder.write("deck.txt", listing);
-    EXPECT_EQ(forces(built(folder, 0)), "") << "a file beside the model";
-    EXPECT_TRUE(desktop.questions.empty());
-    EXPECT_TRUE(desktop.messages.empty());
-}
-
-// ---- the dialog ------------------------------------------------------------------------------------------
+const lookup_case lookup_cases[] = {
+    {"the file beside the model", a_listing, "other.txt", 1, "101: 1 2; 103: 1", 0},
+    {"for any number but 0", a_listing, "other.txt", -1, "101: 1 2; 103: 1", 0},
+    {"an empty file beside it: no other is looked for", an_empty_file, "other.txt", 1, "", 0},
+    {"without forces nothing is looked for", nothing, "other.txt", 0, "", 0},
+    {"nor read", a_listing, "other.txt", 0, "", 0},
+    {"none beside it: the one chosen", nothing, "other.txt", 1, "102: 7", 1},
+    {"a folder is no file", a_folder, "other.txt", 1, "102: 7", 1},
+    {"cancelled", nothing, "", 1, "", 1},
+    {"one chosen that is not there: the question is not repeated", nothing, "gone.txt", 1, "", 1},
+};
 
 /// Internal-force output files, then all files.
 const std::u16string filter = u"\u5185\u529B\u8F93\u51FA\u6587\u4EF6(*.txt)|*.txt|"
                               u"\u6240\u6709\u6587\u4EF6(*.*)|*.*||";
 
-TEST(ForceFileDialog, IsShownOnceAndItsFileIsRead)
+TEST(ProjectForces, AreReadFromTheFileBesideTheModelOrTheOneChosen)
 {
-    const project_folder folder(deck);
-    folder.write("other.txt", other_listing);
-    scripted_services desktop;
-    desktop.chosen_file = folder.path("other.txt");
-    EXPECT_EQ(forces(built(folder, 1)), "102: 7");
-    ASSERT_EQ(desktop.questions.size(), 1U);
-    EXPECT_TRUE(desktop.questions[0].filter == filter);
-    EXPECT_EQ(desktop.questions[0].flags, 0x1004U) << "the file must exist, no read-only box";
-    EXPECT_TRUE(desktop.messages.empty());
-}
-
-TEST(ForceFileDialog, IsShownIfTheNameBesideTheModelIsAFolder)
-{
-    const project_folder folder(deck);
-    ASSERT_TRUE(std::filesystem::create_directory(folder.path("deck.txt")));
-    scripted_services desktop;
-    EXPECT_EQ(forces(built(folder, 1)), "");
-    EXPECT_EQ(desktop.questions.size(), 1U);
-}
-
-TEST(ForceFileDialog, MayBeCancelled)
-{
-    const project_folder folder(deck);
-    scripted_services desktop;
-    EXPECT_EQ(forces(built(folder, 1)), "");
-    EXPECT_EQ(desktop.questions.size(), 1U);
-    EXPECT_TRUE(desktop.messages.empty()) << "no word about it";
-}
-
-TEST(ForceFileDialog, MayGiveAFileThatIsNotThere)
-{
-    const project_folder folder(deck);
-    scripted_services desktop;
-    desktop.chosen_file = folder.path("gone.txt");
-    EXPECT_EQ(forces(built(folder, 1)), "");
-    EXPECT_EQ(desktop.questions.size(), 1U) << "nobody asks again";
-    EXPECT_TRUE(desktop.messages.empty());
+    for (const lookup_case& c : lookup_cases) {
+        const project_folder folder(deck);
+        folder.write("other.txt", other_listing);
+        if (c.beside == a_folder)
+            std::filesystem::create_directory(folder.path("deck.txt"));
+        else if (c.beside != nothing)
+            folder.write("deck.txt", c.beside == a_listing ? listing : "");
+        scripted_services desktop;
+        desktop.readable = false; // whether it can be read is seen by opening it
+        desktop.chosen_file = *c.chosen == '\0' ? "" : folder.path(c.chosen);
+        StaadProProject_layered project;
+        EXPECT_TRUE(project.BuidFromFile(folder.model(), c.with_forces)) << c.why;
+        EXPECT_EQ(layered::storeys(project), "0+3000: 101 102 103") << c.why;
+        EXPECT_EQ(forces(project), c.want) << c.why;
+        ASSERT_EQ(desktop.questions.size(), c.questions) << c.why;
+        EXPECT_TRUE(desktop.messages.empty()) << c.why;
+        if (c.questions != 0) {
+            EXPECT_TRUE(desktop.questions[0].filter == filter);
+            EXPECT_EQ(desktop.questions[0].flags, 0x1004U) << "the file must exist, no read-only box";
+        }
+    }
 }
 
 TEST(ForceFileDialog, GivesAnyPathAsItIs)
