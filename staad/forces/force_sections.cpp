@@ -1,12 +1,27 @@
 #include "staad/forces/force_sections.h"
 
-#include "staad/forces/force_titles.h"
 #include "staad/text/words.h"
 
 #include <iterator>
 
 namespace STAAD::detail {
 namespace {
+
+/// One title in the encodings in which listings come.
+struct force_title {
+    std::string_view gbk;
+    std::string_view utf8;
+};
+
+/// In order of rank: the second counts only in listings without the first.
+constexpr force_title force_titles[] = {
+    // details of beam element internal forces
+    {"\xC1\xBA\xB5\xA5\xD4\xAA\xC4\xDA\xC1\xA6\xCF\xEA\xCF\xB8\xD0\xC5\xCF\xA2",
+     "\xE6\xA2\x81\xE5\x8D\x95\xE5\x85\x83\xE5\x86\x85\xE5\x8A\x9B\xE8\xAF\xA6\xE7\xBB\x86\xE4\xBF\xA1\xE6\x81\xAF"},
+    // details of beam internal forces
+    {"\xC1\xBA\xC4\xDA\xC1\xA6\xCF\xEA\xCF\xB8\xD0\xC5\xCF\xA2",
+     "\xE6\xA2\x81\xE5\x86\x85\xE5\x8A\x9B\xE8\xAF\xA6\xE7\xBB\x86\xE4\xBF\xA1\xE6\x81\xAF"},
+};
 
 /// Rank of the title that `line` is; the number of titles if it is none.
 std::size_t title_rank(std::string_view line) noexcept
