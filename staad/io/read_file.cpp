@@ -15,7 +15,7 @@ namespace STAAD {
 namespace {
 
 constexpr std::size_t first_guess = std::size_t{1} << 16U;
-constexpr std::size_t megabyte = std::size_t{1} << 20U;
+constexpr std::size_t progress_step = std::size_t{1} << 16U;
 
 /// Bytes from here to the end, 0 of what has no end to go to (a pipe, a
 /// device).
@@ -80,7 +80,7 @@ FileBytes read_stream(std::FILE *stream, const ReadProgress &progress) {
   // One more than there is, so that the end is met in one read. The file may
   // grow meanwhile.
   byte_buffer buffer(result, total == 0 ? first_guess : total + 1);
-  const std::size_t step = progress ? megabyte : static_cast<std::size_t>(-1);
+  const std::size_t step = progress ? progress_step : static_cast<std::size_t>(-1);
   errno = 0;
   while (buffer.read(stream, step)) {
     if (progress)

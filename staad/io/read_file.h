@@ -34,7 +34,7 @@ struct FileBytes {
   std::string_view text() const noexcept { return {bytes.get(), size}; }
 };
 
-/// Is called after every megabyte or so: bytes read, and how many there are in
+/// Is called after every 65,536 bytes: bytes read, and how many there are in
 /// all, 0 if that is not known.
 using ReadProgress = std::function<void(std::size_t done, std::size_t total)>;
 

@@ -20,7 +20,7 @@ void add_error(STAAD::ReadReport& report, FindingCode code, std::string text, st
 constexpr const char* binary = "binary, not text";
 
 /// Whether the text is a listing of forces: an engineer who gives the files in the wrong order is to be told so.
-bool is_listing(const std::string& text)
+bool is_listing(std::string_view text)
 {
     STAAD::SdReader model;
     model.beams.emplace_back();
@@ -29,7 +29,7 @@ bool is_listing(const std::string& text)
     return report.worst() != Finding::Error;
 }
 
-bool is_deck(const std::string& text)
+bool is_deck(std::string_view text)
 {
     return STAAD::SdReader().ReadSDDataFromText(text);
 }
@@ -41,11 +41,11 @@ bool read_model(const std::string& path, opened_model& opened)
         opened.report.findings = {*input.error};
         return false;
     }
-    if (opened.model.ReadSDDataFromText(input.bytes, opened.report))
+    if (opened.model.ReadSDDataFromText(input.text(), opened.report))
         return true;
-    if (is_binary(input.bytes))
+    if (is_binary(input.text()))
         opened.report.findings = {kind_error(path, FindingCode::not_a_deck, binary)};
-    else if (is_listing(input.bytes))
+    else if (is_listing(input.text()))
         opened.report.findings = {kind_error(path, FindingCode::not_a_deck, "a listing of forces")};
     return false;
 }
@@ -57,15 +57,15 @@ void read_forces(const std::string& path, STAAD::SdReader& model, STAAD::ReadRep
         report.findings = {*input.error};
         return;
     }
-    model.ReadForceMomentFromText(input.bytes, report);
+    model.ReadForceMomentFromText(input.text(), report);
     if (report.worst() != Finding::Error || model.beams.empty())
         return;
-    if (is_utf16(input.bytes))
+    if (is_utf16(input.text()))
         report.findings = {
             kind_error(path, FindingCode::not_a_listing, "UTF-16, which is not read: save it as plain text")};
-    else if (is_binary(input.bytes))
+    else if (is_binary(input.text()))
         report.findings = {kind_error(path, FindingCode::not_a_listing, binary)};
-    else if (is_deck(input.bytes))
+    else if (is_deck(input.text()))
         report.findings = {kind_error(path, FindingCode::not_a_listing, "a deck")};
 }
 

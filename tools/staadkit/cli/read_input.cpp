@@ -1,15 +1,10 @@
 #include "cli/read_input.h"
 
-#include "cli/native_path.h"
 #include "cli/progress_line.h"
+#include "staad/io/native_path.h"
 
-#include <cerrno>
 #include <cstddef>
-#include <cstdint>
 #include <cstdio>
-#include <memory>
-#include <string_view>
-#include <system_error>
 #include <utility>
 
 #ifdef _WIN32
@@ -22,22 +17,9 @@ namespace {
 
 using STAAD::FindingCode;
 
-struct close_file {
-    void operator()(std::FILE* file) const noexcept
-    {
-        static_cast<void>(std::fclose(file)); // nothing was written, so nothing can be lost
-    }
-};
-
 input_bytes failure(FindingCode code, std::string text)
 {
     return {{}, STAAD::make_finding(code, std::move(text))};
-}
-
-/// ": Permission denied"
-std::string reason(int error)
-{
-    return ": " + std::error_code(error, std::generic_category()).message();
 }
 
 /// A kind of file that is taken for a deck or a listing by mistake, known by its first bytes.
@@ -63,9 +45,9 @@ constexpr file_kind file_kinds[] = {
     {"Rar!", "a compressed file"},
 };
 
-std::string kind_of(const std::string& bytes)
+std::string kind_of(std::string_view bytes)
 {
-    if (bytes.find_first_not_of(" \t\r\n") == std::string::npos)
+    if (bytes.find_first_not_of(" \t\r\n") == std::string_view::npos)
         return "empty";
     for (const file_kind& kind : file_kinds) {
         if (bytes.starts_with(kind.first_bytes))
@@ -74,61 +56,49 @@ std::string kind_of(const std::string& bytes)
     return {};
 }
 
-/// `size` is that of the file; 0 if it has none, as a pipe.
-input_bytes read_stream(std::FILE* stream, const std::string& name, std::size_t size)
+STAAD::FileBytes read_bytes(const std::string& name)
 {
-    input_bytes input;
     progress_line shown(input_name(name));
-    if (!read_to_end(stream, input.bytes, [&shown, size](std::size_t done) { shown.update(done, size); }))
-        return failure(FindingCode::file_unreadable, "it cannot be read to its end" + reason(errno));
-    return input;
-}
-
-input_bytes read_standard_input()
-{
+    const auto progress = [&shown](std::size_t done, std::size_t total) { shown.update(done, total); };
+    if (name != "-")
+        return STAAD::read_file(STAAD::native_path(name), progress);
 #ifdef _WIN32
     _setmode(_fileno(stdin), _O_BINARY);
 #endif
-    return read_stream(stdin, "-", 0);
-}
-
-input_bytes read_file(const std::string& name)
-{
-    std::error_code no_size;
-    const std::uintmax_t size = std::filesystem::file_size(native_path(name), no_size);
-    errno = 0;
-    const std::unique_ptr<std::FILE, close_file> file(open_file(native_path(name), "rb"));
-    if (file)
-        return read_stream(file.get(), name, no_size ? 0 : static_cast<std::size_t>(size));
-    if (errno == ENOENT)
-        return failure(FindingCode::file_missing, "the file does not exist");
-    return failure(FindingCode::file_access, "the file cannot be opened" + reason(errno));
+    return STAAD::read_stream(stdin, progress);
 }
 
 } // namespace
 
 input_bytes read_input(const std::string& name, FindingCode wrong_kind)
 {
-    std::error_code no_file;
-    if (name != "-" && std::filesystem::is_directory(native_path(name), no_file))
-        return {{}, STAAD::make_finding(wrong_kind, "it is a folder, not a file")};
-    input_bytes input = name == "-" ? read_standard_input() : read_file(name);
-    if (input.error)
-        return input;
-    const std::string kind = kind_of(input.bytes);
+    STAAD::FileBytes file = read_bytes(name);
+    switch (file.outcome) {
+    case STAAD::FileBytes::Outcome::missing:
+        return failure(FindingCode::file_missing, "the file does not exist");
+    case STAAD::FileBytes::Outcome::directory:
+        return failure(wrong_kind, "it is a folder, not a file");
+    case STAAD::FileBytes::Outcome::refused:
+        return failure(FindingCode::file_access, "the file cannot be opened: " + file.error.message());
+    case STAAD::FileBytes::Outcome::unreadable:
+        return failure(FindingCode::file_unreadable, "it cannot be read to its end: " + file.error.message());
+    case STAAD::FileBytes::Outcome::read:
+        break;
+    }
+    const std::string kind = kind_of(file.text());
     if (!kind.empty())
         return {{}, kind_error(name, wrong_kind, kind)};
-    return input;
+    return {std::move(file), {}};
 }
 
-bool is_utf16(const std::string& bytes)
+bool is_utf16(std::string_view bytes)
 {
     return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF");
 }
 
-bool is_binary(const std::string& bytes)
+bool is_binary(std::string_view bytes)
 {
-    return !is_utf16(bytes) && bytes.find('\0') != std::string::npos;
+    return !is_utf16(bytes) && bytes.find('\0') != std::string_view::npos;
 }
 
 STAAD::Finding kind_error(const std::string& name, STAAD::FindingCode code, const std::string& kind)

@@ -2,17 +2,21 @@
 #ifndef TOOLS_STAADKIT_CLI_READ_INPUT_H
 #define TOOLS_STAADKIT_CLI_READ_INPUT_H
 
+#include "staad/io/read_file.h"
 #include "staad/report/finding_codes.h"
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tool {
 
 /// The bytes of an input, or the error that takes their place.
 struct input_bytes {
-    std::string bytes;
+    STAAD::FileBytes file;
     std::optional<STAAD::Finding> error;
+
+    std::string_view text() const noexcept { return file.text(); }
 };
 
 /// Reads the file at `name`, or standard input for "-", to its end. A folder, an empty file and one that is known by
@@ -21,10 +25,10 @@ struct input_bytes {
 input_bytes read_input(const std::string& name, STAAD::FindingCode wrong_kind);
 
 /// Whether the bytes begin with one of the marks of UTF-16.
-bool is_utf16(const std::string& bytes);
+bool is_utf16(std::string_view bytes);
 
 /// Whether bytes that gave neither model nor forces are no text: one of them is zero, and they are not UTF-16.
-bool is_binary(const std::string& bytes);
+bool is_binary(std::string_view bytes);
 
 /// "the file is a picture" as an error of the code; "standard input is a picture" for "-".
 STAAD::Finding kind_error(const std::string& name, STAAD::FindingCode code, const std::string& kind);

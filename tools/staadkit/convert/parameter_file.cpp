@@ -1,17 +1,16 @@
 #include "convert/parameter_file.h"
 
-#include "cli/native_path.h"
 #include "cli/suggest.h"
 #include "cli/text_encoding.h"
+#include "staad/io/native_path.h"
+#include "staad/io/read_file.h"
 #include "staad/model/fields.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <set>
 #include <string_view>
@@ -31,12 +30,12 @@ void add_error(STAAD::ReadReport& report, std::string code, std::string text, st
 
 bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& report)
 {
-    std::FILE* const file = open_file(native_path(path), "rb");
-    const bool was_read = file != nullptr && read_to_end(file, text);
-    if (!was_read)
-        add_error(report, "file-unreadable", std::strerror(errno));
-    if (file != nullptr)
-        static_cast<void>(std::fclose(file));
+    const STAAD::FileBytes file = STAAD::read_file(STAAD::native_path(path));
+    const bool was_read = file.outcome == STAAD::FileBytes::Outcome::read;
+    if (was_read)
+        text = file.text();
+    else
+        add_error(report, "file-unreadable", file.error.message());
     return was_read;
 }
 
