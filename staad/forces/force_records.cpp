@@ -61,13 +61,13 @@ ForcePoint moved_to(ForcePoint point, double station)
 /// The values at `station`: those of the nearest end where it lies outside of the points.
 ForcePoint point_at(const std::vector<ForcePoint>& points, double station)
 {
-    const auto behind = std::lower_bound(points.begin(), points.end(), station - same_station,
-                                         [](const ForcePoint& point, double limit) { return point.position < limit; });
-    if (behind == points.begin())
+    const auto after = std::lower_bound(points.begin(), points.end(), station - same_station,
+                                        [](const ForcePoint& point, double limit) { return point.position < limit; });
+    if (after == points.begin())
         return moved_to(points.front(), station);
-    if (behind == points.end())
+    if (after == points.end())
         return moved_to(points.back(), station);
-    return interpolated(*(behind - 1), *behind, station);
+    return interpolated(*(after - 1), *after, station);
 }
 
 } // namespace

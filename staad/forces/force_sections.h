@@ -10,10 +10,10 @@
 
 namespace STAAD::detail {
 
-/// A section's title line, and the walk that goes on behind it.
+/// A section's title line, and the walk that goes on after it.
 struct force_section {
     line_place title;
-    line_cursor behind;
+    line_cursor after;
 };
 
 /// The sections of a listing in file order: those under the title of element forces if it has one, else
@@ -23,7 +23,7 @@ std::vector<force_section> find_force_sections(std::string_view listing);
 /// Walks one section: heading, units, data.
 class section_lines {
 public:
-    explicit section_lines(const force_section& section) : cursor_(section.behind) { read_heading(); }
+    explicit section_lines(const force_section& section) : cursor_(section.after) { read_heading(); }
 
     /// False for a section that ends before its unit line.
     bool has_units() const noexcept { return state_ == state::data; }
@@ -32,7 +32,7 @@ public:
     /// Takes the next data line; false at the section's end.
     bool next(text_line& line) noexcept;
 
-    /// After the end: nothing stands behind the section, not even the empty line that closes one.
+    /// After the end: nothing follows the section, not even the empty line that closes one.
     bool ended_with_the_text() const noexcept { return at_end_of_text_; }
 
 private:

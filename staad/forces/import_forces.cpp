@@ -81,7 +81,7 @@ private:
         return false;
     }
 
-    /// `next` tells whether a load case or the member ends with this line; null at the section's end.
+    /// `next` shows whether a load case or the member ends with this line; null at the section's end.
     void read_line(const force_line& line, const force_line* next)
     {
         const force_line::kind what = line.what();

@@ -6,7 +6,7 @@
 #    include "staad/io/windows_path.h"
 
 #    include <windows.h>
-// behind it
+// after it
 #    include <commdlg.h>
 
 #    include <algorithm>

@@ -132,7 +132,7 @@ write_target find_target(const fs::path &path) {
   return target;
 }
 
-/// Why this process cannot write to what is there, as far as the system tells.
+/// Why this process cannot write to what is there, as far as the system says.
 std::error_code obstacle_at(const fs::path &file) {
 #ifdef _WIN32
   constexpr int for_writing = 2;

@@ -40,8 +40,8 @@ private:
     std::thread thread_;
 };
 
-/// Writes what stands in the field for the name of the file dialog that some program shows: it tells whether every key
-/// has arrived.
+/// Writes what stands in the field for the name of the file dialog that some program shows: whether every key has
+/// arrived.
 void read_file_dialog(result_file& result);
 
 } // namespace STAAD

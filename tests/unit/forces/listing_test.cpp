@@ -57,7 +57,7 @@ const listing_case title_cases[] = {
      section_of_case(1, second_gbk) + first_gbk + "\n", ""},
     {"neither title", "member forces\n\n 101 1:A 0 1 2 3 4 5 6\n", ""},
     {"a blank before the title makes another line of it", section_of_case(1, " " + first_gbk), ""},
-    {"a blank behind it, too", section_of_case(1, first_gbk + " "), ""},
+    {"a blank after it, too", section_of_case(1, first_gbk + " "), ""},
     {"and any other text", section_of_case(1, first_gbk + " (2)"), ""},
     {"a title that is only part of a line leaves the second title its place",
      section_of_case(1, first_gbk + ":") + section_of_case(2, second_gbk), "1: 2(0)"},
@@ -85,15 +85,15 @@ TEST(ForceListing, TakesBothLineEnds)
 {
     EXPECT_EQ(read_stations(with_cr(section_of_case(1, first_gbk))), "1: 1(0)");
     const std::string title_only = first_gbk + "\r\n" + section_of_case(1, "").substr(1);
-    EXPECT_EQ(read_stations(title_only), "1: 1(0)") << "CR LF behind the title alone";
+    EXPECT_EQ(read_stations(title_only), "1: 1(0)") << "CR LF after the title alone";
     EXPECT_EQ(read_stations(section_of_case(1, first_gbk + "\r\r")), "") << "one CR goes with the line end, no more";
 }
 
-/// A section of which everything behind the title is given; every line gets a line feed.
-std::string raw_section(const lines& behind_title)
+/// A section of which everything after the title is given; every line gets a line feed.
+std::string raw_section(const lines& after_title)
 {
     std::string text = first_gbk + "\n";
-    for (const std::string& line : behind_title)
+    for (const std::string& line : after_title)
         text += line + "\n";
     return text;
 }
@@ -104,7 +104,7 @@ const std::string station = " 5 1 2 3 4 5 6";
 const std::string next = " 2:B 0 1 2 3 4 5 6";
 
 const listing_case body_cases[] = {
-    {"the line behind the title may be empty", raw_section({"", " a", " b", units, begin, station, next}), "1: 1(0 5)"},
+    {"the line after the title may be empty", raw_section({"", " a", " b", units, begin, station, next}), "1: 1(0 5)"},
     {"or begin with a blank", raw_section({" a", " b", " c", units, begin, station, next}), "1: 1(0 5)"},
     {"or be a line of any other kind", raw_section({"---", " b", " c", units, begin, station, next}), "1: 1(0 5)"},
     {"heading lines of nothing but a blank belong to the section",
@@ -149,15 +149,15 @@ TEST(ForceListing, TwoTitlesInARowAreTwoSectionsALineApart)
 {
     // The unit line of the first is a heading line of the second; its first data line, which is too short
     // to count, is the unit line of the second.
-    const std::string behind = " (cm) (kN) (N-m)\n (m) (MN) (kN-m)\n" + begin + "\n 2 1 2 3 4 5 6\n" + next + "\n";
-    const SdReader model = listings::read(first_gbk + "\n" + first_gbk + "\n a\n b\n" + behind);
+    const std::string after = " (cm) (kN) (N-m)\n (m) (MN) (kN-m)\n" + begin + "\n 2 1 2 3 4 5 6\n" + next + "\n";
+    const SdReader model = listings::read(first_gbk + "\n" + first_gbk + "\n a\n b\n" + after);
     const std::vector<values> want = {
         {0, 1, 2, 3, 4, 5, 6}, {20, 1, 2, 3, 4, 5, 6}, {2000, 1000, 2000, 3000, 4000, 5000, 6000}};
     EXPECT_EQ(listings::points(model, 1, 1), want) << "in cm, then in m; the second 0 is a repeat of the first";
     EXPECT_EQ(model.unit_text, "UNIT m MN kN-m");
 
-    EXPECT_EQ(read_stations(first_gbk + "\n" + first_gbk + "\n---\n a\n" + behind), "1: 1(0 2000)")
-        << "a ruler behind the second title is no line of the first one's section";
+    EXPECT_EQ(read_stations(first_gbk + "\n" + first_gbk + "\n---\n a\n" + after), "1: 1(0 2000)")
+        << "a ruler after the second title is no line of the first one's section";
 }
 
 } // namespace

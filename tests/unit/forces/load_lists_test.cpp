@@ -17,7 +17,7 @@ using listings::values_of;
 
 const values zeros{};
 
-/// Load cases of the model: number and type as written behind LOADTYPE.
+/// Load cases of the model: number and type as written after LOADTYPE.
 std::map<int, LoadCase> cases(const std::vector<std::pair<int, const char*>>& types)
 {
     std::map<int, LoadCase> made;

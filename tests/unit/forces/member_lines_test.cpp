@@ -80,7 +80,7 @@ TEST(ForceLines, TakeTitlesOfAnyWords)
          {"101 1:SLAB CASE @0", "2:SLAB CASE @3", "@5", "3:LIVE @0"},
          "1: 1(0) 2(3 5)"},
         {"nor an E between two words", {"101 1:WIND E SIDE @0", "2:TYPE E @4", "@5", "3:C @0"}, "1: 1(0) 2(4 5)"},
-        {"nor one right behind the colon", {"101 1:E @0", "2:E @3", "@5", "3:C @0"}, "1: 1(0) 2(3 5)"},
+        {"nor one right after the colon", {"101 1:E @0", "2:E @3", "@5", "3:C @0"}, "1: 1(0) 2(3 5)"},
         {"a digit and E is an exponent wherever it stands: 3E and the position are one number",
          {"101 1:A @0", "2:CASE 3E @1", "9:Z 1 2 3 4 5 6 7", "3:C @0"},
          "1: 1(0) 2(30) 9(1)"},
@@ -93,7 +93,7 @@ TEST(ForceLines, TakeTitlesOfAnyWords)
 TEST(ForceLines, ReadLoadCaseNumbersUpToTheColon)
 {
     expect_kept({
-        {"text behind the digits", {"101 12abc:A @0", "2:B @0"}, "1: 12(0)"},
+        {"text after the digits", {"101 12abc:A @0", "2:B @0"}, "1: 12(0)"},
         {"no digits at all", {"101 DEAD: @0", "2:B @0"}, "1: 0(0)"},
         {"nothing before the colon", {"101 :A @0", "2:B @0"}, "1: 0(0)"},
         {"a sign", {"101 -3:A @0", "+4:B @0", "2:B @0"}, "1: -3(0) 4(0)"},
@@ -110,7 +110,7 @@ TEST(ForceLines, ReadMemberNumbersAsFarAsTheyGo)
     expect_kept({
         {"leading zeros", {"0101 1:A @0", "2:B @0"}, "1: 1(0)"},
         {"a sign", {"+102 1:A @0", "2:B @0"}, "2: 1(0)"},
-        {"text behind", {"103abc 1:A @0", "2:B @0"}, "3: 1(0)"},
+        {"text after", {"103abc 1:A @0", "2:B @0"}, "3: 1(0)"},
         {"a fraction is cut", {"104.9 1:A @0", "2:B @0"}, "4: 1(0)"},
         {"an exponent is text", {"1e2 1:A @0", "2:B @0"}, ""},
         {"text before: 0, which no member has", {"M101 1:A @0", "2:B @0"}, ""},
@@ -185,7 +185,7 @@ TEST(ForceLines, PassOverLinesThatAreTooShort)
         {"with a colon in them they are not looked at", {"101 1:A @0", "see note: 3", "@5", "2:B @0"}, "1: 1(0 5)"},
         {"nor is one that would begin a case", {"101 1:A @0", "2:B 0 1 2 3 4", "@5", "3:C @0"}, "1: 1(0 5)"},
         {"nor one that would begin a member", {"101 1:A @0", "102", "@5", "2:B @0"}, "1: 1(0 5)"},
-        {"the line behind them is", {"101 1:A @0", "x", "y z", "2:B @0", "", "   ", "102 1:A @0"}, "1: 1(0) 2(0); 2:"},
+        {"the line after them is", {"101 1:A @0", "x", "y z", "2:B @0", "", "   ", "102 1:A @0"}, "1: 1(0) 2(0); 2:"},
         {"first", {"x", "101", "101 1:A @0", "2:B @0"}, "1: 1(0)"},
         {"last: the member is handed over without its record", {"101 1:A @0", "2:B @0", "x y"}, "1: 1(0)"},
         {"last of a member of one case", {"101 1:A @0", "3:C 1 2 3"}, "1:"},

@@ -31,7 +31,7 @@ constexpr double largest = std::numeric_limits<double>::max();
 const value_case value_cases[] = {
     {"an exponent printed in two words is one number", "1.25E +02 1 2 3 4 5 6", {125, 1, 2, 3, 4, 5, 6}},
     {"with either sign", "0 -1.5E +03 2.5E -01 3 4 5 6", {0, -1500, 0.25, 3, 4, 5, 6}},
-    {"without a digit behind the point", "0 1.E +02 2 3 4 5 6", {0, 100, 2, 3, 4, 5, 6}},
+    {"without a digit after the point", "0 1.E +02 2 3 4 5 6", {0, 100, 2, 3, 4, 5, 6}},
     {"without a point", "0 15E +02 2 3 4 5 6", {0, 1500, 2, 3, 4, 5, 6}},
     {"without a sign", "0 1.5E 03 2 3 4 5 6", {0, 1500, 2, 3, 4, 5, 6}},
     {"seven of them", "1E +01 2E +01 3E +01 4E +01 5E +01 6E +01 7E +01", {10, 20, 30, 40, 50, 60, 70}},
@@ -43,7 +43,7 @@ const value_case value_cases[] = {
     {"a small e is no E", "0 1.5e +03 2 3 4 5 6", {1.5, 3, 2, 3, 4, 5, 6}},
     {"a second E has no digit before it", "0 1EE +03 2 3 4 5 6", {1, 3, 2, 3, 4, 5, 6}},
     {"an exponent at the very end lacks its digits", "0 1 2 3 4 5 6.5E", {0, 1, 2, 3, 4, 5, 6.5}},
-    {"the same with a blank behind", "0 1 2 3 4 5 6.5E ", {0, 1, 2, 3, 4, 5, 6.5}},
+    {"the same with a blank after", "0 1 2 3 4 5 6.5E ", {0, 1, 2, 3, 4, 5, 6.5}},
     {"points and signs", "+.5 -.5 5. -5. +0 -0.0 00.1", {0.5, -0.5, 5, -5, 0, 0, 0.1}},
     {"what is no number is 0", "x 1 ***** 3 - 5 .", {0, 1, 0, 3, 0, 5, 0}},
     {"numbers are read as far as they go", "1,5 2kN 3-4 5+6 7D3 0x10 1.2.3", {1, 2, 3, 5, 7, 0, 1.2}},
