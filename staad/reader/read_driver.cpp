@@ -33,31 +33,31 @@ std::vector<std::string> unit_words(std::string_view line)
 }
 
 /// Later UNIT lines change nothing; one with words that the first does not have means trouble.
-void tell_later_units(const line_list& lines, std::size_t governing, reading& run)
+void tell_later_units(const line_list& lines, std::size_t governing, reading& context)
 {
     const std::vector<std::string> known = unit_words(lines[governing].text);
     for (std::size_t i = lines.find_start("UNIT", governing + 1); i < lines.size();
          i = lines.find_start("UNIT", i + 1)) {
-        run.used.mark(i);
+        context.used.mark(i);
         const std::vector<std::string> words = unit_words(lines[i].text);
         const bool same = std::all_of(words.begin(), words.end(), [&](const std::string& word) {
             return std::find(known.begin(), known.end(), word) != known.end();
         });
         if (!same)
-            run.findings.add(FindingCode::unit_later, lines[i].place, [&] {
+            context.findings.add(FindingCode::unit_later, lines[i].place, [&] {
                 return detail::quote(lines[i].text) + " changes nothing: the whole file is read in " +
                        detail::quote(lines[governing].text);
             });
     }
 }
 
-void tell_units(const line_list& lines, std::size_t governing, reading& run)
+void tell_units(const line_list& lines, std::size_t governing, reading& context)
 {
-    run.used.mark(governing);
-    if (!run.findings.listening())
+    context.used.mark(governing);
+    if (!context.findings.listening())
         return;
-    detail::tell_unit_words(lines[governing].text, lines[governing].place, run);
-    tell_later_units(lines, governing, run);
+    detail::tell_unit_words(lines[governing].text, lines[governing].place, context);
+    tell_later_units(lines, governing, context);
 }
 
 /// Why no line is a unit line, as far as the first one tells.
@@ -72,28 +72,28 @@ std::string why_no_unit(const line_list& lines)
 }
 
 /// No model: why, and the nearest line that looks like the one that is missing.
-bool no_model(FindingCode code, std::string_view missing, std::string why, const line_list& lines, reading& run)
+bool no_model(FindingCode code, std::string_view missing, std::string why, const line_list& lines, reading& context)
 {
-    if (!lines.empty() || run.findings.empty()) // a file that could not be read has been told of
-        run.findings.add(code, whole_text, [&] { return std::move(why); });
-    detail::tell_near_keywords(lines, missing, run);
+    if (!lines.empty() || context.findings.empty()) // a file that could not be read has been told of
+        context.findings.add(code, whole_text, [&] { return std::move(why); });
+    detail::tell_near_keywords(lines, missing, context);
     return false;
 }
 
 /// The lines of a file; none, and a finding that says why, of one that could not be read.
-line_list lines_of(FileBytes file, bool for_update, std::string_view skip_prefix, reading& run)
+line_list lines_of(FileBytes file, bool for_update, std::string_view skip_prefix, reading& context)
 {
     if (file.outcome == FileBytes::Outcome::read)
         return {std::move(file.bytes), file.size, skip_prefix};
-    detail::tell_file_trouble(file.outcome, for_update, run);
+    detail::tell_file_trouble(file.outcome, for_update, context);
     return {};
 }
 
 } // namespace
 
-line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& run)
+line_list SdReader::get_all_lines_from_file(const char* path, const std::string& skip_prefix, reading& context)
 {
-    return lines_of(detail::read_updatable_file(path), true, skip_prefix, run);
+    return lines_of(detail::read_updatable_file(path), true, skip_prefix, context);
 }
 
 void SdReader::unify_staadpro_unit()
