@@ -280,12 +280,12 @@ bool force_import::start()
 
 import_outcome force_import::read(const FileBytes& file, bool for_update)
 {
-    using enum FileBytes::Outcome;
-    if (file.outcome == FileBytes::Outcome::read)
+    using Outcome = FileBytes::Outcome;
+    if (file.outcome == Outcome::read)
         return read(file.text());
-    report_file_trouble({.is_missing = file.outcome == missing,
-                         .is_folder = file.outcome == directory,
-                         .is_refused = file.outcome == refused,
+    report_file_trouble({.is_missing = file.outcome == Outcome::missing,
+                         .is_folder = file.outcome == Outcome::directory,
+                         .is_refused = file.outcome == Outcome::refused,
                          .for_update = for_update},
                         findings_);
     return import_outcome::no_file;
