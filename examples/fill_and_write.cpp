@@ -2,7 +2,7 @@
 // dead load. "must": without it the written text lacks something or is wrong.
 //
 //     fill_and_write OUT.std      writes the file
-//     fill_and_write -            prints the text
+//     fill_and_write -            prints it up to the generated wind and seismic loads, which end every file
 
 #include "staad/model/sd_reader.h"
 
@@ -45,10 +45,10 @@ void add_dead_load(STAAD::SdReader& model, STAAD::SdBeam& member, double kn_per_
     model.load_cases[dead.id] = dead;
 
     STAAD::LoadDefination load;
-    load.kind = "MEMBER LOAD UNI";   // must
-    load.direction = "GZ";           // must: the model's axis, upward
-    load.values = {-kn_per_m / 1e3}; // must: kN/mm
-    load.load_case = dead.id;        // must
+    load.kind = "MEMBER LOAD UNI";                     // must
+    load.direction = "GZ";                             // must: the model's axis, upward
+    load.values = {-kn_per_m / 1e3};                   // must: kN/mm
+    load.load_case = dead.id;                          // must
     member.int_list.push_back(model.add_a_load(load)); // must: members refer to their loads
 }
 
@@ -73,7 +73,8 @@ int main(int argc, char** argv)
     model.supports["FIXED"] = {1, 4}; // joint numbers
 
     if (std::string(argv[1]) == "-") {
-        std::cout << model.WriteDataToText() << '\n';
+        const std::string text = model.WriteDataToText();
+        std::cout << text.substr(0, text.find("DEFINE WIND LOAD"));
         return 0;
     }
     std::error_code error;
