@@ -9,95 +9,44 @@
 namespace cli_test {
 namespace {
 
-TEST(Messages, MissingFile)
-{
-    const tool_run tool;
-    const std::string path = tool.missing("nowhere.std");
-    for (const char* verb : {"info", "dump"}) {
-        const tool_result result = tool({verb, path});
-        EXPECT_EQ(result.exit_code, 3) << verb;
-        EXPECT_EQ(result.out, "") << verb;
-        EXPECT_EQ(result.err.rfind(path + ": error ", 0), 0U) << verb << ": " << result.err;
-    }
-}
-
-struct no_model_case {
+struct message_row {
     const char* why;
-    const char* text;
+    std::string text;
+    int exit_code;
+    const char* message; ///< after the name of the file
 };
 
-const no_model_case no_model_cases[] = {
-    {"an empty file", ""},
-    {"no UNIT line", "STAAD SPACE\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"},
-    {"nothing after the UNIT line", "STAAD SPACE\nUNIT METER KN\n"},
-    {"no joints", "UNIT METER KN\nMEMBER INCIDENCES\n1 1 1\nFINISH\n"},
-    {"no members", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nFINISH\n"},
+const message_row messages[] = {
+    {"no UNIT line", "STAAD SPACE\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n", 3, ": error "},
+    {"nothing after the UNIT line", "STAAD SPACE\nUNIT METER KN\n", 3, ": error "},
+    {"no joints", "UNIT METER KN\nMEMBER INCIDENCES\n1 1 1\nFINISH\n", 3, ": error "},
+    {"no members", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nFINISH\n", 3, ": error "},
+    {"a keyword that is nearly right, on line 5",
+     "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMB INCI\n1 1 2\nFINISH\n", 3,
+     ":5: error keyword-near: 'MEMB INCI' is not 'MEMBER INCIDENCES'\n"},
+    {"a list beyond the limit, on line 8", small_deck("SUPPORTS\n1 TO 2000000000 FIXED\n"), 3,
+     ":8: error limit: a list of more than 16777216 numbers\n"},
+    {"a warning leaves the exit code at done",
+     "STAAD SPACE\nUNIT METERS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\nFINISH\n", 0,
+     ":2: warning unit-word: "},
 };
 
-TEST(Messages, EveryFileWithoutAModelSaysWhy)
+TEST(Messages, NameFileLineAndReason)
 {
     const tool_run tool;
-    for (const no_model_case& each : no_model_cases) {
-        const std::string path = tool.write("bad.std", each.text);
-        const tool_result result = tool({"info", path});
-        EXPECT_EQ(result.exit_code, 3) << each.why;
-        EXPECT_EQ(result.out, "") << each.why;
-        EXPECT_TRUE(contains(result.err, ": error ")) << each.why << ": " << result.err;
-    }
-}
-
-TEST(Messages, KeywordThatIsNearlyRight)
-{
-    const tool_run tool;
-    // The keyword stands on line 12.
-    const std::string path = tool.write("tower.std", "STAAD SPACE\n"
-                                                     "START JOB INFORMATION\n"
-                                                     "ENGINEER DATE 03-May-25\n"
-                                                     "END JOB INFORMATION\n"
-                                                     "INPUT WIDTH 79\n"
-                                                     "UNIT METER KN\n"
-                                                     "JOINT COORDINATES\n"
-                                                     "1 0 0 0\n"
-                                                     "2 0 3 0\n"
-                                                     "3 4 0 0\n"
-                                                     "4 4 3 0\n"
-                                                     "MEMB INCI\n"
-                                                     "1 1 2; 2 3 4\n"
-                                                     "FINISH\n");
-    const tool_result result = tool({"info", path});
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_TRUE(has_line(result.err, path + ":12: error keyword-near: 'MEMB INCI' is not 'MEMBER INCIDENCES'"))
-        << result.err;
-}
-
-TEST(Messages, ListBeyondTheLimitNamesItsLine)
-{
-    const tool_run tool;
-    // The list stands on line 8.
-    const std::string path = tool.write("huge.std", small_deck("SUPPORTS\n1 TO 2000000000 FIXED\n"));
     for (const char* verb : {"info", "dump"}) {
-        const tool_result result = tool({verb, path});
-        EXPECT_EQ(result.exit_code, 3) << verb;
-        EXPECT_EQ(result.out, "") << verb;
-        EXPECT_TRUE(has_line(result.err, path + ":8: error limit: a list of more than 16777216 numbers"))
-            << verb << ": " << result.err;
+        for (const message_row& each : messages) {
+            const std::string path = tool.write("a.std", each.text);
+            const tool_result result = tool({verb, path});
+            EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
+            EXPECT_EQ(result.out.empty(), each.exit_code != 0) << each.why;
+            EXPECT_TRUE(contains('\n' + result.err, '\n' + path + each.message)) << each.why << ": " << result.err;
+        }
+        const std::string missing = tool.missing("nowhere.std");
+        const tool_result result = tool({verb, missing});
+        EXPECT_EQ(result.exit_code, 3);
+        EXPECT_EQ(result.err, missing + ": error file-missing: the file does not exist\n");
     }
-}
-
-TEST(Messages, WarningsLeaveTheExitCodeAtDone)
-{
-    const tool_run tool;
-    const std::string path = tool.write("words.std", "STAAD SPACE\n"
-                                                     "UNIT METERS KN\n"
-                                                     "JOINT COORDINATES\n"
-                                                     "1 0 0 0; 2 0 3 0\n"
-                                                     "MEMBER INCIDENCES\n"
-                                                     "1 1 2\n"
-                                                     "FINISH\n");
-    const tool_result result = tool({"info", path});
-    EXPECT_EQ(result.exit_code, 0);
-    EXPECT_TRUE(contains(result.err, path + ":2: warning unit-word: ")) << result.err;
-    EXPECT_TRUE(has_line(result.out, "factors: length x 1 (mm), force x 1 (kN), moment x 1 (kN*mm)")) << result.out;
 }
 
 TEST(Messages, ManyOfAKindAreCounted)
@@ -109,14 +58,12 @@ TEST(Messages, ManyOfAKindAreCounted)
         deck += std::to_string(member) + " 1 " + std::to_string(1000 + member) + "\n";
     const std::string path = tool.write("loose.std", deck + "FINISH\n");
     const tool_result result = tool({"info", path});
-    EXPECT_EQ(result.exit_code, 0);
     // Member 51 stands on line 55, the last on line 64.
     const std::string rest = path + ":55: warning ";
     const std::size_t begin = result.err.find(rest);
     ASSERT_NE(begin, std::string::npos) << result.err;
     const std::string line = result.err.substr(begin, result.err.find('\n', begin) - begin);
     EXPECT_TRUE(contains(line, " (and 9 more of this kind, up to line 64)")) << line;
-    EXPECT_FALSE(contains(result.err, "times)"));
 }
 
 TEST(Messages, InTheOrderOfTheLines)
@@ -175,8 +122,7 @@ TEST(Messages, NotesOnRequestOnly)
 TEST(Messages, QuietLeavesErrorsOnly)
 {
     const tool_run tool;
-    const std::string path = tool.write("words.std", "UNIT METERS KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
-                                                     "MEMBER INCIDENCES\n1 1 2\nFINISH\n");
+    const std::string path = tool.write("words.std", std::end(messages)[-1].text);
     const tool_result loud = tool({"info", path});
     EXPECT_TRUE(contains(loud.err, "warning"));
     for (const auto& arguments : {std::vector<std::string>{"info", "-q", path}, {"--quiet", "info", "--notes", path}}) {

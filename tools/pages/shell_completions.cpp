@@ -2,6 +2,8 @@
 
 #include "pages.h"
 
+#include <fmt/format.h>
+
 #include <cstddef>
 #include <string_view>
 
@@ -113,7 +115,8 @@ std::string zsh_verb(const command_outline& verb)
     for (const option_outline& argument : verb.arguments) {
         const std::string spot = argument.repeats ? "*" : std::to_string(++place);
         const std::string offered = argument.kind == value_kind::word ? '(' + joined(argument.choices) + ')' : "_files";
-        lines += " \\\n" + indent + in_quotes(spot + ':' + argument.names.front() + ':' + offered);
+        lines +=
+            fmt::format(" \\\n{}{}", indent, in_quotes(fmt::format("{}:{}:{}", spot, argument.names.front(), offered)));
     }
     return lines + " ;;\n";
 }
