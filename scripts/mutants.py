@@ -97,7 +97,7 @@ def mutant_of(place, choice, source):
     return Mutant(place.path, source.count("\n", 0, start) + 1, text, place.offset - start, place.old, choice)
 
 
-def told(mutant):
+def line_of(mutant):
     return f"{mutant.path}:{mutant.line}: {mutant.old} -> {mutant.new or 'nothing'}   | {mutant.text.strip()}"
 
 
@@ -217,7 +217,7 @@ class Tree:
         )  # fmt: skip
 
     def with_change(self, mutant, action):
-        """What `action` gives while the change stands in the tree; None if the line is not there."""
+        """What `action` gives while the change stands in the tree."""
         path = self.folder / mutant.path
         source = path.read_text()
         lines = source.split("\n")
@@ -242,22 +242,33 @@ class Tree:
                 return Path(name).name
         return ""
 
-    def found_here(self, mutant, sources):
-        """The same change in this tree; None if its line is not here or not the only one of its text."""
+    def found_here(self, mutant, drawn_source, sources):
+        """The same change in this tree; None if its line is not here. Of lines of one text, that between most of the
+        same lines; of equals none."""
         same_name = [path for path in sources if Path(path).name == Path(mutant.path).name]
         for paths in ([mutant.path] if mutant.path in sources else [], same_name, list(sources)):
-            lines = [
-                (path, number)
+            found = [
+                (lines_in_common(drawn_source, mutant.line, sources[path], number), path, number)
                 for path in paths
                 for number, line in enumerate(sources[path].split("\n"), 1)
                 if line.strip() == mutant.text.strip()
             ]
-            if len(lines) == 1:
-                path, number = lines[0]
+            found.sort(reverse=True)
+            if len(found) == 1 or (found and found[0][0] > found[1][0]):
+                _, path, number = found[0]
                 text = sources[path].split("\n")[number - 1]
                 shift = len(text) - len(text.lstrip()) - (len(mutant.text) - len(mutant.text.lstrip()))
                 return mutant._replace(path=path, line=number, text=text, column=mutant.column + shift)
         return None
+
+
+def lines_in_common(first, first_line, second, second_line, reach=8):
+    """Of the lines around one line of each text, how many are in both."""
+    around = [
+        {line.strip() for line in text.split("\n")[max(0, number - 1 - reach) : number + reach]} - {"", "{", "}"}
+        for text, number in ((first, first_line), (second, second_line))
+    ]
+    return len(around[0] & around[1])
 
 
 def draw(tree, seed, count):
@@ -288,15 +299,16 @@ def draw(tree, seed, count):
     return mutants
 
 
-def run(tree, mutants, was_drawn_here):
-    """Makes each change in the tree and tells what became of it."""
+def run(tree, mutants, drawn_from):
+    """Makes each change in the tree and reports what became of it. `drawn_from`: the sources of another tree in which
+    the changes were drawn; None if it was this one."""
     tree.configure()
     tree.check_suite()
     sources = tree.sources()
     caught, survivors, lacking = 0, [], []
     for index, drawn in enumerate(mutants, 1):
-        mutant = drawn if was_drawn_here else tree.found_here(drawn, sources)
-        kind = tree.with_change(mutant, tree.kind) if mutant and not was_drawn_here else "new"
+        mutant = tree.found_here(drawn, drawn_from[drawn.path], sources) if drawn_from else drawn
+        kind = tree.with_change(mutant, tree.kind) if mutant and drawn_from else "new"
         if mutant is None or kind != "new":
             outcome = "no such line" if mutant is None else {"same": "same code", "broken": "does not compile"}[kind]
             lacking.append(drawn)
@@ -305,10 +317,10 @@ def run(tree, mutants, was_drawn_here):
             outcome = f"caught by {program}" if program else "SURVIVED"
             caught += bool(program)
             survivors += [] if program else [mutant]
-        print(f"{index:3} {outcome}: {told(mutant or drawn)}", flush=True)
+        print(f"{index:3} {outcome}: {line_of(mutant or drawn)}", flush=True)
     print(f"{caught} of {caught + len(survivors)} caught" + (f", {len(lacking)} not applicable" if lacking else ""))
     for mutant in survivors:
-        print(f"survived: {told(mutant)}")
+        print(f"survived: {line_of(mutant)}")
     return caught
 
 
@@ -325,16 +337,18 @@ def main():
     tree.copy_working_tree()
     mutants = draw(tree, options.seed, options.count)
     if options.list:
-        print("\n".join(told(mutant) for mutant in mutants))
+        print("\n".join(line_of(mutant) for mutant in mutants))
         return
+    drawn_from = None
     if options.at:
+        drawn_from = tree.sources()
         commit = subprocess.run(["git", "rev-parse", "--verify", "-q", options.at + "^{commit}"], capture_output=True)
         if commit.returncode != 0:
             sys.exit(f"mutants: no commit {options.at}")
         name = commit.stdout.decode().strip()
         tree = Tree(FOLDER / name)
         tree.copy_commit(name)
-    if run(tree, mutants, not options.at) < options.at_least:
+    if run(tree, mutants, drawn_from) < options.at_least:
         sys.exit(1)
 
 
