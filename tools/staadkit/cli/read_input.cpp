@@ -3,6 +3,8 @@
 #include "cli/progress_line.h"
 #include "staad/io/native_path.h"
 
+#include <fmt/format.h>
+
 #include <cstddef>
 #include <cstdio>
 #include <utility>
@@ -103,7 +105,7 @@ bool is_binary(std::string_view bytes)
 
 STAAD::Finding kind_error(const std::string& name, STAAD::FindingCode code, const std::string& kind)
 {
-    return STAAD::make_finding(code, (name == "-" ? "standard input is " : "the file is ") + kind);
+    return STAAD::make_finding(code, fmt::format("{} is {}", name == "-" ? "standard input" : "the file", kind));
 }
 
 std::string input_name(const std::string& name)

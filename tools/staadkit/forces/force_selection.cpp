@@ -1,8 +1,11 @@
 #include "forces/force_selection.h"
 
 #include "output/phrases.h"
+#include "staad/report/finding_codes.h"
 #include "staad/text/ranges.h"
 #include "staad/text/split_string.h"
+
+#include <fmt/format.h>
 
 #include <charconv>
 #include <limits>
@@ -12,7 +15,7 @@
 namespace tool {
 namespace {
 
-using STAAD::Finding;
+using STAAD::FindingCode;
 using STAAD::SdReader;
 
 std::optional<int> whole_number(const std::string& word)
@@ -77,17 +80,8 @@ std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& kno
     return STAAD::format_id_ranges({}, unknown, std::numeric_limits<std::size_t>::max());
 }
 
-void warn(STAAD::ReadReport& report, const char* code, std::string text)
-{
-    Finding finding;
-    finding.severity = Finding::Warning;
-    finding.code = code;
-    finding.text = std::move(text);
-    report.findings.push_back(std::move(finding));
-}
-
 /// Warns of those of the `wanted` numbers that are not in `present`.
-void report_missing(const std::set<int>& wanted, const std::set<int>& present, const char* code, const char* what,
+void report_missing(const std::set<int>& wanted, const std::set<int>& present, FindingCode code, const char* what,
                     STAAD::ReadReport& report)
 {
     std::vector<int> missing;
@@ -95,8 +89,11 @@ void report_missing(const std::set<int>& wanted, const std::set<int>& present, c
         if (present.count(number) == 0)
             missing.push_back(number);
     }
-    if (!missing.empty())
-        warn(report, code, std::string("no forces of ") + what + (missing.size() > 1 ? "s " : " ") + run_list(missing));
+    if (missing.empty())
+        return;
+    const char* const plural = missing.size() > 1 ? "s" : "";
+    report.findings.push_back(
+        STAAD::make_finding(code, fmt::format("no forces of {}{} {}", what, plural, run_list(missing))));
 }
 
 } // namespace
@@ -112,9 +109,9 @@ std::string add_number_list(const std::string& text, number_ranges& ranges)
                                         : i + 2 < words.size() ? whole_number(words[i + 2])
                                                                : std::nullopt;
         if (!first || !last)
-            return '\'' + text + "' is no list of numbers such as '1 5 TO 9'";
+            return fmt::format("'{}' is no list of numbers such as '1 5 TO 9'", text);
         if (*last < *first)
-            return '\'' + words[i] + " TO " + words[i + 2] + "' has no numbers: the first is the larger one";
+            return fmt::format("'{} TO {}' has no numbers: the first is the larger one", words[i], words[i + 2]);
         ranges.emplace_back(*first, *last);
         i += is_range ? 2 : 0;
     }
@@ -124,9 +121,9 @@ std::string add_number_list(const std::string& text, number_ranges& ranges)
 std::string unknown_in(const force_selection& wanted, const SdReader& model)
 {
     if (const std::string unknown = unknown_ranges(wanted.members, member_numbers(model)); !unknown.empty())
-        return "--member " + unknown + ": the model has no such member";
+        return fmt::format("--member {}: the model has no such member", unknown);
     if (const std::string unknown = unknown_ranges(wanted.cases, case_numbers(model)); !unknown.empty())
-        return "--case " + unknown + ": neither the model nor the listing has such a load case";
+        return fmt::format("--case {}: neither the model nor the listing has such a load case", unknown);
     return {};
 }
 
@@ -135,8 +132,8 @@ void keep_selected(const force_selection& wanted, SdReader& model, STAAD::ReadRe
     const std::size_t findings_before = report.findings.size();
     const std::set<int> members = numbers_in(wanted.members, member_numbers(model));
     const std::set<int> cases = numbers_in(wanted.cases, case_numbers(model));
-    report_missing(members, members_with_forces(model), "member-without-forces", "member", report);
-    report_missing(cases, cases_with_forces(model), "case-without-forces", "load case", report);
+    report_missing(members, members_with_forces(model), FindingCode::member_without_forces, "member", report);
+    report_missing(cases, cases_with_forces(model), FindingCode::case_without_forces, "load case", report);
     const bool is_reported = report.findings.size() != findings_before || model.beam_forces.empty();
     if (!members.empty())
         std::erase_if(model.beam_forces,
@@ -147,7 +144,8 @@ void keep_selected(const force_selection& wanted, SdReader& model, STAAD::ReadRe
         std::erase_if(model.beam_forces, [](const auto& entry) { return entry.second.records.empty(); });
     }
     if (model.beam_forces.empty() && !is_reported)
-        warn(report, "nothing-selected", "no member asked for has forces of a load case asked for");
+        report.findings.push_back(STAAD::make_finding(FindingCode::nothing_selected,
+                                                      "no member asked for has forces of a load case asked for"));
 }
 
 int member_number(const SdReader& model, const STAAD::BeamForceAndMOM& forces)

@@ -5,21 +5,13 @@
 #include "forces/forces_report.h"
 #include "output/phrases.h"
 
-#include <charconv>
-#include <initializer_list>
+#include <fmt/format.h>
+
 #include <string>
 #include <string_view>
 
 namespace tool {
 namespace {
-
-/// The fewest digits that read back to the same bits.
-std::string exact_number(double number)
-{
-    char digits[32];
-    const std::to_chars_result end = std::to_chars(digits, digits + sizeof digits, number);
-    return {digits, end.ptr};
-}
 
 /// `first` and the columns of a station.
 void put_header(std_output& out, std::string_view first)
@@ -32,16 +24,13 @@ void put_header(std_output& out, std::string_view first)
     out.put('\n');
 }
 
-void put_row(std_output& out, std::initializer_list<std::string_view> first, const STAAD::ForcePoint& point)
+/// `first` and the numbers of a station, as the fewest digits that read back to the same bits.
+void put_row(std_output& out, std::string_view first, const STAAD::ForcePoint& point)
 {
-    for (const std::string_view cell : first) {
-        out.put(cell);
-        out.put(',');
-    }
-    for (const force_column& column : force_columns) {
-        out.put(exact_number(point.*column.value));
-        out.put(&column == &force_columns[std::size(force_columns) - 1] ? '\n' : ',');
-    }
+    out.put(first);
+    for (const force_column& column : force_columns)
+        out.put(fmt::format(",{}", point.*column.value));
+    out.put('\n');
 }
 
 /// Empty for a load case that the model does not have.
@@ -55,10 +44,9 @@ void put_stations(std_output& out, const STAAD::SdReader& model)
 {
     put_header(out, "member,load_case,load_type");
     each_record(model, [&](int member, int load_case, const STAAD::BeamLoadCaseRecord& record) {
-        const std::string member_text = std::to_string(member);
-        const std::string case_text = std::to_string(load_case);
+        const std::string first = fmt::format("{},{},{}", member, load_case, load_type(model, load_case));
         for (const STAAD::ForcePoint& point : record.points)
-            put_row(out, {member_text, case_text, load_type(model, load_case)}, point);
+            put_row(out, first, point);
     });
 }
 
@@ -66,21 +54,18 @@ void put_extremes(std_output& out, const STAAD::SdReader& model)
 {
     out.put("component,unit,extreme,value,member,load_case,position_mm\n");
     for (const force_extreme& each : find_extremes(model))
-        out.put(std::string(each.component->name) + ',' + each.component->unit + ',' + each.word() + ',' +
-                exact_number(each.value) + ',' + std::to_string(each.member) + ',' + std::to_string(each.load_case) +
-                ',' + exact_number(each.position) + '\n');
+        out.put(fmt::format("{},{},{},{},{},{},{}\n", each.component->name, each.component->unit, each.word(),
+                            each.value, each.member, each.load_case, each.position));
 }
 
 void put_list(std_output& out, const member_list& list)
 {
-    const std::string member = std::to_string(list.member);
     for (std::size_t i = 0; i < list.stations.size(); ++i) {
-        const std::string station = std::to_string(i + 1);
         for (std::size_t kind = 0; kind < std::size(list_kinds); ++kind) {
+            const list_kind& of = list_kinds[kind];
             if (list.cases[kind])
-                put_row(out,
-                        {member, station, load_type_word(list_kinds[kind].type), std::to_string(*list.cases[kind])},
-                        list.stations[i].*list_kinds[kind].point);
+                put_row(out, fmt::format("{},{},{},{}", list.member, i + 1, load_type_word(of.type), *list.cases[kind]),
+                        list.stations[i].*of.point);
         }
     }
 }

@@ -7,6 +7,8 @@
 #include "output/phrases.h"
 #include "output/table.h"
 
+#include <fmt/format.h>
+
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -49,41 +51,40 @@ constexpr const char* not_in_model = "not in the model";
 std::string case_in_words(const STAAD::LoadCase* load_case)
 {
     if (load_case == nullptr)
-        return std::string(" (") + not_in_model + ')';
+        return fmt::format(" ({})", not_in_model);
     const std::string type = type_in_words(*load_case);
     const std::string title = shown(load_case->title);
     const char* const between = type.empty() || title.empty() ? "" : ", ";
-    return type.empty() && title.empty() ? std::string() : ": " + type + between + title;
+    return type.empty() && title.empty() ? std::string() : fmt::format(": {}{}{}", type, between, title);
 }
 
 void put_sections(std_output& out, const force_summary& summary)
 {
-    out.put("sections: " + std::to_string(summary.section_count) + '\n');
+    out.put(fmt::format("sections: {}\n", summary.section_count));
     table rows;
     std::size_t shown_sections = 0;
     for (const STAAD::Finding& section : summary.sections) {
         if (rows.size() == most_sections || section.count != 1)
             break;
-        rows.add_row({"line " + std::to_string(section.first_line), shown(section.text)});
+        rows.add_row({fmt::format("line {}", section.first_line), shown(section.text)});
         ++shown_sections;
     }
     rows.put(out);
     if (shown_sections < summary.section_count)
-        out.put("  and " + std::to_string(summary.section_count - shown_sections) + " more\n");
+        out.put(fmt::format("  and {} more\n", summary.section_count - shown_sections));
 }
 
 std::string members_in_words(const force_summary& summary)
 {
-    std::string text = "members: " + std::to_string(summary.members) + " of the " +
-                       std::to_string(summary.members_in_model) + " in the model";
-    if (summary.unknown_member_lines != 0)
-        text += "; " + std::to_string(summary.unknown_member_lines) + " in the listing only, skipped";
-    return text + '\n';
+    const std::string skipped = summary.unknown_member_lines == 0
+                                    ? ""
+                                    : fmt::format("; {} in the listing only, skipped", summary.unknown_member_lines);
+    return fmt::format("members: {} of the {} in the model{}\n", summary.members, summary.members_in_model, skipped);
 }
 
 void put_cases(std_output& out, const force_summary& summary)
 {
-    out.put("load cases: " + std::to_string(summary.cases.size()) + '\n');
+    out.put(fmt::format("load cases: {}\n", summary.cases.size()));
     table rows({align::right});
     for (const force_case_summary& each : summary.cases) {
         const bool is_known = each.of_model.has_value();
@@ -98,17 +99,17 @@ void put_cases(std_output& out, const force_summary& summary)
 void put_shown(std_output& out, const STAAD::SdReader& model)
 {
     const force_summary shown = summarise_forces(model, {});
-    out.put("shown: " + count_of(shown.members, "member") + ", " + count_of(shown.cases.size(), "load case") + ", " +
-            count_of(shown.stations, "station") + '\n');
+    out.put(fmt::format("shown: {}, {}, {}\n", count_of(shown.members, "member"),
+                        count_of(shown.cases.size(), "load case"), count_of(shown.stations, "station")));
 }
 
 void put_summary(std_output& out, const forces_report& report)
 {
-    out.put(printable_name(report.listing.name) + ", forces of " + printable_name(report.model.name) + '\n');
+    out.put(fmt::format("{}, forces of {}\n", printable_name(report.listing.name), printable_name(report.model.name)));
     put_sections(out, report.summary);
     out.put(members_in_words(report.summary));
     put_cases(out, report.summary);
-    out.put("stations: " + std::to_string(report.summary.stations) + '\n');
+    out.put(fmt::format("stations: {}\n", report.summary.stations));
     if (report.is_selection)
         put_shown(out, report.model.model);
     out.put("units: mm from the member's start, kN, kN*mm\n"
@@ -147,8 +148,8 @@ private:
 void put_record(std_output& out, const STAAD::SdReader& model, int member, int load_case,
                 const STAAD::BeamLoadCaseRecord& record)
 {
-    out.put("\nMember " + std::to_string(member) + ", load case " + std::to_string(load_case) +
-            case_in_words(find_case(model, load_case)) + '\n');
+    out.put(
+        fmt::format("\nMember {}, load case {}{}\n", member, load_case, case_in_words(find_case(model, load_case))));
     station_table rows;
     for (const STAAD::ForcePoint& point : record.points)
         rows.add(point);
@@ -160,7 +161,7 @@ void put_stations(std_output& out, const STAAD::SdReader& model)
     for (const auto& [position, forces] : model.beam_forces) {
         const int member = member_number(model, forces);
         if (forces.records.empty())
-            out.put("\nMember " + std::to_string(member) + ": no load case\n");
+            out.put(fmt::format("\nMember {}: no load case\n", member));
         for (const auto& [load_case, record] : forces.records)
             put_record(out, model, member, load_case, record);
     }
@@ -186,23 +187,23 @@ void put_extremes(std_output& out, const STAAD::SdReader& model)
 std::string title_of(const STAAD::SdReader& model, int load_case)
 {
     const STAAD::LoadCase* const found = find_case(model, load_case);
-    return found == nullptr || found->title.empty() ? std::string() : ", " + shown(found->title);
+    return found == nullptr || found->title.empty() ? std::string() : fmt::format(", {}", shown(found->title));
 }
 
 void put_list(std_output& out, const STAAD::SdReader& model, const member_list& list)
 {
-    const std::string member = "\nMember " + std::to_string(list.member);
+    const std::string member = fmt::format("\nMember {}", list.member);
     if (list.stations.empty()) {
         out.put(member + ": no list, as no dead, live, wind or seismic load case has two stations\n");
         return;
     }
     for (std::size_t i = 0; i < std::size(list_kinds); ++i) {
-        const std::string heading = member + ", " + load_type_word(list_kinds[i].type) + ": ";
+        const std::string heading = fmt::format("{}, {}: ", member, load_type_word(list_kinds[i].type));
         if (!list.cases[i]) {
             out.put(heading + "none, all zeros\n");
             continue;
         }
-        out.put(heading + "load case " + std::to_string(*list.cases[i]) + title_of(model, *list.cases[i]) + '\n');
+        out.put(fmt::format("{}load case {}{}\n", heading, *list.cases[i], title_of(model, *list.cases[i])));
         station_table rows;
         for (const STAAD::BeamLoadList& station : list.stations)
             rows.add(station.*list_kinds[i].point);

@@ -7,6 +7,8 @@
 #include "output/table.h"
 #include "staad/query/lookup.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <string_view>
 #include <utility>
@@ -23,9 +25,10 @@ std::string shown(std::string_view text)
     return cell_text(text, "");
 }
 
-std::string line(std::string_view name, const std::string& text)
+template<class Text>
+std::string line(std::string_view name, const Text& text)
 {
-    return std::string(name) + ": " + text + '\n';
+    return fmt::format("{}: {}\n", name, text);
 }
 
 /// A heading with the number of rows, and the rows.
@@ -38,17 +41,17 @@ void put_block(std_output& out, std::string_view name, const table& rows)
 std::string units(const SdReader& model)
 {
     return line("units", shown(model.unit_text)) +
-           line("factors", "length x " + short_number(model.length_factor) + " (mm), force x " +
-                               short_number(model.force_factor) + " (kN), moment x " +
-                               short_number(model.force_length_factor) + " (kN*mm)");
+           fmt::format("factors: length x {} (mm), force x {} (kN), moment x {} (kN*mm)\n",
+                       short_number(model.length_factor), short_number(model.force_factor),
+                       short_number(model.force_length_factor));
 }
 
 std::string members(const model_summary& summary)
 {
     const auto of = [&summary](STAAD::BeamType type) { return summary.members_of[static_cast<std::size_t>(type)]; };
-    return std::to_string(summary.members) + " (" + count_of(of(STAAD::Column), "column") + ", " +
-           count_of(of(STAAD::Beam), "beam") + ", " + count_of(of(STAAD::Brace), "brace") + ", " +
-           count_of(of(STAAD::HorizontalBrace), "horizontal brace") + ")";
+    return fmt::format("{} ({}, {}, {}, {})", summary.members, count_of(of(STAAD::Column), "column"),
+                       count_of(of(STAAD::Beam), "beam"), count_of(of(STAAD::Brace), "brace"),
+                       count_of(of(STAAD::HorizontalBrace), "horizontal brace"));
 }
 
 std::string extents_in_words(const model_summary& summary)
@@ -58,15 +61,15 @@ std::string extents_in_words(const model_summary& summary)
     if (!summary.box.are_finite())
         return "not finite";
     // Plan as the file has it, X by Z.
-    return "plan " + metres(summary.box.size(1)) + " m x " + metres(summary.box.size(0)) + " m, height " +
-           metres(summary.box.size(2)) + " m";
+    return fmt::format("plan {} m x {} m, height {} m", metres(summary.box.size(1)), metres(summary.box.size(0)),
+                       metres(summary.box.size(2)));
 }
 
 std::string geometry(const model_summary& summary)
 {
-    return line("joints", std::to_string(summary.joints)) + line("members", members(summary)) +
-           line("elements", std::to_string(summary.elements)) + line("surfaces", std::to_string(summary.surfaces)) +
-           line("extents", extents_in_words(summary)) + line("storeys", storeys_in_words(summary.levels));
+    return line("joints", summary.joints) + line("members", members(summary)) + line("elements", summary.elements) +
+           line("surfaces", summary.surfaces) + line("extents", extents_in_words(summary)) +
+           line("storeys", storeys_in_words(summary.levels));
 }
 
 std::string member_extras(const SdReader& model, const model_summary& summary)
@@ -83,8 +86,8 @@ void add_numbers(std::vector<std::string>& row, const listed_numbers& numbers, s
     row.push_back(count_of(numbers.known, noun));
     if (numbers.unknown == 0)
         return;
-    const char* article = noun == "element" ? " without an " : " without a ";
-    row.push_back("and " + count_of(numbers.unknown, "number") + article + std::string(noun));
+    const char* const article = noun == "element" ? "an" : "a";
+    row.push_back(fmt::format("and {} without {} {}", count_of(numbers.unknown, "number"), article, noun));
 }
 
 void put_groups(std_output& out, const model_summary& summary)
@@ -162,7 +165,7 @@ std::string definitions(const load_case_summary& load_case)
     std::string text;
     for (const kind_count& each : load_case.definitions) {
         text += text.empty() ? "" : ", ";
-        text += std::to_string(each.count) + ' ' + short_kind(each.kind);
+        text += fmt::format("{} {}", each.count, short_kind(each.kind));
     }
     return text.empty() ? "no loads" : text;
 }
@@ -228,12 +231,11 @@ void put_info_text(std_output& out, const info_report& report)
 std::string info_line(const opened_model& opened)
 {
     if (!opened.was_read)
-        return printable_name(opened.name) + ": error: " + printable_text(first_error(opened.report)) + '\n';
+        return fmt::format("{}: error: {}\n", printable_name(opened.name), printable_text(first_error(opened.report)));
     const SdReader& model = opened.model;
-    const std::size_t surfaces = model.surfaces.size();
-    return printable_name(opened.name) + ": " + count_of(model.nodes.size(), "joint") + ", " +
-           count_of(model.beams.size(), "member") + ", " + count_of(STAAD::element_count(model), "element") + ", " +
-           count_of(surfaces, "surface") + ", " + count_of(model.load_cases.size(), "load case") + '\n';
+    return fmt::format("{}: {}, {}, {}, {}, {}\n", printable_name(opened.name), count_of(model.nodes.size(), "joint"),
+                       count_of(model.beams.size(), "member"), count_of(STAAD::element_count(model), "element"),
+                       count_of(model.surfaces.size(), "surface"), count_of(model.load_cases.size(), "load case"));
 }
 
 } // namespace tool

@@ -1,4 +1,4 @@
-/// What "info" tells about a model, before it is put in words. Texts are those of the model, in
+/// What "info" shows of a model, before it is put in words. Texts are those of the model, in
 /// whatever encoding the file has.
 #ifndef TOOLS_STAADKIT_INFO_MODEL_SUMMARY_H
 #define TOOLS_STAADKIT_INFO_MODEL_SUMMARY_H

@@ -1,4 +1,4 @@
-// Sections with their members and dimensions, and the user tables behind some of them.
+// Sections with their members and dimensions, and the user tables that some of them name.
 
 #include "info/model_summary.h"
 #include "staad/text/split_string.h"
