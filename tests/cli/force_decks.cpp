@@ -13,23 +13,11 @@ std::string force_model()
            "MEMBER INCIDENCES\n"
            "11 1 2; 12 2 3; 13 3 4;\n"
            "LOAD 1 LOADTYPE Dead TITLE SELF WEIGHT\n"
-           "MEMBER LOAD\n"
-           "12 UNI GY -10\n"
            "LOAD 2 LOADTYPE Live TITLE CROWD\n"
-           "MEMBER LOAD\n"
-           "12 UNI GY -5\n"
            "LOAD 3 LOADTYPE Dead TITLE FINISHES\n"
-           "MEMBER LOAD\n"
-           "12 UNI GY -1\n"
            "LOAD 4 LOADTYPE Wind TITLE WIND +X\n"
-           "MEMBER LOAD\n"
-           "11 UNI GX 2\n"
            "LOAD 5 CRANE\n"
-           "MEMBER LOAD\n"
-           "12 UNI GY -2\n"
            "LOAD 6 LOADTYPE Temperature TITLE HOT\n"
-           "MEMBER LOAD\n"
-           "12 UNI GY -3\n"
            "FINISH\n";
 }
 

@@ -91,21 +91,10 @@ const tables_case tables_cases[] = {
      "  M3  largest    6000.0  kN*mm      12          1           0.0\n"
      "  M3  smallest  -6000.0  kN*mm      12          1        6000.0\n"},
     {"extremes of nothing", force_section({"11 1:SELF 0 1 1 1 1 1 1"}), {"--extremes"}, "\nExtremes: none\n"},
-    {"seven stations at eighths of 6 m between the printed two; of the dead cases 1 and 3 the higher one counts",
+    {"seven stations at eighths of 6 m between the printed two",
      force_listing(),
-     {"--pkpm", "--member", "12"},
-     "\nMember 12, dead: load case 3, FINISHES\n"
-     "  position     F1     F2     F3     M1     M2      M3\n"
-     "        mm     kN     kN     kN  kN*mm  kN*mm   kN*mm\n"
-     "       0.0  0.500  0.000  0.000    0.0    0.0  -250.0\n"
-     "     750.0  0.500  0.000  0.000    0.0    0.0  -187.5\n"
-     "    1500.0  0.500  0.000  0.000    0.0    0.0  -125.0\n"
-     "    2250.0  0.500  0.000  0.000    0.0    0.0   -62.5\n"
-     "    3000.0  0.500  0.000  0.000    0.0    0.0     0.0\n"
-     "    3750.0  0.500  0.000  0.000    0.0    0.0    62.5\n"
-     "    4500.0  0.500  0.000  0.000    0.0    0.0   125.0\n"
-     "    5250.0  0.500  0.000  0.000    0.0    0.0   187.5\n"
-     "    6000.0  0.500  0.000  0.000    0.0    0.0   250.0\n"
+     {"--pkpm", "--member", "12", "--case", "2"},
+     "\nMember 12, dead: none, all zeros\n"
      "\nMember 12, live: load case 2, CROWD\n"
      "  position      F1       F2      F3     M1     M2     M3\n"
      "        mm      kN       kN      kN  kN*mm  kN*mm  kN*mm\n"
@@ -167,7 +156,11 @@ const lines_case lines_cases[] = {
      {"shown: 1 member, 1 load case, 2 stations", "  F1  largest    0.500  kN         12          3           0.0",
       "  F1  smallest   0.500  kN         12          3           0.0",
       "  M3  smallest  -250.0  kN*mm      12          3           0.0"}},
-    {"lists of the load cases asked for",
+    {"of the dead cases 1 and 3 the higher one counts",
+     force_listing(),
+     {"--pkpm", "--member", "12"},
+     {"Member 12, dead: load case 3, FINISHES", "Member 12, live: load case 2, CROWD"}},
+    {"unless it is not asked for",
      force_listing(),
      {"--pkpm", "--member", "12", "--case", "1"},
      {"Member 12, dead: load case 1, SELF WEIGHT", "Member 12, live: none, all zeros"}},
@@ -309,42 +302,24 @@ TEST(ForcesJson, AnObjectWithoutModelOrForces)
     EXPECT_EQ(json::parse(no_model.out)["listing_findings"], json::array());
 }
 
-TEST(ForcesCsv, Stations)
+TEST(ForcesCsv, StationsAndExtremes)
 {
-    EXPECT_EQ(force_files()({"--csv"}).out,
+    const force_files forces;
+    EXPECT_EQ(forces({"--csv", "--case", "4 9"}).out,
               "member,load_case,load_type,position_mm,f1_kN,f2_kN,f3_kN,m1_kNmm,m2_kNmm,m3_kNmm\n"
-              "11,1,dead,0,-7,0,0,0,0,0\n"
-              "11,1,dead,4000,-7.5,0,0,0,0,1500\n"
               "11,4,wind,0,0,0,0,0,0,2000\n"
               "11,4,wind,4000,0,0,0,0,0,-2000\n"
-              "12,1,dead,0,1,2,3,4000,5000,6000\n"
-              "12,1,dead,6000,-1,-2,-3,-4000,-5000,-6000\n"
-              "12,2,live,0,10,20,30,0,0,0\n"
-              "12,2,live,6000,10,-20,30,0,0,0\n"
-              "12,3,dead,0,0.5,0,0,0,0,-250\n"
-              "12,3,dead,6000,0.5,0,0,0,0,250\n"
               "12,9,,0,100,0,0,0,0,0\n"
-              "12,9,,6000,100,0,0,0,0,0\n"
-              "13,1,dead,0,3,0,0,0,0,0\n"
-              "13,1,dead,4000,2,0,0,0,0,0\n");
-}
-
-TEST(ForcesCsv, Extremes)
-{
-    EXPECT_EQ(force_files()({"--csv", "--extremes", "--member", "11"}).out,
-              "component,unit,extreme,value,member,load_case,position_mm\n"
-              "F1,kN,largest,0,11,4,0\n"
-              "F1,kN,smallest,-7.5,11,1,4000\n"
-              "F2,kN,largest,0,11,1,0\n"
-              "F2,kN,smallest,0,11,1,0\n"
-              "F3,kN,largest,0,11,1,0\n"
-              "F3,kN,smallest,0,11,1,0\n"
-              "M1,kN*mm,largest,0,11,1,0\n"
-              "M1,kN*mm,smallest,0,11,1,0\n"
-              "M2,kN*mm,largest,0,11,1,0\n"
-              "M2,kN*mm,smallest,0,11,1,0\n"
-              "M3,kN*mm,largest,2000,11,4,0\n"
-              "M3,kN*mm,smallest,-2000,11,4,4000\n");
+              "12,9,,6000,100,0,0,0,0,0\n");
+    const std::string extremes = forces({"--csv", "--extremes", "--member", "11"}).out;
+    EXPECT_EQ(extremes.rfind("component,unit,extreme,value,member,load_case,position_mm\n"
+                             "F1,kN,largest,0,11,4,0\n"
+                             "F1,kN,smallest,-7.5,11,1,4000\n",
+                             0),
+              0U)
+        << extremes;
+    EXPECT_TRUE(has_line(extremes, "M3,kN*mm,smallest,-2000,11,4,4000")) << extremes;
+    EXPECT_EQ(std::count(extremes.begin(), extremes.end(), '\n'), 1 + 12);
 }
 
 TEST(ForcesCsv, ListsHaveRowsForTheKindsThereAre)
