@@ -14,30 +14,29 @@ namespace STAAD::detail {
 /// everything and writes nothing.
 class output_file {
 public:
-  /// A null path cannot be opened.
-  explicit output_file(const char *path);
-  /// `mode` as std::fopen has it.
-  explicit output_file(const std::filesystem::path &path,
-                       const char *mode = "w");
-  ~output_file();
-  output_file(const output_file &) = delete;
-  output_file &operator=(const output_file &) = delete;
+    /// A null path cannot be opened.
+    explicit output_file(const char* path);
+    /// `mode` as std::fopen has it.
+    explicit output_file(const std::filesystem::path& path, const char* mode = "w");
+    ~output_file();
+    output_file(const output_file&) = delete;
+    output_file& operator=(const output_file&) = delete;
 
-  bool is_open() const noexcept { return file_ != nullptr; }
-  void write(std::string_view text) noexcept;
-  /// Waits until what was written is on the disk: a rename may reach it before
-  /// the content does.
-  void flush_to_disk() noexcept;
-  /// Closes the file. No error if every byte was written, else the first that
-  /// was met.
-  std::error_code close() noexcept;
+    bool is_open() const noexcept { return file_ != nullptr; }
+    void write(std::string_view text) noexcept;
+    /// Waits until what was written is on the disk: a rename may reach it before
+    /// the content does.
+    void flush_to_disk() noexcept;
+    /// Closes the file. No error if every byte was written, else the first that
+    /// was met.
+    std::error_code close() noexcept;
 
 private:
-  void open(const std::filesystem::path &path, const char *mode);
-  void fail() noexcept;
+    void open(const std::filesystem::path& path, const char* mode);
+    void fail() noexcept;
 
-  std::FILE *file_ = nullptr;
-  std::error_code error_;
+    std::FILE* file_ = nullptr;
+    std::error_code error_;
 };
 
 } // namespace STAAD::detail

@@ -8,7 +8,7 @@
 #include <utility>
 
 #ifdef _WIN32
-#include "staad/io/windows_path.h"
+#    include "staad/io/windows_path.h"
 #endif
 
 namespace STAAD {
@@ -19,100 +19,101 @@ constexpr std::size_t progress_step = std::size_t{1} << 16U;
 
 /// Bytes from here to the end, 0 of what has no end to go to (a pipe, a
 /// device).
-std::size_t bytes_left(std::FILE *file) noexcept {
-  const long here = std::ftell(file);
-  if (here < 0 || std::fseek(file, 0, SEEK_END) != 0)
-    return 0;
-  const long end = std::ftell(file);
-  static_cast<void>(std::fseek(file, here, SEEK_SET));
-  return end > here ? static_cast<std::size_t>(end - here) : 0;
+std::size_t bytes_left(std::FILE* file) noexcept
+{
+    const long here = std::ftell(file);
+    if (here < 0 || std::fseek(file, 0, SEEK_END) != 0)
+        return 0;
+    const long end = std::ftell(file);
+    static_cast<void>(std::fseek(file, here, SEEK_SET));
+    return end > here ? static_cast<std::size_t>(end - here) : 0;
 }
 
 /// Room for bytes that grows without setting them to 0 first.
 class byte_buffer {
 public:
-  explicit byte_buffer(FileBytes &result, std::size_t capacity)
-      : result_(result), capacity_(capacity) {
-    result_.bytes.reset(new char[capacity]);
-  }
-  /// Reads at most `most` bytes; false at the end.
-  bool read(std::FILE *file, std::size_t most) {
-    if (result_.size == capacity_)
-      grow();
-    const std::size_t wanted = std::min(most, capacity_ - result_.size);
-    const std::size_t taken =
-        std::fread(result_.bytes.get() + result_.size, 1, wanted, file);
-    result_.size += taken;
-    return taken == wanted;
-  }
+    explicit byte_buffer(FileBytes& result, std::size_t capacity) : result_(result), capacity_(capacity)
+    {
+        result_.bytes.reset(new char[capacity]);
+    }
+    /// Reads at most `most` bytes; false at the end.
+    bool read(std::FILE* file, std::size_t most)
+    {
+        if (result_.size == capacity_)
+            grow();
+        const std::size_t wanted = std::min(most, capacity_ - result_.size);
+        const std::size_t taken = std::fread(result_.bytes.get() + result_.size, 1, wanted, file);
+        result_.size += taken;
+        return taken == wanted;
+    }
 
 private:
-  void grow() {
-    std::unique_ptr<char[]> larger(new char[capacity_ * 2]);
-    std::memcpy(larger.get(), result_.bytes.get(), result_.size);
-    result_.bytes = std::move(larger);
-    capacity_ *= 2;
-  }
+    void grow()
+    {
+        std::unique_ptr<char[]> larger(new char[capacity_ * 2]);
+        std::memcpy(larger.get(), result_.bytes.get(), result_.size);
+        result_.bytes = std::move(larger);
+        capacity_ *= 2;
+    }
 
-  FileBytes &result_;
-  std::size_t capacity_;
+    FileBytes& result_;
+    std::size_t capacity_;
 };
 
-std::error_code system_error_of(int number) {
-  return {number != 0 ? number : EIO, std::generic_category()};
+std::error_code system_error_of(int number)
+{
+    return {number != 0 ? number : EIO, std::generic_category()};
 }
 
-FileBytes nothing_for(int error) {
-  using Outcome = FileBytes::Outcome;
-  FileBytes result;
-  result.outcome = error == ENOENT   ? Outcome::missing
-                   : error == EISDIR ? Outcome::directory
-                                     : Outcome::refused;
-  result.error = system_error_of(error);
-  return result;
+FileBytes nothing_for(int error)
+{
+    using Outcome = FileBytes::Outcome;
+    FileBytes result;
+    result.outcome = error == ENOENT ? Outcome::missing : error == EISDIR ? Outcome::directory : Outcome::refused;
+    result.error = system_error_of(error);
+    return result;
 }
 
 } // namespace
 
-FileBytes read_stream(std::FILE *stream, const ReadProgress &progress) {
-  FileBytes result;
-  const std::size_t total = bytes_left(stream);
-  // One more than there is, so that the end is met in one read. The file may
-  // grow meanwhile.
-  byte_buffer buffer(result, total == 0 ? first_guess : total + 1);
-  const std::size_t step = progress ? progress_step : static_cast<std::size_t>(-1);
-  errno = 0;
-  while (buffer.read(stream, step)) {
-    if (progress)
-      progress(result.size, total == 0 ? total : std::max(total, result.size));
-  }
-  result.outcome = FileBytes::Outcome::read;
-  if (std::ferror(stream) != 0) {
-    result.outcome = errno == EISDIR ? FileBytes::Outcome::directory
-                                     : FileBytes::Outcome::unreadable;
-    result.error = system_error_of(errno);
-  }
-  return result;
+FileBytes read_stream(std::FILE* stream, const ReadProgress& progress)
+{
+    FileBytes result;
+    const std::size_t total = bytes_left(stream);
+    // One more than there is, so that the end is met in one read. The file may
+    // grow meanwhile.
+    byte_buffer buffer(result, total == 0 ? first_guess : total + 1);
+    const std::size_t step = progress ? progress_step : static_cast<std::size_t>(-1);
+    errno = 0;
+    while (buffer.read(stream, step)) {
+        if (progress)
+            progress(result.size, total == 0 ? total : std::max(total, result.size));
+    }
+    result.outcome = FileBytes::Outcome::read;
+    if (std::ferror(stream) != 0) {
+        result.outcome = errno == EISDIR ? FileBytes::Outcome::directory : FileBytes::Outcome::unreadable;
+        result.error = system_error_of(errno);
+    }
+    return result;
 }
 
-FileBytes detail::read_opened(const std::filesystem::path &path,
-                              const char *mode, const ReadProgress &progress) {
-  errno = 0;
-  const open_file file(open_stream(path, mode));
-  if (!file)
-    return nothing_for(errno);
-  static_cast<void>(
-      std::setvbuf(file.get(), nullptr, _IONBF,
-                   0)); // read in one piece, past the stream's own buffer
-  return read_stream(file.get(), progress);
+FileBytes detail::read_opened(const std::filesystem::path& path, const char* mode, const ReadProgress& progress)
+{
+    errno = 0;
+    const open_file file(open_stream(path, mode));
+    if (!file)
+        return nothing_for(errno);
+    static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF,
+                                   0)); // read in one piece, past the stream's own buffer
+    return read_stream(file.get(), progress);
 }
 
-FileBytes read_file(const std::filesystem::path &path,
-                    const ReadProgress &progress) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error))
-    return nothing_for(EISDIR); // elsewhere it might open and read as empty
-  return detail::read_opened(path, "rb", progress);
+FileBytes read_file(const std::filesystem::path& path, const ReadProgress& progress)
+{
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        return nothing_for(EISDIR); // elsewhere it might open and read as empty
+    return detail::read_opened(path, "rb", progress);
 }
 
 } // namespace STAAD

@@ -16,22 +16,21 @@ namespace STAAD {
 
 /// The bytes of a file, or why there are none.
 struct FileBytes {
-  enum class Outcome {
-    read,
-    missing,    ///< there is no such file
-    directory,  ///< it is a folder
-    refused,    ///< it may not be opened
-    unreadable, ///< it cannot be read to its end; what was read until then is
-                ///< there
-  };
+    enum class Outcome {
+        read,
+        missing,    ///< there is no such file
+        directory,  ///< it is a folder
+        refused,    ///< it may not be opened
+        unreadable, ///< it cannot be read to its end; what was read until then is
+                    ///< there
+    };
 
-  Outcome outcome = Outcome::missing;
-  std::error_code error; ///< of the system, unless the file was read
-  std::unique_ptr<char[]>
-      bytes; ///< as they are in the file; null if nothing was read
-  std::size_t size = 0;
+    Outcome outcome = Outcome::missing;
+    std::error_code error;         ///< of the system, unless the file was read
+    std::unique_ptr<char[]> bytes; ///< as they are in the file; null if nothing was read
+    std::size_t size = 0;
 
-  std::string_view text() const noexcept { return {bytes.get(), size}; }
+    std::string_view text() const noexcept { return {bytes.get(), size}; }
 };
 
 /// Is called after every 65,536 bytes: bytes read, and how many there are in
@@ -40,13 +39,11 @@ using ReadProgress = std::function<void(std::size_t done, std::size_t total)>;
 
 /// Reads the whole of `path`, which is opened for reading alone: a device or a
 /// pipe to its end. Throws: std::bad_alloc, and what `progress` throws.
-STAAD_API FileBytes read_file(const std::filesystem::path &path,
-                              const ReadProgress &progress = {});
+STAAD_API FileBytes read_file(const std::filesystem::path& path, const ReadProgress& progress = {});
 
 /// Reads what is left of `stream`, which stays open. In a shared library for
 /// Windows the stream must be one of the same C runtime.
-STAAD_API FileBytes read_stream(std::FILE *stream,
-                                const ReadProgress &progress = {});
+STAAD_API FileBytes read_stream(std::FILE* stream, const ReadProgress& progress = {});
 
 } // namespace STAAD
 

@@ -81,9 +81,10 @@ input_bytes read_input(const std::string& name, FindingCode wrong_kind)
     case STAAD::FileBytes::Outcome::directory:
         return failure(wrong_kind, "it is a folder, not a file");
     case STAAD::FileBytes::Outcome::refused:
-        return failure(FindingCode::file_access, "the file cannot be opened: " + file.error.message());
+        return failure(FindingCode::file_access, fmt::format("the file cannot be opened: {}", file.error.message()));
     case STAAD::FileBytes::Outcome::unreadable:
-        return failure(FindingCode::file_unreadable, "it cannot be read to its end: " + file.error.message());
+        return failure(FindingCode::file_unreadable,
+                       fmt::format("it cannot be read to its end: {}", file.error.message()));
     case STAAD::FileBytes::Outcome::read:
         break;
     }
