@@ -14,11 +14,11 @@
 namespace STAAD {
 namespace {
 
-constexpr std::size_t first_guess = std::size_t{1} << 16U;
+constexpr std::size_t first_block = std::size_t{1} << 16U;
 constexpr std::size_t progress_step = std::size_t{1} << 16U;
 
-/// Bytes from here to the end, 0 of what has no end to go to (a pipe, a
-/// device).
+/// Bytes from here to the end as the system states them, 0 of what has no end to go to (a pipe, a device). Not to be
+/// relied on: a folder states the largest number there is.
 std::size_t bytes_left(std::FILE* file) noexcept
 {
     const long here = std::ftell(file);
@@ -29,12 +29,13 @@ std::size_t bytes_left(std::FILE* file) noexcept
     return end > here ? static_cast<std::size_t>(end - here) : 0;
 }
 
-/// Room for bytes that grows without setting them to 0 first.
+/// Room for bytes that grows without setting them to 0 first: to `expected` at once when the first block has been read.
 class byte_buffer {
 public:
-    explicit byte_buffer(FileBytes& result, std::size_t capacity) : result_(result), capacity_(capacity)
+    explicit byte_buffer(FileBytes& result, std::size_t expected)
+        : result_(result), capacity_(std::min(first_block, expected)), expected_(expected)
     {
-        result_.bytes.reset(new char[capacity]);
+        result_.bytes.reset(new char[capacity_]);
     }
     /// Reads at most `most` bytes; false at the end.
     bool read(std::FILE* file, std::size_t most)
@@ -50,14 +51,16 @@ public:
 private:
     void grow()
     {
-        std::unique_ptr<char[]> larger(new char[capacity_ * 2]);
+        const std::size_t capacity = std::max(capacity_ * 2, expected_);
+        std::unique_ptr<char[]> larger(new char[capacity]);
         std::memcpy(larger.get(), result_.bytes.get(), result_.size);
         result_.bytes = std::move(larger);
-        capacity_ *= 2;
+        capacity_ = capacity;
     }
 
     FileBytes& result_;
     std::size_t capacity_;
+    std::size_t expected_;
 };
 
 std::error_code system_error_of(int number)
@@ -80,9 +83,8 @@ FileBytes read_stream(std::FILE* stream, const ReadProgress& progress)
 {
     FileBytes result;
     const std::size_t total = bytes_left(stream);
-    // One more than there is, so that the end is met in one read. The file may
-    // grow meanwhile.
-    byte_buffer buffer(result, total == 0 ? first_guess : total + 1);
+    // One more than there is, so that the end is met in one read. The file may grow meanwhile.
+    byte_buffer buffer(result, total == 0 ? first_block : total + 1);
     const std::size_t step = progress ? progress_step : static_cast<std::size_t>(-1);
     errno = 0;
     while (buffer.read(stream, step)) {

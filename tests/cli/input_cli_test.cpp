@@ -85,7 +85,7 @@ TEST(Inputs, Folders)
 #ifndef _WIN32 // has no streams from folders
     const tool_result input = forces.tool.from(folder, {"forces", forces.model, "-"});
     EXPECT_EQ(input.exit_code, 3);
-    EXPECT_EQ(input.err, "<stdin>: error file-unreadable: it cannot be read to its end: Is a directory\n");
+    EXPECT_EQ(input.err, "<stdin>: error not-a-listing: it is a folder, not a file\n");
 #endif
 }
 

@@ -82,14 +82,6 @@ TEST(Messages, InTheOrderOfTheLines)
 }
 
 #ifndef _WIN32
-TEST(Messages, StandardInputThatCannotBeRead)
-{
-    const tool_run tool;
-    const tool_result result = tool.from(tool.folder(), {"info", "-"});
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.err.rfind("<stdin>: error file-unreadable: ", 0), 0U) << result.err;
-}
-
 TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
 {
     const tool_run tool;
