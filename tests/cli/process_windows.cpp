@@ -32,9 +32,9 @@ std::wstring quoted(const std::wstring& word)
     return text.append(backslashes, L'\\') + L'"';
 }
 
-std::string with_last_error(const std::string& message)
+std::string with_error(const std::string& message, DWORD error)
 {
-    return message + ": error " + std::to_string(GetLastError());
+    return message + ": error " + std::to_string(error);
 }
 
 /// A handle that the program to be inherits.
@@ -46,7 +46,7 @@ public:
         handle_ = CreateFileW(wide(name).c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited, disposition,
                               FILE_ATTRIBUTE_NORMAL, nullptr);
         if (handle_ == INVALID_HANDLE_VALUE)
-            throw std::runtime_error(with_last_error("cannot open " + name));
+            throw std::runtime_error(with_error("cannot open " + name, GetLastError()));
     }
     ~stream() { CloseHandle(handle_); }
     stream(const stream&) = delete;
@@ -68,8 +68,8 @@ int exit_code_of(HANDLE process)
     return code >= first_exception ? -1 : static_cast<int>(code);
 }
 
-/// Under Wine a start was seen to fail that succeeds a moment later: it is tried a few times, and each failure is
-/// printed with its error.
+/// Of some thousand starts under Wine on a busy machine one fails with ERROR_INTERNAL_ERROR, the new process having
+/// ended before it began, and the next one succeeds: such a start is tried a few times, and each failure is printed.
 PROCESS_INFORMATION start(const std::string& name, std::wstring command, STARTUPINFOW& startup)
 {
     constexpr int most_tries = 5;
@@ -78,8 +78,9 @@ PROCESS_INFORMATION start(const std::string& name, std::wstring command, STARTUP
         PROCESS_INFORMATION process{};
         if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
             return process;
-        const std::string message = with_last_error("cannot start " + name);
-        if (tries == most_tries)
+        const DWORD error = GetLastError();
+        const std::string message = with_error("cannot start " + name, error);
+        if (error != ERROR_INTERNAL_ERROR || tries == most_tries)
             throw std::runtime_error(message);
         std::cerr << message << "; trying again\n";
         Sleep(pause);
