@@ -63,6 +63,17 @@ TEST(ReadStream, TakesWhatIsLeft)
     std::fclose(stream);
 }
 
+#ifndef _WIN32
+TEST(ReadStream, KnowsAFolderThatIsOpen)
+{
+    const project_folder folder("");
+    std::FILE* const stream = std::fopen(folder.path(".").c_str(), "rb");
+    ASSERT_NE(stream, nullptr);
+    EXPECT_EQ(read_stream(stream).outcome, Outcome::directory);
+    std::fclose(stream);
+}
+#endif
+
 TEST(WholeFile, ReplacesAFileOrLeavesItAlone)
 {
     const project_folder folder("");
