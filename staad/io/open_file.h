@@ -24,9 +24,8 @@ using open_file = std::unique_ptr<std::FILE, close_file>;
 /// Reads the whole of `path`, opened as `mode` has it.
 FileBytes read_opened(const std::filesystem::path& path, const char* mode, const ReadProgress& progress = {});
 
-/// Reads the whole of `path`, opened for reading and writing although nothing
-/// is written: a file that is missing or write-protected is refused, and so is
-/// a pipe. A null path is missing.
+/// Reads the whole of `path`, opened for reading and writing although nothing is written: a file that is
+/// missing or write-protected is refused, and so is a pipe. A null path is missing.
 FileBytes read_updatable_file(const char* path);
 
 /// Whether a file of that name is there and may be read; false for a null path.

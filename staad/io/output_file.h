@@ -9,9 +9,8 @@
 
 namespace STAAD::detail {
 
-/// A text file written from its beginning: what was in it is gone. Line feeds
-/// become the line ends of the platform. After the first failure it takes
-/// everything and writes nothing.
+/// A text file written from its beginning: what was in it is gone. Line feeds become the line ends of
+/// the platform. After the first failure it takes everything and writes nothing.
 class output_file {
 public:
     /// A null path cannot be opened.
@@ -24,11 +23,9 @@ public:
 
     bool is_open() const noexcept { return file_ != nullptr; }
     void write(std::string_view text) noexcept;
-    /// Waits until what was written is on the disk: a rename may reach it before
-    /// the content does.
+    /// Waits until what was written is on the disk: a rename may reach it before the content does.
     void flush_to_disk() noexcept;
-    /// Closes the file. No error if every byte was written, else the first that
-    /// was met.
+    /// Closes the file. No error if every byte was written, else the first that was met.
     std::error_code close() noexcept;
 
 private:

@@ -105,8 +105,7 @@ FileBytes detail::read_opened(const std::filesystem::path& path, const char* mod
     const open_file file(open_stream(path, mode));
     if (!file)
         return nothing_for(errno);
-    static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF,
-                                   0)); // read in one piece, past the stream's own buffer
+    static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0)); // read in one piece, past the stream's own buffer
     return read_stream(file.get(), progress);
 }
 

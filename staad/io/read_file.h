@@ -21,8 +21,7 @@ struct FileBytes {
         missing,    ///< there is no such file
         directory,  ///< it is a folder
         refused,    ///< it may not be opened
-        unreadable, ///< it cannot be read to its end; what was read until then is
-                    ///< there
+        unreadable, ///< it cannot be read to its end; what was read until then is there
     };
 
     Outcome outcome = Outcome::missing;
@@ -33,16 +32,16 @@ struct FileBytes {
     std::string_view text() const noexcept { return {bytes.get(), size}; }
 };
 
-/// Is called after every 65,536 bytes: bytes read, and how many there are in
-/// all, 0 if that is not known.
+/// Is called after every 65,536 bytes: bytes read, and how many there are in all, 0 if that is not
+/// known.
 using ReadProgress = std::function<void(std::size_t done, std::size_t total)>;
 
-/// Reads the whole of `path`, which is opened for reading alone: a device or a
-/// pipe to its end. Throws: std::bad_alloc, and what `progress` throws.
+/// Reads the whole of `path`, which is opened for reading alone: a device or a pipe to its end. Throws:
+/// std::bad_alloc, and what `progress` throws.
 STAAD_API FileBytes read_file(const std::filesystem::path& path, const ReadProgress& progress = {});
 
-/// Reads what is left of `stream`, which stays open. In a shared library for
-/// Windows the stream must be one of the same C runtime.
+/// Reads what is left of `stream`, which stays open. In a shared library for Windows the stream must be
+/// one of the same C runtime.
 STAAD_API FileBytes read_stream(std::FILE* stream, const ReadProgress& progress = {});
 
 } // namespace STAAD

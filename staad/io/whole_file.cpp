@@ -73,8 +73,7 @@ std::error_code write_directly(const fs::path& path, std::string_view text)
     return file.close();
 }
 
-/// `target` is no link. With `permissions` none, the new file gets those that
-/// any new file gets.
+/// `target` is no link. With `permissions` none, the new file gets those that any new file gets.
 std::error_code write_and_rename(const fs::path& target, fs::perms permissions, std::string_view text)
 {
     const fs::path temporary = random_path(target.parent_path());
@@ -117,8 +116,7 @@ struct write_target {
     fs::file_status file; ///< what stands there
     std::error_code error;
 
-    /// A file takes the place of another; into what is no file, a text is
-    /// written.
+    /// A file takes the place of another; into what is no file, a text is written.
     bool is_file() const { return file.type() == fs::file_type::regular || file.type() == fs::file_type::not_found; }
 };
 
@@ -158,8 +156,7 @@ std::error_code obstacle_in(const fs::path& folder)
     const bool is_there = folder.empty() || fs::is_directory(folder, error);
     return is_there ? std::error_code() : std::make_error_code(std::errc::no_such_file_or_directory);
 #else
-    return obstacle_at(folder / "."); // the current folder if it is empty, and no
-                                      // other file than a folder
+    return obstacle_at(folder / "."); // the current folder if it is empty, and no other file than a folder
 #endif
 }
 
