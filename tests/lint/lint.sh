@@ -5,7 +5,7 @@ set -euo pipefail
 sources() { # suffixes...
     local suffix patterns=()
     for suffix in "$@"; do patterns+=(-o -name "*.$suffix"); done
-    find staad tools tests benchmarks examples fuzz -type f \( "${patterns[@]:1}" \) | sort
+    find staad tools tests benchmarks examples fuzz scripts -type f \( "${patterns[@]:1}" \) | sort
 }
 
 clang_tidy() { # build folder, changes to the checks of .clang-tidy

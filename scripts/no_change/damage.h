@@ -1,6 +1,6 @@
 /// Texts with faults: lines and words that are gone, twice, in another place, or odd.
-#ifndef STAAD_TESTS_NO_CHANGE_DAMAGE_H
-#define STAAD_TESTS_NO_CHANGE_DAMAGE_H
+#ifndef STAAD_NO_CHANGE_DAMAGE_H
+#define STAAD_NO_CHANGE_DAMAGE_H
 
 #include "tests/support/random_text.h"
 

@@ -1,4 +1,4 @@
-#include "tests/no_change/damage.h"
+#include "no_change/damage.h"
 
 #include <algorithm>
 #include <cstddef>

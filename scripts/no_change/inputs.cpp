@@ -1,6 +1,6 @@
-#include "tests/no_change/inputs.h"
+#include "no_change/inputs.h"
 
-#include "tests/no_change/damage.h"
+#include "no_change/damage.h"
 #include "tests/support/chinese_texts.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/hostile_decks.h"

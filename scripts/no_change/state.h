@@ -1,7 +1,7 @@
 /// Everything that a host can see of the library's records, to the last bit: as a digest for each step, or line by
 /// line for people.
-#ifndef STAAD_TESTS_NO_CHANGE_STATE_H
-#define STAAD_TESTS_NO_CHANGE_STATE_H
+#ifndef STAAD_NO_CHANGE_STATE_H
+#define STAAD_NO_CHANGE_STATE_H
 
 #include "staad/model/sd_reader.h"
 #include "staad/project/layered_project.h"

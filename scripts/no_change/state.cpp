@@ -1,4 +1,4 @@
-#include "tests/no_change/state.h"
+#include "no_change/state.h"
 
 #include <bit>
 #include <cstdio>

@@ -4,12 +4,12 @@
 /// can see after each step; then, in a last line, how much that was. With COUNT 0 the state of seed FIRST itself.
 /// Linked with two versions of the library, it shows whether they differ. FOLDER takes the files that are written.
 
+#include "no_change/inputs.h"
+#include "no_change/state.h"
 #include "staad/model/sd_reader.h"
 #include "staad/platform/platform_services.h"
 #include "staad/project/layered_project.h"
 #include "staad/reader/read_report.h"
-#include "tests/no_change/inputs.h"
-#include "tests/no_change/state.h"
 #include "tests/support/random_pair.h"
 #include "tests/support/scripted_services.h"
 

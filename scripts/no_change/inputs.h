@@ -1,6 +1,6 @@
 /// Random texts, plain and damaged, and random values as a host may set them.
-#ifndef STAAD_TESTS_NO_CHANGE_INPUTS_H
-#define STAAD_TESTS_NO_CHANGE_INPUTS_H
+#ifndef STAAD_NO_CHANGE_INPUTS_H
+#define STAAD_NO_CHANGE_INPUTS_H
 
 #include "staad/model/sd_reader.h"
 #include "tests/support/random_text.h"
