@@ -7,10 +7,6 @@
 #include <cstring>
 #include <utility>
 
-#ifdef _WIN32
-#    include "staad/io/windows_path.h"
-#endif
-
 namespace STAAD {
 namespace {
 
