@@ -105,15 +105,14 @@ std::string add_number_list(const std::string& text, number_ranges& ranges)
     for (std::size_t i = 0; i < words.size(); ++i) {
         const std::optional<int> first = whole_number(words[i]);
         const bool is_range = is_to(i + 1);
-        const std::optional<int> last = !is_range              ? first
-                                        : i + 2 < words.size() ? whole_number(words[i + 2])
-                                                               : std::nullopt;
+        const std::size_t end = is_range ? i + 2 : i; // of the word that gives the last number
+        const std::optional<int> last = end < words.size() ? whole_number(words[end]) : std::nullopt;
         if (!first || !last)
             return fmt::format("'{}' is no list of numbers such as '1 5 TO 9'", text);
         if (*last < *first)
-            return fmt::format("'{} TO {}' has no numbers: the first is the larger one", words[i], words[i + 2]);
+            return fmt::format("'{} TO {}' has no numbers: the first is the larger one", words[i], words[end]);
         ranges.emplace_back(*first, *last);
-        i += is_range ? 2 : 0;
+        i = end;
     }
     return words.empty() ? "the list is empty" : std::string();
 }
