@@ -9,9 +9,11 @@
 #define STAADKIT_VERSION_PATCH 0
 
 /// The version as a text, "MAJOR.MINOR.PATCH".
-#define STAADKIT_VERSION STAADKIT_DETAIL_DOTTED(STAADKIT_VERSION_MAJOR, STAADKIT_VERSION_MINOR, STAADKIT_VERSION_PATCH)
-#define STAADKIT_DETAIL_DOTTED(major, minor, patch) STAADKIT_DETAIL_TEXT(major.minor.patch)
-#define STAADKIT_DETAIL_TEXT(text) #text
+#define STAADKIT_VERSION                                                                                               \
+    STAADKIT_DETAIL_TEXT(STAADKIT_VERSION_MAJOR)                                                                       \
+    "." STAADKIT_DETAIL_TEXT(STAADKIT_VERSION_MINOR) "." STAADKIT_DETAIL_TEXT(STAADKIT_VERSION_PATCH)
+#define STAADKIT_DETAIL_TEXT(number) STAADKIT_DETAIL_QUOTED(number)
+#define STAADKIT_DETAIL_QUOTED(number) #number
 
 namespace STAAD {
 

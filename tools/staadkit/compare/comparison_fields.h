@@ -51,6 +51,7 @@ void visit_numbers(const Numbers& taken, const std::vector<int>& lost, Visit& vi
 }
 
 struct taken_group {
+    explicit taken_group(const STAAD::TakenGroup& group) : taken(group) {}
     const STAAD::TakenGroup& taken;
 };
 
@@ -67,6 +68,7 @@ void each_field(const taken_group& item, Visit visit)
 
 /// Supports or releases.
 struct taken_list {
+    explicit taken_list(const STAAD::TakenList& list) : taken(list) {}
     const STAAD::TakenList& taken;
 };
 
