@@ -12,7 +12,7 @@ namespace STAAD {
 namespace {
 
 /// Load cases and the positions of their stations.
-using stations = std::map<int, std::vector<double>>;
+using case_positions = std::map<int, std::vector<double>>;
 
 BeamLoadCaseRecord record(int load_case, const std::vector<double>& positions)
 {
@@ -23,7 +23,7 @@ BeamLoadCaseRecord record(int load_case, const std::vector<double>& positions)
     return made;
 }
 
-BeamForceAndMOM forces(int beam, const stations& cases)
+BeamForceAndMOM forces(int beam, const case_positions& cases)
 {
     BeamForceAndMOM made;
     made.beam = beam;
@@ -32,9 +32,9 @@ BeamForceAndMOM forces(int beam, const stations& cases)
     return made;
 }
 
-stations stations_of(const BeamForceAndMOM& member)
+case_positions stations_of(const BeamForceAndMOM& member)
 {
-    stations found;
+    case_positions found;
     for (const auto& [load_case, kept] : member.records) {
         EXPECT_EQ(kept.load_case, load_case);
         for (const ForcePoint& point : kept.points) {
@@ -50,9 +50,9 @@ TEST(AddLoadCaseRecord, StoresANewOneAndAppendsToOneThatIsThere)
 {
     struct add_case {
         const char* why;
-        stations before;
+        case_positions before;
         BeamLoadCaseRecord added;
-        stations want;
+        case_positions want;
     };
     const add_case cases[] = {
         {"a new one, in the order given", {}, record(5, {2, 1}), {{5, {2, 1}}}},
@@ -88,7 +88,7 @@ TEST(AddLoadCaseRecord, DoublesARecordOfItsOwn)
     std::vector<double> want;
     for (int i = 0; i < 16; ++i)
         want.insert(want.end(), {1, 2, 3});
-    EXPECT_EQ(stations_of(member), (stations{{5, want}}));
+    EXPECT_EQ(stations_of(member), (case_positions{{5, want}}));
 }
 
 TEST(MergeForces, AddsTheRecordsOfTheSameMember)
@@ -97,7 +97,7 @@ TEST(MergeForces, AddsTheRecordsOfTheSameMember)
         const char* why;
         BeamForceAndMOM member;
         BeamForceAndMOM other;
-        stations want;
+        case_positions want;
     };
     const merge_case cases[] = {
         {"new cases are added, old ones appended to",
@@ -120,7 +120,7 @@ TEST(MergeForces, WithItselfDoublesEveryRecord)
 {
     BeamForceAndMOM member = forces(7, {{1, {1, 2}}, {2, {}}, {3, {3}}});
     member.merge(member);
-    EXPECT_EQ(stations_of(member), (stations{{1, {1, 2, 1, 2}}, {2, {}}, {3, {3, 3}}}));
+    EXPECT_EQ(stations_of(member), (case_positions{{1, {1, 2, 1, 2}}, {2, {}}, {3, {3, 3}}}));
 }
 
 TEST(MergeForces, GoesByTheNumberInTheRecord)
@@ -129,7 +129,7 @@ TEST(MergeForces, GoesByTheNumberInTheRecord)
     other.records[9] = record(4, {1}); // a host may store a record anywhere
     BeamForceAndMOM member;
     member.merge(other);
-    EXPECT_EQ(stations_of(member), (stations{{4, {1}}}));
+    EXPECT_EQ(stations_of(member), (case_positions{{4, {1}}}));
 }
 
 } // namespace
