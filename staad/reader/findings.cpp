@@ -97,7 +97,7 @@ bool is_list_word(std::string_view word) noexcept
 
 void report_no_effect(std::string_view what, const text_line& line, reading& context)
 {
-    context.findings.add(FindingCode::list_nobody, line.place, [&] {
+    context.findings.add(FindingCode::list_no_record, line.place, [&] {
         return quote(line.text) + ": the " + std::string(what) +
                " has no effect: no joint, member, element or surface of its list exists";
     });

@@ -21,7 +21,7 @@ constexpr const char* generated_comment = "*{";
 
 constexpr detail::line_place whole_text{0, 0};
 
-/// The unit words of a UNIT line, lower-cased and without hyphens: the three behind UNIT, as far as they
+/// The unit words of a UNIT line, lower-cased and without hyphens: the three after UNIT, as far as they
 /// are there.
 std::vector<std::string> unit_words(std::string_view line)
 {
@@ -60,7 +60,7 @@ void tell_units(const line_list& lines, std::size_t governing, reading& context)
     tell_later_units(lines, governing, context);
 }
 
-/// Why no line is a unit line, as far as the first one tells.
+/// Why no line is a unit line, as far as the first one shows.
 std::string why_no_unit(const line_list& lines)
 {
     const std::string_view first = lines.empty() ? std::string_view() : lines[0].text;
@@ -74,7 +74,7 @@ std::string why_no_unit(const line_list& lines)
 /// No model: why, and the nearest line that looks like the one that is missing.
 bool no_model(FindingCode code, std::string_view missing, std::string why, const line_list& lines, reading& context)
 {
-    if (!lines.empty() || context.findings.empty()) // a file that could not be read has been told of
+    if (!lines.empty() || context.findings.empty()) // a file that could not be read has its finding already
         context.findings.add(code, whole_text, [&] { return std::move(why); });
     detail::tell_near_keywords(lines, missing, context);
     return false;

@@ -33,7 +33,7 @@ enum class FindingCode : int {
     item_number,
     number_word,
     list_stopped,
-    list_nobody,
+    list_no_record,
     joint_unknown,
     member_unknown,
     element_unknown,

@@ -216,7 +216,7 @@ TEST(ForcesMessages, LongListings)
     const tool_result result = forces({"--extremes"});
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_TRUE(has_line(result.out, "stations: " + std::to_string(19999 * 12))) << result.out.substr(0, 200);
-    EXPECT_FALSE(contains(result.err, "reading")) << "progress where nobody watches: " << result.err;
+    EXPECT_FALSE(contains(result.err, "reading")) << "progress without a terminal: " << result.err;
 #ifndef _WIN32
     if (tool_has_address_sanitizer)
         GTEST_SKIP() << "the sanitizer takes more memory than the limit";

@@ -98,7 +98,7 @@ void add_long_lists(deck_list& decks)
         repeating("a chain of endless ranges of a section", "MEMBER PROPERTY\n1 ", "TO 2000000000 ", "TABLE ST A\n"));
     decks.push_back(repeating("words TO alone", "SUPPORTS\n", "TO ", "FIXED\n"));
     decks.push_back(repeating("one number again and again", "SUPPORTS\n", "1 ", "FIXED\n"));
-    decks.push_back(counting("numbers that are nobody's", "MEMBER PROPERTY\n", "", " ", "TABLE ST A\n"));
+    decks.push_back(counting("numbers that no record has", "MEMBER PROPERTY\n", "", " ", "TABLE ST A\n"));
     decks.push_back(counting("a line for every number", "SUPPORTS\n", "", " FIXED\n"));
     decks.push_back(counting("a description for every number", "SUPPORTS\n1 FIXED BUT KFX", "", "\n1 FIXED BUT KFX"));
 }

@@ -506,7 +506,7 @@ private:
     {
         const decimal angle = random_decimal(random_, -180, 180);
         if (random_.one_in(6)) {
-            out_.words({"BETA", spelled(angle), "ALL"}); // names nobody
+            out_.words({"BETA", spelled(angle), "ALL"}); // names no member
             return;
         }
         const id_list list = random_list(random_, member_ids_, list_kind::general);

@@ -89,7 +89,7 @@ void set_up_command_line(CLI::App& app, verb_action& action)
     app.require_subcommand(1);
     app.allow_windows_style_options(false); // "/" begins a path
     app.footer("Results go to standard output, messages to standard error.\n"
-               "staadkit help VERB tells more about a verb.\n\n" +
+               "staadkit help VERB says more about a verb.\n\n" +
                exit_code_help());
     app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.get_formatter()->label("Positionals", "Arguments");

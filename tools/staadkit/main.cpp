@@ -24,7 +24,7 @@
 namespace tool {
 namespace {
 
-/// What was wrong, the word that may have been meant, and whose help tells more: that of `command`.
+/// What was wrong, the word that may have been meant, and where to find help: with `command`.
 exit_code refuse(const CLI::App& command, const std::string& message, const std::string& nearest = {})
 {
     const std::string meant = nearest.empty() ? "" : fmt::format("; did you mean '{}'?", nearest);

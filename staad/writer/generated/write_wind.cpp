@@ -50,7 +50,7 @@ void write_shape_coefficients(detail::text_output& out, std::string_view label, 
              detail::fixed{faces[2], 2}, ' ', detail::fixed{faces[3], 2});
 }
 
-/// What the profiles were computed from, for whoever reads the file later.
+/// What the profiles were computed from, for later readers of the file.
 void write_parameters(detail::text_output& out, const WindLoadParam& wind)
 {
     namespace text = detail::wind_text;

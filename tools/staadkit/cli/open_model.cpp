@@ -19,7 +19,7 @@ void add_error(STAAD::ReadReport& report, FindingCode code, std::string text, st
 
 constexpr const char* binary = "binary, not text";
 
-/// Whether the text is a listing of forces: an engineer who gives the files in the wrong order is to be told so.
+/// Whether the text is a listing of forces: files given in the wrong order are reported as such.
 bool is_listing(std::string_view text)
 {
     STAAD::SdReader model;

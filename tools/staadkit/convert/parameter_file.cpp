@@ -162,7 +162,7 @@ private:
     static bool is_control(char c) noexcept { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }
 };
 
-/// Free for whoever fills the record in; it is not written.
+/// Free for the author of the file; it is not written.
 bool is_optional(std::string_view name)
 {
     return name == "title";

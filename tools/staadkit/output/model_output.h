@@ -20,7 +20,7 @@ std::string why_not_there(const std::string& path, const std::vector<std::string
 /// Tells why the file was not written.
 exit_code fail_to_write(const std::string& path, const std::string& reason);
 
-/// Writes `text` to the file at `path`, to standard output for "-"; tells so if it cannot. The result is
+/// Writes `text` to the file at `path`, to standard output for "-"; prints an error if it cannot. The result is
 /// `so_far`, or `not_written`.
 exit_code write_output(const std::string& path, std::string_view text, exit_code so_far);
 
