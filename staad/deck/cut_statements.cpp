@@ -1,0 +1,123 @@
+#include "staad/deck/command_match.h"
+#include "staad/deck/cut.h"
+
+#include <utility>
+
+namespace STAAD {
+namespace {
+
+/// Commands of one word that other blocks use for data of their own: these have them first.
+bool is_weak(Command command) noexcept
+{
+    return command == Command::constant || command == Command::material || command == Command::beta;
+}
+
+/// Commands after which words of no command are still parameters of the design.
+bool is_design(Command command) noexcept
+{
+    return command == Command::parameter || command == Command::code_check || command == Command::design;
+}
+
+bool keeps_design_open(Command command) noexcept
+{
+    return is_design(command) || command == Command::unit || command == Command::print ||
+           command == Command::load_list;
+}
+
+} // namespace
+
+/// Whether a line below `head` ends its block. Where none does, as in a cut-off deck, the block must not take the
+/// rest of it.
+bool DeckCutter::is_ended_by_line(const CommandInfo& info, std::size_t head) noexcept
+{
+    bool& without_end = without_end_[static_cast<std::size_t>(info.command)];
+    for (std::size_t row = head + 1; !without_end && row < deck_.row_count(); ++row)
+        if (deck_.rows_[row].kind == RowKind::data && begins_with(detail::row_words(deck_, row), info.data_words))
+            return true;
+    without_end = true;
+    return false;
+}
+
+void DeckCutter::begin_statement(std::size_t row, const CommandInfo& info)
+{
+    interrupted_ = info.command != Command::unit ? nullptr : open_->command != Command::unit ? open_ : interrupted_;
+    in_design_ = is_design(info.command) || (in_design_ && keeps_design_open(info.command));
+    deck_.rows_[row].kind = RowKind::head;
+    deck_.statements_.push_back({static_cast<std::uint32_t>(row), info.command});
+    open_ = &info;
+    data_ = info.data;
+    if (data_ == DataLines::until_end && !is_ended_by_line(info, row))
+        data_ = DataLines::until_command;
+}
+
+/// The block that a UNIT line stands in goes on after it: a statement without a head.
+void DeckCutter::resume_statement(std::size_t row)
+{
+    deck_.statements_.push_back({static_cast<std::uint32_t>(row), interrupted_->command});
+    open_ = interrupted_;
+    data_ = open_->data;
+}
+
+/// Whether a row is data of the open statement. Its own words come before commands that look like them.
+bool DeckCutter::is_data(const detail::row_words& words, const CommandInfo* command) const noexcept
+{
+    if (data_ == DataLines::until_command)
+        return command == nullptr || is_weak(command->command);
+    if (data_ != DataLines::items && data_ != DataLines::lists)
+        return false;
+    if (*open_->data_words != '\0' && detail::begins_with(words, open_->data_words))
+        return true;
+    if (command != nullptr)
+        return false;
+    const std::string_view first = words.peek();
+    const bool begins_with_digit = !first.empty() && first.front() >= '0' && first.front() <= '9';
+    return begins_with_digit || (data_ == DataLines::lists && detail::begins_a_list(words));
+}
+
+void DeckCutter::add_text_row(std::size_t row)
+{
+    const detail::row_words words(deck_, row);
+    if (data_ == DataLines::until_end) {
+        if (detail::begins_with(words, open_->data_words))
+            data_ = DataLines::none;
+        return;
+    }
+    const CommandInfo* command = detail::find_command(words);
+    if (is_data(words, command))
+        return;
+    if (command != nullptr) {
+        begin_statement(row, *command);
+        return;
+    }
+    if (open_->command == Command::unit && interrupted_ != nullptr) {
+        data_ = interrupted_->data;
+        std::swap(open_, interrupted_);
+        const bool goes_on = is_data(words, command);
+        std::swap(open_, interrupted_);
+        if (goes_on) {
+            resume_statement(row);
+            return;
+        }
+    }
+    begin_statement(row, command_info(in_design_ ? Command::parameter : Command::unknown));
+}
+
+void DeckCutter::cut_statements()
+{
+    const std::size_t rows = deck_.row_count();
+    deck_.statements_.push_back({0, Command::none});
+    for (std::size_t row = 0; row < rows; ++row) {
+        if (open_->command == Command::finish)
+            deck_.rows_[row].kind = RowKind::after_end;
+        else if (deck_.rows_[row].kind == RowKind::data)
+            add_text_row(row);
+    }
+    // Without anything before the first command there is no first statement without a head.
+    if (deck_.statements_.size() > 1 && deck_.statements_[1].first_row == 0)
+        deck_.statements_.erase(deck_.statements_.begin());
+    if (rows == 0)
+        deck_.statements_.clear();
+    deck_.statements_.push_back({static_cast<std::uint32_t>(rows), Command::none});
+}
+
+} // namespace STAAD
