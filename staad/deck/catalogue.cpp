@@ -16,8 +16,9 @@ constexpr bool host = true;
 constexpr bool not_host = false;
 
 // The words that begin a line in the definition of seismic loads. The lists in it are weights, no loads.
-constexpr const char* seismic_words = "ZONE|SELF|JOIN WEIG|MEMB WEIG|ELEM WEIG|FLOO WEIG|ONEW|REFE LOAD|R#|PX|PY|PZ|CS|SS|S1|"
-                                      "RF|I|R|ACCI|SA|DM|ST|CT|PART|RESU|SITE|K|NA|NV|TL|FA|FV|RX|RZ";
+constexpr const char* seismic_words =
+    "ZONE|SELF|JOIN WEIG|MEMB WEIG|ELEM WEIG|FLOO WEIG|ONEW|REFE LOAD|R#|PX|PY|PZ|CS|SS|S1|"
+    "RF|I|R|ACCI|SA|DM|ST|CT|PART|RESU|SITE|K|NA|NV|TL|FA|FV|RX|RZ";
 
 // Of several rows that fit a line the first counts: longer forms stand before shorter ones.
 constexpr CommandInfo table[] = {
@@ -125,7 +126,8 @@ constexpr CommandInfo table[] = {
     {C::load_envelope, "LOAD ENVELOPE", "LOAD ENVE", D::none, "", anywhere, R::as_text, not_host,
      "Cases of which the extremes are wanted."},
     {C::load_case, "LOADING", "LOAD", D::none, "", anywhere, R::into_model, host, "Number, type and title of a case."},
-    {C::self_weight, "SELFWEIGHT", "SELF", D::none, "", in_case, R::into_model, host, "Weight of members and elements."},
+    {C::self_weight, "SELFWEIGHT", "SELF", D::none, "", in_case, R::into_model, host,
+     "Weight of members and elements."},
     {C::joint_load, "JOINT LOAD", "JOIN LOAD", D::lists, "", in_case, R::into_model, host,
      "Forces and moments on joints."},
     {C::member_load, "MEMBER LOAD", "MEMB LOAD", D::lists, "", in_case, R::into_model, host, "Loads on members."},
@@ -160,7 +162,8 @@ constexpr CommandInfo table[] = {
     {C::dynamics, "MODAL CALCULATION", "MODA", D::none, "", in_case, R::as_text, not_host, "Modes of the case."},
     {C::dynamics, "CALCULATE", "CALC", D::none, "", in_case, R::noted, not_host, "Frequency of the case."},
     {C::member_other, "MEMBER", "MEMB @", D::lists, "", anywhere, R::as_text, not_host, "Something else of members."},
-    {C::element_other, "ELEMENT", "ELEM @", D::lists, "", anywhere, R::as_text, not_host, "Something else of elements."},
+    {C::element_other, "ELEMENT", "ELEM @", D::lists, "", anywhere, R::as_text, not_host,
+     "Something else of elements."},
 
     {C::perform, "PERFORM ANALYSIS", "PERF", D::none, "", anywhere, R::as_text, not_host, "Runs the analysis."},
     {C::perform, "PDELTA ANALYSIS", "PDEL", D::none, "", anywhere, R::as_text, not_host, "Runs the analysis."},
@@ -172,8 +175,8 @@ constexpr CommandInfo table[] = {
     {C::draw, "PLOT", "PLOT", D::none, "", anywhere, R::noted, not_host, "What the analysis draws."},
     {C::parameter, "PARAMETER", "PARA", D::until_command, "", anywhere, R::as_text, not_host,
      "Parameters of the design of members."},
-    {C::concrete_design, "START CONCRETE DESIGN", "STAR CONC", D::until_end, "END CONC", anywhere, R::as_text,
-     not_host, "Design of concrete."},
+    {C::concrete_design, "START CONCRETE DESIGN", "STAR CONC", D::until_end, "END CONC", anywhere, R::as_text, not_host,
+     "Design of concrete."},
     {C::design, "START", "STAR", D::until_command, "", anywhere, R::as_text, not_host, "A block of design."},
     {C::design, "DESIGN", "DESI", D::none, "", anywhere, R::as_text, not_host, "Design of members and elements."},
     {C::design, "CONCRETE TAKE", "CONC TAKE", D::none, "", anywhere, R::as_text, not_host, "Quantities."},

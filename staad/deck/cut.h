@@ -48,7 +48,7 @@ private:
     const CommandInfo* open_ = &command_info(Command::none);
     const CommandInfo* interrupted_ = nullptr; // by the UNIT line that is open: its data may go on after it
     bool in_design_ = false;                   // words that are no commands are parameters of the design
-    DataLines data_ = DataLines::none; // of the open statement
+    DataLines data_ = DataLines::none;         // of the open statement
     /// By command: no line after the one looked at last ends a block of it. A search that failed is not made again.
     std::array<bool, number_of_commands> without_end_{};
 };

@@ -48,10 +48,14 @@ RowKind DeckCutter::kind_of_line(std::size_t line) const noexcept
     if (line == 1)
         text = detail::without_mark(text);
     switch (first_character(text)) {
-    case '\0': return RowKind::blank;
-    case '*': return RowKind::comment;
-    case '<': return begins_generated(text) ? RowKind::generated : RowKind::data;
-    default: return RowKind::data;
+    case '\0':
+        return RowKind::blank;
+    case '*':
+        return RowKind::comment;
+    case '<':
+        return begins_generated(text) ? RowKind::generated : RowKind::data;
+    default:
+        return RowKind::data;
     }
 }
 

@@ -20,8 +20,7 @@ bool is_design(Command command) noexcept
 
 bool keeps_design_open(Command command) noexcept
 {
-    return is_design(command) || command == Command::unit || command == Command::print ||
-           command == Command::load_list;
+    return is_design(command) || command == Command::unit || command == Command::print || command == Command::load_list;
 }
 
 } // namespace

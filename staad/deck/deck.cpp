@@ -7,9 +7,7 @@
 
 namespace STAAD {
 
-Deck::Deck() : Deck(std::string())
-{
-}
+Deck::Deck() : Deck(std::string()) {}
 
 Deck::Deck(std::string text) : text_(std::move(text))
 {

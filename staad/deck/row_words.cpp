@@ -102,8 +102,8 @@ std::string_view row_words::take_word() noexcept
 {
     const char* begin = at_;
     if (*at_ == '\'' || *at_ == '"') {
-        const auto* close = static_cast<const char*>(
-            std::memchr(at_ + 1, *at_, static_cast<std::size_t>(end_ - at_ - 1)));
+        const auto* close =
+            static_cast<const char*>(std::memchr(at_ + 1, *at_, static_cast<std::size_t>(end_ - at_ - 1)));
         if (close != nullptr)
             at_ = close + 1;
     }

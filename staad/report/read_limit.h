@@ -20,6 +20,9 @@ inline constexpr std::size_t longest_plain_text = 256;
 /// Most bytes of long texts that one reading gives to members, elements and load definitions together.
 inline constexpr std::size_t most_text_per_reading = 268'435'456;
 
+/// Most joints, members and elements that generation and REPEAT lines of one deck may make.
+inline constexpr std::size_t most_generated_per_reading = 4'194'304;
+
 /// A list such as "1 TO 2000000000" asks for more numbers than a reading holds, or a long text goes to more
 /// records than can have it. Thrown before the memory is taken; the object being read into can be read into again.
 class STAAD_API ReadLimitError : public std::bad_alloc {

@@ -1,0 +1,152 @@
+#include "staad/structure/blocks/blocks.h"
+
+#include "staad/structure/blocks/generation.h"
+#include "staad/structure/values.h"
+
+#include <array>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+namespace STAAD::detail {
+namespace {
+
+/// A MEMBER INCIDENCES block. Until all are there members hold numbers of joints, then positions.
+class member_block {
+public:
+    member_block(structure_reading& context, numbered_records<Structure::Member>& members, std::size_t statement)
+        : context_(context), members_(members)
+    {
+        context.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
+    }
+
+private:
+    void read_row(row_words& words, std::size_t row)
+    {
+        if (is_word(words.peek(), "REPE")) {
+            repeat(words, row);
+            return;
+        }
+        line_.clear();
+        do
+            read_item(words, row);
+        while (words.next_item());
+    }
+
+    void read_item(row_words& words, std::size_t row)
+    {
+        number_words numbers(words);
+        std::array<int, 6> values{};
+        std::size_t count = 0;
+        while (count < values.size()) {
+            const std::optional<int> value = numbers.next_whole();
+            if (!value)
+                break;
+            values[count++] = *value;
+        }
+        if (count < 3 || values[0] < 1 || !words.peek().empty()) {
+            context_.report_unread(row, "no member");
+            return;
+        }
+        add(values[0], values[1], values[2], row);
+        if (count > 3)
+            add_generated(values, count, row);
+    }
+
+    /// "n i j n2 [dn] [dj]", or the six numbers of two members between which a ";" is forgotten.
+    void add_generated(const std::array<int, 6>& values, std::size_t count, std::size_t row)
+    {
+        const int step = count > 4 ? values[4] : 1;
+        const int joint_step = count > 5 ? values[5] : 1;
+        const bool yields = values[3] > values[0] && step > 0 && values[3] - values[0] >= step;
+        if (count == 6 && values[3] > 0 && knows(values[4]) && knows(values[5]) &&
+            (!yields || !knows_generated(values, step, joint_step))) {
+            context_.report(FindingCode::two_items, row,
+                            [&] { return "read as two members: " + quote(context_.deck.row_text(row)); });
+            add(values[3], values[4], values[5], row);
+            return;
+        }
+        if (!yields) {
+            context_.report_unread(row, "a line of members that stands for no other");
+            return;
+        }
+        const int copies = (values[3] - values[0]) / step;
+        context_.take_generated(static_cast<std::size_t>(copies), row);
+        for (int copy = 1; copy <= copies; ++copy)
+            add_stepped({values[0], values[1], values[2]}, step, joint_step, copy, row);
+    }
+
+    bool knows(int joint) const noexcept { return context_.joints.position(joint) >= 0; }
+
+    /// Whether the joints of all members that the line would make are there.
+    bool knows_generated(const std::array<int, 6>& values, int step, int joint_step) const noexcept
+    {
+        for (int copy = 1; copy <= (values[3] - values[0]) / step; ++copy) {
+            const std::optional<int> start = stepped(values[1], joint_step, copy);
+            const std::optional<int> end = stepped(values[2], joint_step, copy);
+            if (!start || !end || !knows(*start) || !knows(*end))
+                return false;
+        }
+        return true;
+    }
+
+    void add_stepped(const std::array<int, 3>& from, int step, int joint_step, int copy, std::size_t row)
+    {
+        const std::optional<int> number = stepped(from[0], step, copy);
+        const std::optional<int> start = stepped(from[1], joint_step, copy);
+        const std::optional<int> end = stepped(from[2], joint_step, copy);
+        if (number && start && end)
+            add(*number, *start, *end, row);
+        else
+            context_.report_unread(row, "a copy with numbers that no member can have");
+    }
+
+    void add(int number, int start, int end, std::size_t row)
+    {
+        Structure::Member member;
+        member.number = number;
+        member.start = start;
+        member.end = end;
+        member.source = context_.source_of(row);
+        members_.add(std::move(member), row);
+        line_.push_back({number, start, end});
+        all_.push_back({number, start, end});
+    }
+
+    void repeat(row_words& words, std::size_t row)
+    {
+        const std::optional<repeat_line> repeat = read_repeat(context_, words, row);
+        if (!repeat)
+            return;
+        const std::optional<steps> by = steps_of(*repeat);
+        if (!by) {
+            context_.report_unread(row, "no steps of member and joint numbers");
+            return;
+        }
+        const std::vector<std::array<int, 3>> copied = repeat->is_all ? all_ : line_;
+        context_.take_generated(copied.size() * static_cast<std::size_t>(repeat->times), row);
+        for (int copy = 1; copy <= repeat->times; ++copy)
+            for (const std::array<int, 3>& each : copied)
+                add_stepped(each, by->number, by->joint, copy, row);
+        if (!repeat->is_all)
+            line_ = copied;
+    }
+
+    structure_reading& context_;
+    numbered_records<Structure::Member>& members_;
+    std::vector<std::array<int, 3>> line_; // number and joint numbers of the members of the line before
+    std::vector<std::array<int, 3>> all_;  // of the block
+};
+
+} // namespace
+
+void read_members(structure_reading& context)
+{
+    numbered_records<Structure::Member> members(context, "member");
+    for (const std::size_t statement : context.statements_of(Command::member_incidences))
+        member_block(context, members, statement);
+    context.structure.members = members.take();
+    context.members = record_lookup(context.structure.members);
+}
+
+} // namespace STAAD::detail

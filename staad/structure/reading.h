@@ -1,0 +1,142 @@
+/// What lives during a complete reading, handed to each block.
+#ifndef STAAD_STRUCTURE_READING_H
+#define STAAD_STRUCTURE_READING_H
+
+#include "staad/deck/deck.h"
+#include "staad/deck/row_words.h"
+#include "staad/report/finding_sink.h"
+#include "staad/report/id_budget.h"
+#include "staad/structure/record_lookup.h"
+#include "staad/structure/structure.h"
+#include "staad/units/exact_units.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace STAAD::detail {
+
+/// A case that loads go to, as a place in the deck has it.
+struct open_case {
+    enum class kind { none, load_case, reference_case } kind = kind::none;
+    std::size_t index = 0; ///< into the list of its kind
+};
+
+/// Positions of joints, members and elements along one axis of the model, so that ranges find theirs.
+struct sorted_places {
+    std::vector<double> places; ///< mm, ascending
+    std::vector<int> positions;
+};
+
+/// The physical lines of a source.
+inline line_place place_of(const Structure& structure, Structure::Source source) noexcept
+{
+    const FileLines lines = origin(structure, source);
+    return {static_cast<std::uint32_t>(lines.first), static_cast<std::uint32_t>(lines.last)};
+}
+
+/// The deck that is read, the structure that it gives, and what the blocks need to find their way in both.
+struct structure_reading {
+    structure_reading(const Deck& read, Structure& made, ReadReport& report);
+
+    const Deck& deck;
+    Structure& structure;
+    finding_sink findings;
+    id_budget budget;
+
+    /// Statements of a command in the order of the text.
+    const std::vector<std::size_t>& statements_of(Command command) const noexcept
+    {
+        return statements_[static_cast<std::size_t>(command)];
+    }
+    /// The units in force at a statement. Numbers before the first UNIT line are in those of that line.
+    const exact_units& units_at(std::size_t statement) const noexcept;
+    bool has_units() const noexcept { return !unit_changes_.empty(); }
+
+    /// The case that a statement belongs to; filled by read_load_cases().
+    const open_case& case_at(std::size_t statement) const noexcept;
+    void begin_case(std::size_t statement, open_case opened);
+
+    /// The source that stands for a row.
+    Structure::Source source_of(std::size_t row);
+    line_place place_of(std::size_t row) const noexcept;
+
+    /// Calls `visit(row_words&, row)` for every row of data of a statement.
+    template<class Visit>
+    void each_data_row(std::size_t statement, Visit visit)
+    {
+        const DeckStatement cut = deck.statement(statement);
+        for (std::size_t row = cut.first_row; row < cut.past_row; ++row)
+            if (deck.row(row).kind == RowKind::data) {
+                row_words words(deck, row);
+                visit(words, row);
+            }
+    }
+    /// The same for all statements of a command.
+    template<class Visit>
+    void each_data_row(Command command, Visit visit)
+    {
+        for (const std::size_t statement : statements_of(command))
+            each_data_row(statement, visit);
+    }
+
+    /// `file` in the frame of the model. Head::up must be known.
+    Vector3 in_model_frame(double x, double y, double z) const noexcept
+    {
+        return structure.head.up == Structure::UpAxis::z ? Vector3{x, y, z} : Vector3{z, x, y};
+    }
+    /// The model's axis, 0 to 2, that is the file's axis 0 to 2 (X, Y, Z).
+    std::size_t model_axis(std::size_t file_axis) const noexcept
+    {
+        return structure.head.up == Structure::UpAxis::z ? file_axis : (file_axis + 1) % 3;
+    }
+
+    /// A line makes so many records without writing them out. Throws ReadLimitError before there are more of these
+    /// than a reading makes.
+    void take_generated(std::size_t count, std::size_t row);
+
+    /// A row, or a part of it, says nothing that the reading understands.
+    void report_unread(std::size_t row, std::string_view what);
+    template<class Compose>
+    void report(FindingCode code, std::size_t row, Compose compose)
+    {
+        findings.add(code, place_of(row), compose);
+    }
+
+    // Look-ups, each made once its records are there; see read_structure().
+    record_lookup joints;
+    record_lookup members;
+    record_lookup elements;
+    record_lookup solids;
+    record_lookup surfaces;
+    /// By name in upper case, positions in Structure::groups.
+    std::unordered_map<std::string, std::vector<int>> groups;
+    /// By kind of record (joints, members, elements) and axis, made when a range first asks.
+    std::array<std::array<sorted_places, 3>, 3> places;
+
+private:
+    void sort_statements();
+    void follow_units();
+    void follow_unit_line(std::size_t statement);
+
+    struct unit_change {
+        std::size_t statement;
+        exact_units units;
+    };
+    struct case_change {
+        std::size_t statement;
+        open_case opened;
+    };
+    std::array<std::vector<std::size_t>, number_of_commands> statements_;
+    std::vector<unit_change> unit_changes_;
+    std::vector<case_change> case_changes_;
+    std::size_t row_of_last_source_ = 0; // + 1
+    std::size_t generated_ = 0;
+};
+
+} // namespace STAAD::detail
+
+#endif
