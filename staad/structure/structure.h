@@ -168,9 +168,9 @@ struct Structure {
         std::array<bool, 6> held{};
         std::array<double, 6> springs{}; ///< kN/mm and kN*mm/degree, 0: none; never of a direction that is held
         bool enforced = false;           ///< ENFORCED: held for given displacements
-        /// INCLINED, ELASTIC MAT, GENERATE, MULTILINEAR: what follows the list, as written, and nothing above
-        /// except that the joint is supported; empty else.
-        std::string kept;
+        /// INCLINED, ELASTIC MAT, GENERATE, MULTILINEAR: only `text` says what holds the joint.
+        bool is_kept = false;
+        std::string text; ///< what follows the list, as written, single blanks: "FIXED BUT MZ KFY 100"
         Source source = 0;
     };
 
@@ -190,6 +190,7 @@ struct Structure {
         std::array<bool, 6> released{};
         std::array<double, 3> partial{}; ///< factor of moments, 0 to 1: the part that is released; 0: none
         std::array<double, 6> springs{}; ///< kN/mm and kN*mm/degree; 0: none
+        std::string text;                ///< what follows the list, as written, single blanks: "START MY MZ"
     };
 
     /// Factors of stiffness of a cracked member. 1: as it is.
@@ -289,7 +290,8 @@ struct Structure {
         std::optional<Box> box;         ///< of floor, one_way
         int group = -1;                 ///< of floor, one_way: position in `groups`
         std::vector<CaseFactor> sum;
-        std::string text; ///< of `kept`: the statement
+        /// Of `kept` the statement; of others what follows the list, as written, single blanks: "UNI GY -5".
+        std::string text;
         Source source = 0;
     };
 

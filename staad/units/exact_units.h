@@ -21,12 +21,16 @@ struct exact_units {
     std::string length_word; ///< as written; empty: no line has said it yet
     std::string force_word;
 
-    double area() const noexcept { return length * length; }
-    double inertia() const noexcept { return area() * area(); }
-    double moment() const noexcept { return force * length; }
-    double force_per_length() const noexcept { return force / length; }
-    double force_per_area() const noexcept { return force / area(); }
-    double force_per_volume() const noexcept { return force / (area() * length); }
+    // Values of the deck in the units of the model. Divided and multiplied one after the other: a factor made
+    // beforehand would be one rounding more.
+    double length_of(double value) const noexcept { return value * length; }                        ///< mm
+    double area_of(double value) const noexcept { return value * length * length; }                 ///< mm2
+    double inertia_of(double value) const noexcept { return area_of(area_of(value)); }              ///< mm4
+    double force_of(double value) const noexcept { return value * force; }                          ///< kN
+    double moment_of(double value) const noexcept { return value * force * length; }                ///< kN*mm
+    double force_per_length_of(double value) const noexcept { return value * force / length; }      ///< kN/mm
+    double pressure_of(double value) const noexcept { return value * force / length / length; }     ///< kN/mm2
+    double force_per_volume_of(double value) const noexcept { return pressure_of(value) / length; } ///< kN/mm3
 };
 
 } // namespace STAAD::detail
