@@ -71,8 +71,7 @@ struct Structure {
         Source material_source = 0;
         Source beta_source = 0;
         Source behaviour_source = 0;
-        Source offset_source = 0;  ///< of the offset given last
-        Source release_source = 0; ///< of the release given last
+        Source offset_source = 0; ///< of the offset given last
         Source cracked_source = 0;
     };
 
@@ -185,12 +184,15 @@ struct Structure {
         Source source = 0;
     };
 
-    /// What the end of a member does not hand on, along and about the member's x, y, z. Distinct ones, shared.
+    /// What the end of a member does not hand on, along and about the member's x, y, z.
     struct Release {
+        int member = -1; ///< position in `members`
+        bool is_end = false;
         std::array<bool, 6> released{};
         std::array<double, 3> partial{}; ///< factor of moments, 0 to 1: the part that is released; 0: none
         std::array<double, 6> springs{}; ///< kN/mm and kN*mm/degree; 0: none
         std::string text;                ///< what follows the list, as written, single blanks: "START MY MZ"
+        Source source = 0;
     };
 
     /// Factors of stiffness of a cracked member. 1: as it is.
@@ -328,9 +330,9 @@ struct Structure {
     std::vector<Surface> surfaces;
     std::vector<Section> sections;
     std::vector<Material> materials;
-    std::vector<Support> supports; ///< by position of their joints
+    std::vector<Support> supports; ///< one a joint, in the order of the text
     std::vector<Mat> mats;
-    std::vector<Release> releases;
+    std::vector<Release> releases; ///< one a member end, in the order of the text
     std::vector<Cracked> cracked;
     std::vector<Group> groups;
     std::vector<UserTable> user_tables;
