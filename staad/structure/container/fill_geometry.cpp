@@ -115,8 +115,8 @@ void fill_surfaces(container_filling& context)
         SdShell copy(filled);
         for (const int corner : surface.corners) {
             copy.node_ids.push_back(corner + 1);
-            filled.node_ids.push_back(
-                corner < 0 ? 0 : context.structure.joints[static_cast<std::size_t>(corner)].number);
+            filled.node_ids.push_back(corner < 0 ? 0
+                                                 : context.structure.joints[static_cast<std::size_t>(corner)].number);
         }
         copy.material = material_name(context, surface.material, surface_material);
         model.shells.push_back(std::move(copy));

@@ -29,8 +29,10 @@ std::optional<std::size_t> degree_of_spring(std::string_view word) noexcept
 std::string spring_text(double value, std::size_t degree, std::string_view written)
 {
     const exact_units units = container_units();
-    return degree < 3 ? number_text(value, [&](double v) { return units.force_per_length_of(v); }, written)
-                      : number_text(value, [&](double v) { return units.moment_of(v); }, written);
+    return degree < 3 ? number_text(
+                            value, [&](double v) { return units.force_per_length_of(v); }, written)
+                      : number_text(
+                            value, [&](double v) { return units.moment_of(v); }, written);
 }
 
 /// A description with its springs in kN/m and kN*m; `spring(degree)` has them by the letters of the file.
@@ -87,6 +89,23 @@ std::string text_of(const container_filling& context, const Structure::Support& 
     return description(support.text, [&](std::size_t degree) { return support.springs[model_degrees[degree]]; });
 }
 
+/// The words of a release in a deck with Z up with the letters of the container, whose upright local axis is Y in
+/// texts: "MY KFZ 100" is "MZ KFY 100".
+std::string with_upright_y(std::string_view text)
+{
+    std::string turned;
+    word_cursor words(text);
+    for (std::string_view word; words.next(word);) {
+        std::string each(word);
+        char& last = each.back();
+        const bool has_letter = parse_real(word).size == 0 && each.size() <= 3;
+        if (has_letter && (to_upper_ascii(last) == 'Y' || to_upper_ascii(last) == 'Z'))
+            last = static_cast<char>(last ^ 'Y' ^ 'Z');
+        append_word(turned, each);
+    }
+    return turned;
+}
+
 std::string text_of(const Structure::Release& release)
 {
     if (!release.text.empty())
@@ -97,8 +116,8 @@ std::string text_of(const Structure::Release& release)
             append_word(text, axes[degree]);
     for (std::size_t axis = 0; axis < 3; ++axis)
         if (release.partial[axis] != 0.0)
-            append_word(text, std::string("MP") + static_cast<char>('X' + axis) + ' ' +
-                                  shortest_text(release.partial[axis]));
+            append_word(text,
+                        std::string("MP") + static_cast<char>('X' + axis) + ' ' + shortest_text(release.partial[axis]));
     for (std::size_t degree = 0; degree < 6; ++degree)
         if (release.springs[degree] != 0.0)
             append_word(text, std::string("K") + axes[degree] + ' ' + spring_text(release.springs[degree], degree, {}));
@@ -114,8 +133,8 @@ void fill_supports(container_filling& context)
         context.model.supports[text_of(context, support)].push_back(static_cast<unsigned>(joint.number));
         if (support.is_kept)
             context.report_changed(support.source, [&] {
-                return "support of joint " + std::to_string(joint.number) + " is held as it is written: " +
-                       quote(support.text);
+                return "support of joint " + std::to_string(joint.number) +
+                       " is held as it is written: " + quote(support.text);
             });
     }
     for (const Structure::Mat& mat : context.structure.mats)
@@ -124,6 +143,7 @@ void fill_supports(container_filling& context)
 
 void fill_releases(container_filling& context)
 {
+    const bool is_z_up = context.structure.head.up == Structure::UpAxis::z;
     const Structure::Release* before = nullptr;
     for (const Structure::Release& release : context.structure.releases) {
         const int number = context.structure.members[static_cast<std::size_t>(release.member)].number;
@@ -131,7 +151,8 @@ void fill_releases(container_filling& context)
         const bool is_same = before != nullptr && before->member == release.member && before->text == release.text &&
                              before->source == release.source && !release.text.empty();
         if (!is_same)
-            context.model.releases[text_of(release)].push_back(static_cast<unsigned>(number));
+            context.model.releases[is_z_up ? with_upright_y(text_of(release)) : text_of(release)].push_back(
+                static_cast<unsigned>(number));
         before = &release;
     }
 }
