@@ -237,16 +237,6 @@ TEST(Compare, NoModelInOneOfThem)
     EXPECT_FALSE(report.contains("differ"));
 }
 
-TEST(Compare, AFullDiskIsReported)
-{
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "no /dev/full here";
-    const tool_run tool;
-    const std::string path = tool.write("a.std", frame_deck());
-    for (const char* form : {"--notes", "--json"})
-        EXPECT_EQ(tool.into("/dev/full", {"compare", form, path, path}).exit_code, 4) << form;
-}
-
 TEST(Compare, TheBundledFrameAndItsNormalisedForm)
 {
     const tool_run tool;

@@ -362,15 +362,5 @@ TEST(Storeys, APlaceWithoutEndIsNoCrash)
     EXPECT_EQ(tool({"compare", path, path}).exit_code, 0);
 }
 
-TEST(Storeys, AFullDiskIsReported)
-{
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "no /dev/full here";
-    const tool_run tool;
-    const std::string path = tool.write("in.std", storeys_deck());
-    for (const char* form : {"--notes", "--json"})
-        EXPECT_EQ(tool.into("/dev/full", {"storeys", form, path}).exit_code, 4) << form;
-}
-
 } // namespace
 } // namespace cli_test

@@ -217,16 +217,5 @@ TEST(TakeOver, NothingIsWrittenWithoutBothModels)
     EXPECT_FALSE(fs::exists(out));
 }
 
-TEST(TakeOver, OptionsThatMeanNothingWithoutIt)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    for (const char* option : {"--yes", "--force"}) {
-        const tool_result result = tool({"compare", now, now, option});
-        EXPECT_EQ(result.exit_code, 2);
-        EXPECT_TRUE(contains(result.err, std::string(option) + " requires --take-over")) << result.err;
-    }
-}
-
 } // namespace
 } // namespace cli_test
