@@ -155,6 +155,7 @@ void expect_answers(const tool_run& tool, const std::vector<call_row>& calls, co
     for (const call_row& each : calls) {
         const tool_result result = tool(words_of(before + each.line));
         EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
+        EXPECT_FALSE(contains(result.out + result.err, "\x1B")) << each.why << ": drives the terminal";
         EXPECT_TRUE(is_as_wanted(result.err, each.err)) << each.why << ": " << each.line << '\n' << result.err;
         EXPECT_TRUE(is_as_wanted(result.out, each.out)) << each.why << ": " << each.line << '\n' << result.out;
     }
