@@ -217,6 +217,15 @@ std::vector<std::string> words_of(const std::string& line)
     return words;
 }
 
+std::vector<std::string> lines_of(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
+}
+
 bool contains(std::string_view text, std::string_view part)
 {
     return text.find(part) != std::string_view::npos;

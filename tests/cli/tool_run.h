@@ -79,8 +79,8 @@ struct call_row {
     const char* why;
     std::string line;
     int exit_code;
-    const char* err = ""; ///< begins a line of standard error; empty: there is nothing on it
-    const char* out = ""; ///< the same of standard output
+    std::string err = {}; ///< begins a line of standard error; empty: there is nothing on it
+    std::string out = {}; ///< the same of standard output
 };
 
 /// Makes the calls, each with the words of `before` before its own.
@@ -96,6 +96,7 @@ std::string read_file(const std::string& path);
 /// The same of a text that the tool wrote, with the line ends that texts have in memory.
 std::string read_text(const std::string& path);
 
+std::vector<std::string> lines_of(const std::string& text);
 /// The words of a line.
 std::vector<std::string> words_of(const std::string& line);
 
