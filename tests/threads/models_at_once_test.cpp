@@ -71,6 +71,7 @@ TEST(TwoModels, AreWrittenAtOnceAsOneAfterTheOther)
     for (const auto write : {written_text, written_file}) {
         const std::string small_alone = write(small);
         const std::string large_alone = write(large);
+        EXPECT_NE(small_alone, large_alone);
         for (int round = 0; round < rounds; ++round) {
             std::string small_at_once;
             std::string large_at_once;
