@@ -87,8 +87,8 @@ TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
     const std::string one = tool.write("b\x1B.std", small_deck());
     EXPECT_TRUE(contains(tool({"info", one}).out, "/b\\x1B.std\n"));
     EXPECT_TRUE(contains(tool({"info", one, one}).out, "/b\\x1B.std: 2 joints"));
-    EXPECT_FALSE(contains(tool({"in\x1B"
-                                "fo"})
+    EXPECT_FALSE(contains(tool("in\x1B"
+                               "fo")
                               .err,
                           "\x1B"));
 }

@@ -28,9 +28,9 @@ const help_row helps[] = {
 TEST(Usage, HelpNamesCallOptionsAndExitCodes)
 {
     const tool_run tool;
-    const std::string all = tool({"--help"}).out;
-    EXPECT_EQ(tool({"help"}).out, all);
-    EXPECT_EQ(tool({"-h"}).out, all);
+    const std::string all = tool("--help").out;
+    EXPECT_EQ(tool("help").out, all);
+    EXPECT_EQ(tool("-h").out, all);
     EXPECT_TRUE(contains(all, "\nUsage: staadkit [OPTIONS] VERB\n") && contains(all, "\n  --version ")) << all;
     for (const help_row& each : helps) {
         EXPECT_TRUE(contains(all, std::string("\n  ") + each.verb + ' ')) << each.verb;
@@ -53,7 +53,7 @@ TEST(Usage, HelpNamesCallOptionsAndExitCodes)
 TEST(Usage, Version)
 {
     const tool_run tool;
-    const tool_result result = tool({"--version"});
+    const tool_result result = tool("--version");
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_EQ(result.out, "staadkit " STAADKIT_VERSION "\n");
 }
