@@ -14,6 +14,7 @@ namespace cli_test {
 std::vector<char*> pointers_to(std::vector<std::string>& words)
 {
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words)
         pointers.push_back(word.data());
     pointers.push_back(nullptr);
