@@ -51,32 +51,26 @@ TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
     EXPECT_TRUE(model.load_cases.empty());
 }
 
-/// A text with the given lines right after the members, and others before them.
-std::string around_members(const decks::lines& before, const decks::lines& after)
+/// A model with the given lines right after the members, and others before them.
+SdReader read_around_members(const std::string& before, const std::string& after)
 {
-    return decks::joined({"UNIT METER KN"}) + decks::joined(before) +
-           decks::joined({"JOINT COORDINATES", "1 0 0 0; 2 1 0 0", "MEMBER INCIDENCES", "1 1 2"}) +
-           decks::joined(after) + "FINISH\n";
+    return decks::read(decks::joined({"UNIT METER KN", before, "JOINT COORDINATES", "1 0 0 0; 2 1 0 0",
+                                      "MEMBER INCIDENCES", "1 1 2", after, "FINISH"}));
 }
 
-TEST(DriverOrder, GroupsAreSearchedFromTheLineAfterTheMembers)
+TEST(DriverOrder, GroupsAndPropertiesAreSearchedFromTheLineAfterTheMembers)
 {
-    const decks::lines groups = {"START GROUP DEFINITION", "MEMBER", "_A 1", "END GROUP DEFINITION"};
-    EXPECT_TRUE(decks::read(around_members(groups, {})).groups.empty());
-    EXPECT_EQ(decks::read(around_members({}, groups)).groups.size(), 1U) << "at once";
-    EXPECT_TRUE(
-        decks::read(around_members({"START GROUP DEFINITION"}, {"_A 1", "END GROUP DEFINITION"})).groups.empty());
-}
-
-TEST(DriverOrder, MemberPropertiesAreSearchedFromTheLineAfterTheMembers)
-{
-    const decks::lines properties = {"MEMBER PROPERTY", "1 TABLE ST A"};
-    EXPECT_EQ(decks::read(around_members(properties, {})).beams.at(0).sect_text, "");
-    EXPECT_EQ(decks::read(around_members({}, properties)).beams.at(0).sect_text, "TABLE ST A") << "at once";
-    EXPECT_EQ(decks::read(around_members({"CONSTANTS"}, {"MEMBER PROPERTY", "CONSTANTS", "1 TABLE ST A"}))
-                  .beams.at(0)
-                  .sect_text,
-              "")
+    const std::string start = "START GROUP DEFINITION";
+    const std::string rest = "MEMBER\n_A 1\nEND GROUP DEFINITION";
+    EXPECT_TRUE(read_around_members(start + "\n" + rest, "").groups.empty());
+    EXPECT_TRUE(read_around_members(start, rest).groups.empty());
+    EXPECT_EQ(read_around_members("", start + "\n" + rest).groups.size(), 1U) << "at once";
+    const auto section = [](const std::string& before, const std::string& after) {
+        return read_around_members(before, after).beams.at(0).sect_text;
+    };
+    EXPECT_EQ(section("MEMBER PROPERTY\n1 TABLE ST A", ""), "");
+    EXPECT_EQ(section("", "MEMBER PROPERTY\n1 TABLE ST A"), "TABLE ST A") << "at once";
+    EXPECT_EQ(section("CONSTANTS", "MEMBER PROPERTY\nCONSTANTS\n1 TABLE ST A"), "")
         << "a CONSTANTS line before the members does not hide the one that ends the block";
 }
 
