@@ -33,6 +33,15 @@ inline std::string joined(const lines& parts)
     return text;
 }
 
+/// The same text with CR LF for every line feed.
+inline std::string with_cr(const std::string& text)
+{
+    std::string changed;
+    for (const char character : text)
+        changed += character == '\n' ? std::string("\r\n") : std::string(1, character);
+    return changed;
+}
+
 /// Unit line, joints, members and `parts`, which the text ends with. Member n runs from joint n to joint
 /// n + 1, all in one line along the file's X, a length unit each. A line of no meaning ends the members, so
 /// that a part may begin with a number.

@@ -74,30 +74,17 @@ struct axes {
     coordinate across;
 };
 
-axes axes_of(place_kind kind)
-{
-    switch (kind) {
-    case place_kind::building:
-        return {building, building};
-    case place_kind::clusters_in_line:
-        return {cluster, building};
-    case place_kind::clusters:
-        return {cluster, cluster};
-    case place_kind::chains:
-        return {chain, building};
-    case place_kind::crossing_chains:
-        return {chain, chain};
-    case place_kind::borders_in_line:
-        return {border, building};
-    case place_kind::borders:
-        return {border, border};
-    case place_kind::far_out_in_line:
-        return {far_out, building};
-    case place_kind::far_out:
-        break;
-    }
-    return {far_out, far_out};
-}
+constexpr axes axes_of_kind[] = {
+    {building, building}, // building
+    {cluster, building},  // clusters_in_line
+    {cluster, cluster},   // clusters
+    {chain, building},    // chains
+    {chain, chain},       // crossing_chains
+    {border, building},   // borders_in_line
+    {border, border},     // borders
+    {far_out, building},  // far_out_in_line
+    {far_out, far_out},   // far_out
+};
 
 /// Where the joints of a pair of models may be.
 struct places {
@@ -239,7 +226,8 @@ SdReader rearranged(chance& random, const SdReader& model)
 model_pair make_random_pair(std::uint64_t seed, place_kind kind, int joints)
 {
     chance random(seed);
-    const places where{axes_of(kind), random.any_of<double>({0.04, 0.05, 0.06, 0.0625, 0.075, 0.09, 0.099})};
+    const places where{axes_of_kind[static_cast<std::size_t>(kind)],
+                       random.any_of<double>({0.04, 0.05, 0.06, 0.0625, 0.075, 0.09, 0.099})};
     model_pair made;
     made.now = random_model(random, where, joints);
     made.earlier = random.one_in(3) ? random_model(random, where, joints) : rearranged(random, made.now);

@@ -148,14 +148,6 @@ SdShell shell(int thickness)
     return element;
 }
 
-std::vector<int> every_second(int first, int count)
-{
-    std::vector<int> numbers;
-    for (int i = 0; i < count; ++i)
-        numbers.push_back(first + 2 * i);
-    return numbers;
-}
-
 void add_case(SdReader& model, int number, const std::string& type)
 {
     model.load_cases[number].id = number;

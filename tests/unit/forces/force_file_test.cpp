@@ -1,6 +1,7 @@
 /// Listings as files: which are refused, which bytes do no harm, and what a second import replaces.
 
 #include "staad/report/read_report.h"
+#include "tests/support/deck.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/temporary_file.h"
@@ -42,14 +43,6 @@ std::string read_file(const std::string& content)
     SdReader model = listings::frame();
     model.ReadForceMomentFromTxtFile(file.path());
     return listings::stations(model);
-}
-
-std::string with_cr(const std::string& text)
-{
-    std::string changed;
-    for (const char character : text)
-        changed += character == '\n' ? std::string("\r\n") : std::string(1, character);
-    return changed;
 }
 
 TEST(ForceFile, IsReadLikeItsText)
@@ -101,9 +94,9 @@ struct content_case {
 };
 
 const content_case content_cases[] = {
-    {"CR LF", with_cr(listing), kept},
+    {"CR LF", decks::with_cr(listing), kept},
     {"the last line without an end", listing.substr(0, listing.size() - 2), kept},
-    {"the same after CR LF", with_cr(listing).substr(0, with_cr(listing).size() - 3), kept},
+    {"the same after CR LF", decks::with_cr(listing).substr(0, decks::with_cr(listing).size() - 3), kept},
     {"a byte order mark", byte_order_mark + listing, kept},
     {"a byte order mark and a title in UTF-8",
      byte_order_mark + listings::section({"101 1:A @0", "2:B @0"}, listings::model_units, listings::member_forces.utf8),

@@ -1,15 +1,13 @@
 /// What an import reports beside the forces: codes, places, counts.
 
-#include "staad/report/read_report.h"
+#include "tests/support/findings.h"
 #include "tests/support/force_listing.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <string>
 #include <vector>
 
@@ -30,14 +28,6 @@ texts reported(const ReadReport& report, const std::string& code = "")
             all.push_back(finding.code + "@" + std::to_string(finding.first_line));
     }
     return all;
-}
-
-std::vector<Finding> findings_of(const ReadReport& report, const std::string& code)
-{
-    std::vector<Finding> found;
-    std::copy_if(report.findings.begin(), report.findings.end(), std::back_inserter(found),
-                 [&](const Finding& finding) { return finding.code == code; });
-    return found;
 }
 
 /// Every member of the frame, two cases of two stations each: lines 6 to 25.

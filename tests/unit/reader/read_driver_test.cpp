@@ -1,6 +1,7 @@
 /// When a text is a model and when not, what is left in the object, and the ways in.
 
 #include "staad/report/read_report.h"
+#include "tests/support/deck.h"
 #include "tests/support/filled_records.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/temporary_file.h"
@@ -74,7 +75,7 @@ const verdict_row verdicts[] = {
      "* ---\nUNIT METER KN\n*--\nJOINT COORDINATES\n1 0 0 0\n* ------\nMEMBER INCIDENCES\n", true},
 };
 
-TEST(ReadText, TellsWhetherItFoundAModel)
+TEST(ReadText, ReturnsWhetherItFoundAModel)
 {
     for (const verdict_row& c : verdicts)
         EXPECT_EQ(SdReader().ReadSDDataFromText(c.text), c.want) << c.why;
@@ -209,10 +210,7 @@ TEST(ReadText, ReadsTheSameModelTwice)
 TEST(ReadFile, ReadsWhatTheTextHolds)
 {
     const std::string plain = small_frame;
-    std::string dos = "\xEF\xBB\xBF";
-    for (const char c : plain)
-        dos += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    dos += "\x1A";
+    const std::string dos = "\xEF\xBB\xBF" + decks::with_cr(plain) + "\x1A";
     for (const std::string& text :
          {plain, dos, std::string(), std::string("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0")}) {
         SCOPED_TRACE(text);

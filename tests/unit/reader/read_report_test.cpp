@@ -2,12 +2,11 @@
 
 #include "staad/model/sd_reader.h"
 #include "staad/report/finding_sink.h"
-#include "tests/support/deck.h"
+#include "tests/support/findings.h"
 #include "tests/support/model_equal.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -25,15 +24,6 @@ ReadReport report_of(const std::string& text)
     ReadReport report;
     model.ReadSDDataFromText(text, report);
     return report;
-}
-
-/// The findings of one code, in order.
-std::vector<Finding> findings_of(const ReadReport& report, const std::string& code)
-{
-    std::vector<Finding> found;
-    std::copy_if(report.findings.begin(), report.findings.end(), std::back_inserter(found),
-                 [&](const Finding& finding) { return finding.code == code; });
-    return found;
 }
 
 const std::string head = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\n";
@@ -166,7 +156,7 @@ TEST(ReadReport, NamesCodePlaceAndReason)
     }
 }
 
-TEST(ReadReport, APlainDeckHasNothingToTell)
+TEST(ReadReport, APlainDeckHasNoFindings)
 {
     EXPECT_TRUE(report_of(head).findings.empty());
     EXPECT_EQ(report_of(head).worst(), Finding::Note);
