@@ -39,14 +39,8 @@ double chain(chance& random, double step)
 double border(chance& random, double)
 {
     const double line = random.any_of<double>({0.05, 0.1, 0.125, 0.2, 0.25, 0.5, 1}) * random.between(-4, 8);
-    switch (random.between(0, 5)) {
-    case 0:
-        return std::nextafter(line, limits::infinity());
-    case 1:
-        return std::nextafter(line, -limits::infinity());
-    default:
-        return line;
-    }
+    const double beside = random.any_of<double>({limits::infinity(), -limits::infinity()});
+    return random.one_in(3) ? std::nextafter(line, beside) : line;
 }
 
 /// Where doubles lie about as far apart as the tolerance, or much farther, or are no places at all.
@@ -118,16 +112,7 @@ placed::point random_place(chance& random, const places& where)
     place.x = where.of.along(random, where.step);
     place.y = where.of.across(random, where.step);
     place.z = where.of.across(random, where.step);
-    switch (random.between(0, 2)) {
-    case 0:
-        std::swap(place.x, place.y);
-        break;
-    case 1:
-        std::swap(place.x, place.z);
-        break;
-    default:
-        break;
-    }
+    std::swap(place.x, *random.any_of({&place.y, &place.z, &place.x}));
     return place;
 }
 

@@ -87,13 +87,11 @@ std::string many_words()
     return words;
 }
 
-struct content_case {
+const struct {
     const char* why;
     std::string content;
     const char* want;
-};
-
-const content_case content_cases[] = {
+} content_cases[] = {
     {"CR LF", decks::with_cr(listing), kept},
     {"the last line without an end", listing.substr(0, listing.size() - 2), kept},
     {"the same after CR LF", decks::with_cr(listing).substr(0, decks::with_cr(listing).size() - 3), kept},
@@ -115,7 +113,7 @@ const content_case content_cases[] = {
 
 TEST(ForceFile, TakesAnyBytes)
 {
-    for (const content_case& c : content_cases)
+    for (const auto& c : content_cases)
         EXPECT_EQ(read_file(c.content), c.want) << c.why;
 }
 

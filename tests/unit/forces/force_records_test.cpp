@@ -48,20 +48,19 @@ case_positions stations_of(const BeamForceAndMOM& member)
 
 TEST(AddLoadCaseRecord, StoresANewOneAndAppendsToOneThatIsThere)
 {
-    struct add_case {
+    const struct {
         const char* why;
         case_positions before;
         BeamLoadCaseRecord added;
         case_positions want;
-    };
-    const add_case cases[] = {
+    } cases[] = {
         {"a new one, in the order given", {}, record(5, {2, 1}), {{5, {2, 1}}}},
         {"one that is there: appended", {{5, {1}}, {6, {3}}}, record(5, {3, 2, 1}), {{5, {1, 3, 2, 1}}, {6, {3}}}},
         {"an empty one is stored", {}, record(0, {}), {{0, {}}}},
         {"and appended to", {{0, {}}}, record(0, {1}), {{0, {1}}}},
         {"nothing appended to one", {{0, {1}}}, record(0, {}), {{0, {1}}}},
     };
-    for (const add_case& c : cases) {
+    for (const auto& c : cases) {
         BeamForceAndMOM member = forces(1, c.before);
         member.add_loadCase_record(c.added);
         EXPECT_EQ(stations_of(member), c.want) << c.why;
@@ -93,13 +92,12 @@ TEST(AddLoadCaseRecord, DoublesARecordOfItsOwn)
 
 TEST(MergeForces, AddsTheRecordsOfTheSameMember)
 {
-    struct merge_case {
+    const struct {
         const char* why;
         BeamForceAndMOM member;
         BeamForceAndMOM other;
         case_positions want;
-    };
-    const merge_case cases[] = {
+    } cases[] = {
         {"new cases are added, old ones appended to",
          forces(7, {{1, {1}}, {3, {2}}}),
          forces(7, {{2, {3}}, {3, {1, 3}}, {-1, {2}}}),
@@ -108,7 +106,7 @@ TEST(MergeForces, AddsTheRecordsOfTheSameMember)
         {"members without numbers are the same", forces(0, {}), forces(0, {{1, {1}}}), {{1, {1}}}},
         {"nothing to add", forces(0, {{1, {1}}}), forces(0, {}), {{1, {1}}}},
     };
-    for (const merge_case& c : cases) {
+    for (const auto& c : cases) {
         BeamForceAndMOM member = c.member;
         member.merge(c.other);
         EXPECT_EQ(stations_of(member), c.want) << c.why;

@@ -13,16 +13,14 @@ namespace {
 using listings::section;
 using listings::values;
 
-struct unit_case {
+const struct {
     const char* why;
     const char* line;
     const char* text;
     double length;
     double force;
     double moment;
-};
-
-const unit_case unit_cases[] = {
+} unit_cases[] = {
     {"first, second and last word count", "(m) (kN) (kN) (kN) (kN-m) (kN-m) (kN-m)", "UNIT m kN kN-m", 1000, 1, 1000},
     {"the words between may be anything", "(cm) (kN) x 7 (kN-m)", "UNIT cm kN kN-m", 10, 1, 1000},
     {"brackets of any kind: first and last character go unseen", "[m] <mton> {mton-m}", "UNIT m mton mton-m", 1000, 9.8,
@@ -47,7 +45,7 @@ const unit_case unit_cases[] = {
 
 TEST(ForceUnits, ComeFromTheUnitLine)
 {
-    for (const unit_case& c : unit_cases) {
+    for (const auto& c : unit_cases) {
         const SdReader model = listings::read(section({"101 1:A 2 3 5 7 11 13 17", "2:B @0"}, c.line));
         EXPECT_EQ(model.unit_text, c.text) << c.why;
         EXPECT_EQ(model.length_factor, c.length) << c.why;

@@ -55,14 +55,12 @@ BeamForceAndMOM forces(const std::vector<BeamLoadCaseRecord>& records)
     return made;
 }
 
-struct list_case {
+const struct {
     const char* why;
     const char* types;
     const char* recorded; ///< load cases of nine stations each
     const char* want;     ///< which load case dead, live, wind and seismic come from
-};
-
-const list_case list_cases[] = {
+} list_cases[] = {
     {"one of each", "1 Dead; 2 Live; 3 Wind; 4 Seismic", "1 2 3 4", "1 2 3 4"},
     {"in any order", "1 Seismic; 2 Wind; 3 Live; 4 Dead", "1 2 3 4", "4 3 2 1"},
     {"of two dead cases the higher number counts, nothing is added up", "1 Dead; 2 Live; 3 Dead", "1 2 3", "3 2 - -"},
@@ -90,7 +88,7 @@ std::string source(const std::vector<BeamLoadList>& list, ForcePoint BeamLoadLis
 
 TEST(LoadLists, TakeOneCaseOfEachKind)
 {
-    for (const list_case& c : list_cases) {
+    for (const auto& c : list_cases) {
         SCOPED_TRACE(c.why);
         std::vector<BeamLoadCaseRecord> records;
         for (const std::string& number : SplitString(c.recorded, " "))

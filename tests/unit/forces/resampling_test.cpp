@@ -77,9 +77,9 @@ const resampling_case resampling_cases[] = {
     {"positions closer than 0.0001 are one", "0: 0; 0.00005: 99; 8: 80", "0: 0; 8: 80", line_of_nine},
     {"positions 0.0001 and more apart are two", "0: 0; 0.000125: 0; 8: 0", "0: 0; 0.000125: 0; 8: 0",
      "0: 0; 1: 0; 2: 0; 3: 0; 4: 0; 5: 0; 6: 0; 7: 0; 8: 0"},
-    {"of a run the point stays that came first, with its own position", "8: 80; 0.00005: 7; 0: 99",
-     "0.00005: 7; 8: 80"},
-    {"a run is measured from its first point: the third here is too far from it", "8: 4; 0: 1; 0.000075: 2; 0.00015: 3",
+    {"of points that are one that stays which came first, with its own position", "8: 80; 0.00005: 7; 0: 99",
+     "5e-05: 7; 8: 80"},
+    {"how close is measured from the first: the third here is too far from it", "8: 4; 0: 1; 0.000075: 2; 0.00015: 3",
      "0: 1; 0.00015: 3; 8: 4"},
     {"stations before the first point take its values, with their own positions", "4: 7; 8: 11", "4: 7; 8: 11",
      "4: 7; 1: 7; 2: 7; 3: 7; 4: 7; 5: 8; 6: 9; 7: 10; 8: 11"},
@@ -147,7 +147,7 @@ TEST(Resampling, TakesAPointThatIsNearlyTheStation)
     EXPECT_NEAR(short_of_it.pkpm_points[1].f1, 70000.0, 1e-6) << "70002 x 7 / 7.0002";
 }
 
-TEST(Resampling, OfARunMeasuresFromThePointThatStays)
+TEST(Resampling, MeasuresFromThePointThatStays)
 {
     BeamLoadCaseRecord record = record_with("8: 80; 0.00005: 7; 0: 99");
     record.sort_pkpm_format();

@@ -62,12 +62,10 @@ TEST(RandomDeck, AnotherDeckReadsAsAnotherModel)
     }
 }
 
-struct block_case {
+const struct {
     const char* what;
     bool (*is_there)(const SdReader& model);
-};
-
-const block_case blocks[] = {
+} blocks[] = {
     {"surfaces", [](const SdReader& m) { return !m.surfaces.empty(); }},
     {"elements", [](const SdReader& m) { return !m.shell_index.empty(); }},
     {"an element number that no element has",

@@ -91,12 +91,11 @@ TEST(ReadGroups, AddsToTheGroupsOfAnEarlierReading)
 
 TEST(ReadGroups, KnowsWhatTheNumbersOfAGroupName)
 {
-    struct kind {
+    const struct {
         const char* why;
         const char* word;
         SdGroup::IdType want;
-    };
-    const kind kinds[] = {
+    } kinds[] = {
         {"joints", "JOINT", SdGroup::JointId},
         {"members", "MEMBER", SdGroup::MemberId},
         {"members, too", "GEOMETRY", SdGroup::MemberId},
@@ -106,7 +105,7 @@ TEST(ReadGroups, KnowsWhatTheNumbersOfAGroupName)
         {"so does an unknown one", "SOLID", SdGroup::JointId},
         {"and one in small letters", "member", SdGroup::JointId},
     };
-    for (const kind& one : kinds) {
+    for (const auto& one : kinds) {
         SdGroup group;
         group.kind = one.word;
         EXPECT_EQ(group.GetIdType(), one.want) << one.word << ": " << one.why;

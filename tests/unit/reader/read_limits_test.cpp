@@ -61,19 +61,15 @@ TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
     }
 }
 
-TEST(ReadLimits, AStoredListMayReachItsLimit)
+TEST(ReadLimits, AStoredListMayReachItsLimitAndADescriptionHoldSeveral)
 {
-    const SdReader model = decks::read_frame({"SUPPORTS", "1 TO 16777216 FIXED"});
+    const SdReader model =
+        decks::read_frame({"SUPPORTS", "1 TO 16777216 FIXED", "1 TO 8388609 PINNED", "1 TO 8388609 PINNED"});
     const std::vector<unsigned>& joints = model.supports.at("FIXED");
     ASSERT_EQ(joints.size(), most_numbers_per_list);
     EXPECT_EQ(joints.front(), 1U);
     EXPECT_EQ(joints.back(), 16777216U);
-}
-
-TEST(ReadLimits, OneDescriptionMayHoldSeveralLists)
-{
-    const SdReader model = decks::read_frame({"SUPPORTS", "1 TO 8388609 FIXED", "1 TO 8388609 FIXED"});
-    EXPECT_EQ(model.supports.at("FIXED").size(), most_numbers_per_list + 2);
+    EXPECT_EQ(model.supports.at("PINNED").size(), most_numbers_per_list + 2);
 }
 
 TEST(ReadLimits, BracesReadAloneStandInNoFile)

@@ -93,9 +93,8 @@ TEST(ReadLoadCases, ReadsFromTheFirstHeaderToTheCombinations)
 
 TEST(ReadLoadCases, ALaterHeaderReplacesTheTextsToo)
 {
-    const SdReader model = decks::read_frame({"LOAD 2 LOADTYPE Dead TITLE DL", "LOAD 2"});
-    EXPECT_EQ(model.load_cases.at(2).type_text, "");
-    EXPECT_EQ(model.load_cases.at(2).title, "");
+    const LoadCase later = decks::read_frame({"LOAD 2 LOADTYPE Dead TITLE DL", "LOAD 2"}).load_cases.at(2);
+    EXPECT_EQ(later.type_text + later.title, "");
 }
 
 TEST(ReadLoadCases, BeforeTheFirstBlockTheTextBeginsWithABlank)

@@ -114,12 +114,8 @@ TEST(ReadBeta, ReadsEveryLineThatBeginsWithTheKeyword)
         {"continued lines are one", "BETA 90 MEMB 1 -\nTO 2 -\n4", "90 90 0 90"},
     };
     decks::expect_read(rows, angles, {"UNIT FEET KIP", 4});
-}
-
-TEST(ReadBeta, ReadsLinesBeforeTheMembers)
-{
-    const SdReader model = decks::read("BETA 90 MEMB 2\n" + decks::frame_deck({}));
-    EXPECT_EQ(decks::member(model, 2).beta, 90.0);
+    const SdReader before = decks::read("BETA 90 MEMB 2\n" + decks::frame_deck({}, {"UNIT FEET KIP", 4}));
+    EXPECT_EQ(angles(before), "0 90 0 0") << "before the members, too";
 }
 
 TEST(ReadMemberData, OfTwoMembersWithOneNumberTheFirstIsMeant)

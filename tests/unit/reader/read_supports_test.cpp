@@ -111,13 +111,8 @@ TEST(ReadSupports, FindsItsBlockAnywhereInTheFile)
     const SdReader model = decks::read("SUPPORTS\n1 FIXED\nMEMBER RELEASE\n2 END MZ\n" + decks::frame_deck({}));
     EXPECT_EQ(supports(model), "FIXED: 1");
     EXPECT_EQ(releases(model), "END MZ: 2");
-}
-
-TEST(ReadSupports, ReadsALastLineWithoutLineFeed)
-{
-    SdReader model;
-    ASSERT_TRUE(model.ReadSDDataFromText(decks::open_frame_deck({"SUPPORTS"}) + "1 2 FIXED"));
-    EXPECT_EQ(supports(model), "FIXED: 1 2");
+    EXPECT_EQ(supports(decks::read(decks::open_frame_deck({"SUPPORTS"}) + "1 2 FIXED")), "FIXED: 1 2")
+        << "a last line without line feed";
 }
 
 TEST(ReadSupports, AddsToWhatAnEarlierReadingLeft)

@@ -125,18 +125,12 @@ TEST(ReadSurface, FindsThePropertyLines)
     decks::expect_read(rows, thicknesses_of, {"UNIT MMS KN", 5}, four_surfaces);
 }
 
-TEST(ReadSurface, FindsThePropertyLinesBeforeTheSurfaces)
+TEST(ReadSurface, FindsThePropertyLinesBeforeTheSurfacesAndNeedsSurfaces)
 {
-    const SdReader model = decks::read("SURFACE PROPERTY\n2 THICKNESS 0.2\n" + decks::frame_deck({four_surfaces}));
-    EXPECT_EQ(thicknesses_of(model), "0 200 0 0");
-}
-
-TEST(ReadSurface, PropertyLinesAloneBuildNothing)
-{
-    const SdReader model = decks::read_frame({"SURFACE PROPERTY", "1 TO 4 THICKNESS 0.2"});
-    EXPECT_TRUE(model.surfaces.empty());
-    EXPECT_TRUE(model.surface_index.empty());
-    EXPECT_TRUE(model.shells.empty());
+    const SdReader before = decks::read("SURFACE PROPERTY\n2 THICKNESS 0.2\n" + decks::frame_deck({four_surfaces}));
+    EXPECT_EQ(thicknesses_of(before), "0 200 0 0");
+    const SdReader alone = decks::read_frame({"SURFACE PROPERTY", "1 TO 4 THICKNESS 0.2"});
+    EXPECT_TRUE(alone.surfaces.empty() && alone.surface_index.empty() && alone.shells.empty());
 }
 
 /// Joints 11 to 14 stand at positions 1 to 4.

@@ -103,12 +103,11 @@ SdReader model_with_table(int number, const std::string& type, const std::map<st
 
 TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
 {
-    struct family {
+    const struct {
         const char* why;
         const char* word;
         UsrDefineSectionType want;
-    };
-    const family families[] = {
+    } families[] = {
         {"family 1", "WIDE FLANGE", WideFlange},
         {"family 2", "CHANNEL", Channel},
         {"family 3", "ANGLE", Angle},
@@ -125,7 +124,7 @@ TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
         {"none outside", "TEE ", UnknownSection},
         {"nothing", "", UnknownSection},
     };
-    for (const family& one : families) {
+    for (const auto& one : families) {
         const SdReader model = model_with_table(1, one.word, {{"R", "1 2"}}, 1.0);
         const auto [number, dimensions] = model.GetSectionFromUsrTable("UPTABLE 1 R");
         EXPECT_EQ(number, one.want) << one.word << ": " << one.why;
@@ -135,12 +134,11 @@ TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
 
 TEST(GetSectionFromUsrTable, FindsTheRowAndInsertsNothing)
 {
-    struct query {
+    const struct {
         const char* why;
         const char* text;
         std::pair<UsrDefineSectionType, std::string> want;
-    };
-    const query queries[] = {
+    } queries[] = {
         {"whole mm, truncated", "UPTABLE 1 W12X26", {WideFlange, "300X150X6X9"}},
         {"words after the row's name do not matter", "UPTABLE 1 W12X26 BETA 90", {WideFlange, "300X150X6X9"}},
         {"nor does the first word", "X  1  W12X26", {WideFlange, "300X150X6X9"}},
@@ -153,7 +151,7 @@ TEST(GetSectionFromUsrTable, FindsTheRowAndInsertsNothing)
         {"empty text", "", {UnknownSection, ""}},
     };
     const SdReader model = model_with_table(1, "WIDE FLANGE", {{"W12X26", "0.3 0.15 0.0065 0.009"}}, 1000.0);
-    for (const query& one : queries)
+    for (const auto& one : queries)
         EXPECT_EQ(model.GetSectionFromUsrTable(one.text), one.want) << one.text << ": " << one.why;
     EXPECT_EQ(model.usr_tables.size(), 1U);
     EXPECT_EQ(model.usr_tables.at(1).records.size(), 1U);
@@ -181,13 +179,12 @@ TEST(GetSectionFromUsrTable, ThrowsOnARowWithoutNumbers)
 
 TEST(ConvertSectionParamByUnit, TurnsEveryNumberIntoWholeMillimetres)
 {
-    struct conversion {
+    const struct {
         const char* why;
         double length_factor;
         const char* text;
         const char* want;
-    };
-    const conversion conversions[] = {
+    } conversions[] = {
         {"metres", 1000.0, "0.3 0.15 0.0065 0.009", "300X150X6X9"},
         {"blanks and X separate, in runs and at the ends too", 1.0, " X300X 150 X6XX9X ", "300X150X6X9"},
         {"one number", 10.0, "12", "120"},
@@ -199,7 +196,7 @@ TEST(ConvertSectionParamByUnit, TurnsEveryNumberIntoWholeMillimetres)
         {"words count as 0", 1000.0, "W12 0.3", "0X300"},
         {"past 32 bits the nearest limit", 1000.0, "1E300 -1E300", "2147483647X-2147483648"},
     };
-    for (const conversion& one : conversions) {
+    for (const auto& one : conversions) {
         SdReader model;
         model.length_factor = one.length_factor;
         EXPECT_EQ(access::ConvertSectionParamByUnit(model, one.text), one.want) << one.text << ": " << one.why;

@@ -40,14 +40,12 @@ std::string unknown_elements(const SdReader& model)
     return shown(unknown);
 }
 
-struct thickness_row {
+const struct {
     const char* why;
     const char* lines;
     const char* want;          ///< of the six elements in the order read
     const char* entered = "-"; ///< unknown numbers that enter the index
-};
-
-const thickness_row thicknesses[] = {
+} thicknesses[] = {
     {"a range", "ELEMENT PROPERTY\n1 TO 3 TH 200", "0 200 200 0 0 200"},
     {"single numbers", "ELEMENT PROPERTY\n2 5 THICKNESS 120", "0 120 0 0 120 0"},
     {"the word is not looked at", "ELEMENT PROPERTY\n2 5 7 120", "0 120 0 0 120 0"},
@@ -80,7 +78,7 @@ const thickness_row thicknesses[] = {
 
 TEST(ThicknessLines, SetTheElementsTheyList)
 {
-    for (const thickness_row& c : thicknesses) {
+    for (const auto& c : thicknesses) {
         SCOPED_TRACE(c.why);
         const SdReader model = read_with(c.lines);
         EXPECT_EQ(shown_fields(model.shells, &SdShell::thickness), c.want);
@@ -97,33 +95,26 @@ TEST(ThicknessLines, AreScaledBeforeTheyAreTruncated)
     EXPECT_EQ(read_with("ELEMENT PROPERTY\n2 TH 12.5", "UNIT CM KN").shells.at(1).thickness, 125);
 }
 
-TEST(ThicknessLines, AreNotReadWithoutAnElementBlock)
-{
-    SdReader model;
-    ASSERT_TRUE(model.ReadSDDataFromText("UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"
-                                         "ELEMENT PROPERTY\n7 TH 80\n"));
-    EXPECT_TRUE(model.shell_index.empty());
-}
-
 TEST(ThicknessLines, AreLookedForAfterTheElementsOnly)
 {
+    const std::string before = "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"
+                               "ELEMENT PROPERTY\n7 TH 80\n";
     SdReader model;
-    ASSERT_TRUE(model.ReadSDDataFromText("UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 1\n"
-                                         "ELEMENT PROPERTY\n7 TH 80\nELEMENT INCIDENCES SHELL\n7 1 1 1\n"));
+    ASSERT_TRUE(model.ReadSDDataFromText(before + "ELEMENT INCIDENCES SHELL\n7 1 1 1\n"));
     EXPECT_EQ(model.shells.at(0).thickness, 0);
+    ASSERT_TRUE(model.ReadSDDataFromText(before));
+    EXPECT_TRUE(model.shell_index.empty()) << "without elements they are not read";
 }
 
 const char* const only_c1 = "C1 C1 C1 C1 C1 C1";
 
-struct material_row {
+const struct {
     const char* why;
     const char* lines;
     const char* members;            ///< 1, 2, 3, 20
     const char* elements = only_c1; ///< in the order read
     const char* entered = "-";
-};
-
-const material_row materials[] = {
+} materials[] = {
     {"nothing said", "FOO", "- - - -"},
     {"everything", "MATERIAL CONCRETE ALL", "CONCRETE CONCRETE CONCRETE CONCRETE",
      "CONCRETE CONCRETE CONCRETE CONCRETE CONCRETE CONCRETE"},
@@ -155,7 +146,7 @@ const material_row materials[] = {
 
 TEST(MaterialLines, NameTheMaterialOfMembersAndElements)
 {
-    for (const material_row& c : materials) {
+    for (const auto& c : materials) {
         SCOPED_TRACE(c.why);
         const SdReader model = read_with(c.lines);
         EXPECT_EQ(shown_fields(model.beams, &SdBeam::material), c.members);
