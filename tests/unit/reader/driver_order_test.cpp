@@ -45,11 +45,8 @@ TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
                                           "MEMBER TRUSS\n1\nSUPPORTS\n1 FIXED\nLOAD 1\nSELFWEIGHT Y -1\nFINISH\n"));
     EXPECT_EQ(model.unit_text, "UNIT METER KN");
     EXPECT_EQ(model.length_factor, 1000.0);
-    EXPECT_TRUE(model.groups.empty());
     EXPECT_EQ(model.concrete_density, 1.0);
-    EXPECT_TRUE(model.brace_ids.empty());
-    EXPECT_TRUE(model.supports.empty());
-    EXPECT_TRUE(model.load_cases.empty());
+    EXPECT_EQ(filled_containers(model), std::vector<std::string>{"unit_text"});
 }
 
 /// A model with the given lines right after the members, and others before them.

@@ -92,10 +92,7 @@ TEST(ReadText, LeavesUnitAndFactorsAloneWhenThereIsNoUnitLine)
         EXPECT_EQ(model.length_factor, 12 * 25.4);
         EXPECT_EQ(model.force_factor, 4.445206);
         EXPECT_EQ(model.force_length_factor, 4.445206 * 25.4);
-        EXPECT_TRUE(model.nodes.empty());
-        EXPECT_TRUE(model.beams.empty());
-        EXPECT_TRUE(model.node_index.empty());
-        EXPECT_TRUE(model.beam_index.empty());
+        EXPECT_EQ(filled_containers(model), texts{"unit_text"});
     }
 }
 
@@ -110,9 +107,7 @@ TEST(ReadText, HasUnitAndFactorsButNoJointsWhenTheJointBlockIsIncomplete)
         EXPECT_EQ(model.length_factor, 10.0);
         EXPECT_EQ(model.force_factor, 9.8);
         EXPECT_EQ(model.force_length_factor, 1000.0);
-        EXPECT_TRUE(model.nodes.empty());
-        EXPECT_TRUE(model.node_index.empty());
-        EXPECT_TRUE(model.beams.empty());
+        EXPECT_EQ(filled_containers(model), texts{"unit_text"});
     }
 }
 

@@ -19,13 +19,6 @@ namespace {
 
 using ints = std::vector<int>;
 
-struct endless_list {
-    const char* why;
-    const char* lines;
-    std::size_t first; ///< line of the list among `lines`, from 0
-    std::size_t last;
-};
-
 /// Another reading into the object gives a whole model.
 void expect_readable_again(SdReader& model)
 {
@@ -39,7 +32,12 @@ void expect_readable_again(SdReader& model)
 
 TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
 {
-    const endless_list rows[] = {
+    const struct {
+        const char* why;
+        const char* lines;
+        std::size_t first; ///< line of the list among `lines`, from 0
+        std::size_t last;
+    } rows[] = {
         {"supports", "SUPPORTS\n1 TO 2000000000 FIXED", 1, 1},
         {"a later line", "SUPPORTS\n1 FIXED\n2 FIXED\n3 TO 2000000000 FIXED", 3, 3},
         {"a continued line", "SUPPORTS\n1 TO -\n\n2000000000 -\nFIXED", 1, 4},
@@ -51,7 +49,7 @@ TEST(ReadLimits, AStoredListHoldsNoMoreThanItsLimit)
         {"compression-only members", "MEMBER COMPRESSION\n1 TO 2000000000", 1, 1},
         {"tension-only members", "MEMBER TENSION\n1 TO 2000000000", 1, 1},
     };
-    for (const endless_list& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         SdReader model;
         decks::expect_limit([&] { model.ReadSDDataFromText(decks::frame_deck({row.lines})); },
@@ -174,13 +172,6 @@ TEST(ReadLimits, AllListsOfAReadingShareOneTotal)
 /// 131072 bytes, a part in 2048 of all the text that a reading gives out.
 const std::string long_word(131072, 'C');
 
-struct long_text {
-    const char* why;
-    std::string lines;
-    int members;      ///< one more than the limit has room for
-    std::size_t line; ///< the one to blame, among `lines`, from 0
-};
-
 std::string on_many_lines(const char* line, int count)
 {
     std::string text = line;
@@ -191,7 +182,12 @@ std::string on_many_lines(const char* line, int count)
 
 TEST(ReadLimits, LongTextsAreGivenOutUpToALimit)
 {
-    const long_text rows[] = {
+    const struct {
+        const char* why;
+        std::string lines;
+        int members;      ///< one more than the limit has room for
+        std::size_t line; ///< the one to blame, among `lines`, from 0
+    } rows[] = {
         {"a material for some", "MATERIAL " + long_word + " MEMB 1 TO 2049", 2049, 0},
         {"a material for all", "MATERIAL " + long_word + " ALL", 2049, 0},
         {"a section, a little longer than the word, as text and as name",
@@ -201,7 +197,7 @@ TEST(ReadLimits, LongTextsAreGivenOutUpToALimit)
         {"the words of a load block, a little longer than the word, in every definition",
          "LOAD 1\n" + long_word + " LOAD\n" + on_many_lines("1 UNI GY -1", 2048), 1, 1 + 2048},
     };
-    for (const long_text& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         SdReader model;
         const std::size_t line = decks::first_line_under_test + row.line;

@@ -12,18 +12,16 @@
 namespace STAAD {
 namespace {
 
-struct header {
-    const char* why;
-    const char* line;
-    int id;
-    const char* type_text;
-    const char* title;
-};
-
 TEST(ReadLoadCases, ReadsTheHeader)
 {
     // Those of six words and more are load_case_test's.
-    const header rows[] = {
+    const struct {
+        const char* why;
+        const char* line;
+        int id;
+        const char* type_text;
+        const char* title;
+    } rows[] = {
         {"six words and more", "LOAD 3 LOADTYPE Roof  Live TITLE EQ  X DIR ", 3, "Roof Live", "EQ X DIR"},
         {"six words, a signed number", "LOAD +5 LOADTYPE Dead TITLE DL", 5, "Dead", "DL"},
         {"five words: number only", "LOAD 6 LOADTYPE Dead TITLE", 6, "", ""},
@@ -36,7 +34,7 @@ TEST(ReadLoadCases, ReadsTheHeader)
         {"any word that begins so", "LOADING 8", 8, "", ""},
         {"a number past 32 bits", "LOAD 99999999999", 2147483647, "", ""},
     };
-    for (const header& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.line) + ": " + row.why);
         const SdReader model = decks::read_frame({row.line, "SELFWEIGHT Y -1"});
         ASSERT_EQ(model.load_cases.size(), 1U);
@@ -50,16 +48,14 @@ TEST(ReadLoadCases, ReadsTheHeader)
     }
 }
 
-struct section {
-    const char* why;
-    const char* lines; ///< the last of the file
-    const char* cases;
-    const char* cases_of_loads;
-};
-
 TEST(ReadLoadCases, ReadsFromTheFirstHeaderToTheCombinations)
 {
-    const section rows[] = {
+    const struct {
+        const char* why;
+        const char* lines; ///< the last of the file
+        const char* cases;
+        const char* cases_of_loads;
+    } rows[] = {
         {"no header, no loads", "SELFWEIGHT Y -1\nFINISH", "-", "-"},
         {"loads before the first header are not read", "SELFWEIGHT Y -1\nLOAD 2\nFINISH", "2", "-"},
         {"a header begins its line", " LOAD 2\nSELFWEIGHT Y -1\nFINISH", "-", "-"},
@@ -76,7 +72,7 @@ TEST(ReadLoadCases, ReadsFromTheFirstHeaderToTheCombinations)
         {"cases are kept without loads", "LOAD 9\nLOAD 2\nLOAD 5\nFINISH", "2 5 9", "-"},
         {"commands between do not matter", "LOAD 2\nPERFORM ANALYSIS\n* LOAD 4\nSELFWEIGHT Y -1\nFINISH", "2", "2"},
     };
-    for (const section& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         const SdReader model = decks::read(decks::open_frame_deck({row.lines}));
         std::vector<int> cases;

@@ -20,18 +20,16 @@ std::string offset(const SdOffset& of)
     return of.x == 0.0 && of.y == 0.0 && of.z == 0.0 ? "-" : shown(all);
 }
 
-struct offset_line {
-    const char* why;
-    const char* unit;
-    const char* line;
-    const char* start;
-    const char* end;
-};
-
 TEST(ReadOffset, TurnsTheThreeLengthsIntoTheModelsAxes)
 {
     const char* metres = "UNIT METER KN";
-    const offset_line rows[] = {
+    const struct {
+        const char* why;
+        const char* unit;
+        const char* line;
+        const char* start;
+        const char* end;
+    } rows[] = {
         {"file Z, X, Y, in mm", metres, "2 START 0.1 0.2 0.3", "300 100 200", "-"},
         {"the other end", metres, "2 END 0.1 0.2 -0.3", "-", "-300 100 200"},
         {"in feet", "UNIT FEET KIP", "2 START 1 0 10", "3048 304.8 0", "-"},
@@ -46,7 +44,7 @@ TEST(ReadOffset, TurnsTheThreeLengthsIntoTheModelsAxes)
         {"0 ends the list and is the first word", metres, "2 0 START 0.2 0.3", "-", "300 0 200"},
         {"a number that only the description skips", metres, "2 +3 START 0.1 0.2 0.3", "300 100 200", "-"},
     };
-    for (const offset_line& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.line) + ": " + row.why);
         const SdReader model = decks::read_frame({"MEMBER OFFSET", row.line}, {row.unit, 3});
         EXPECT_EQ(offset(decks::member(model, 2).offset_start), row.start);

@@ -214,19 +214,17 @@ TEST(ReadReport, ALineOfNothingButAContinuationMarkIsNoTrouble)
     }
 }
 
-struct quote_case {
-    const char* why;
-    std::string line;
-    std::string quoted;
-};
-
 TEST(ReadReport, CutsLongQuotesBetweenCharacters)
 {
     const std::string ascii(57, '5');
     const std::string utf8 = "\xE6\xA2\x81";    // one character of three bytes
     const std::string gbk = "\xC1\xBA\xC1\xBA"; // two characters of two bytes
     const std::string words = "1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 BY 3"; // 64 bytes
-    const quote_case cases[] = {
+    const struct {
+        const char* why;
+        std::string line;
+        std::string quoted;
+    } cases[] = {
         {"a text of sixty bytes is quoted whole", ascii + "123", "'" + ascii + "123'"},
         {"a longer one is cut at sixty", ascii + "1234", "'" + ascii + "123...'"},
         {"not inside a character of UTF-8", ascii + utf8 + utf8, "'" + ascii + "...'"},
@@ -234,7 +232,7 @@ TEST(ReadReport, CutsLongQuotesBetweenCharacters)
         {"a blank is as good a place as any", words, "'" + words.substr(0, 60) + "...'"},
         {"where there is no good place, at sixty", std::string(61, '\xE6'), "'" + std::string(60, '\xE6') + "...'"},
     };
-    for (const quote_case& c : cases)
+    for (const auto& c : cases)
         EXPECT_EQ(STAAD::detail::quote(c.line), c.quoted) << c.why;
 }
 

@@ -32,7 +32,6 @@ const std::vector<decks::row> support_lines = {
     {"0 at once: a description without joints", "0 FIXED", "0 FIXED: -"},
     {"order of the line, repeats kept", "7 2 2 7 FIXED", "FIXED: 7 2 2 7"},
     {"a second TO counts from the last number that stands alone", "1 TO 3 TO 4 FIXED", "FIXED: 1 2 3 2 3 4"},
-    {"a falling range adds nothing", "5 TO 2 FIXED", "FIXED: 5"},
     {"TO before a word: both rules pass it", "1 TO FIXED", "FIXED: 1"},
     {"a bound of 0 ends the list, and the description begins there", "1 TO 0 5 FIXED", "0 5 FIXED: 1"},
     {"TO at the end", "4 TO", "-: 4"},

@@ -23,16 +23,14 @@ std::string corners_of(const Records& records)
     return shown(found);
 }
 
-struct incidence {
-    const char* why;
-    const char* lines;
-    const char* want; ///< number: corners
-    const char* index;
-};
-
 TEST(ReadSurface, ReadsTheLinesThatBeginWithADigit)
 {
-    const incidence rows[] = {
+    const struct {
+        const char* why;
+        const char* lines;
+        const char* want; ///< number: corners
+        const char* index;
+    } rows[] = {
         {"no block", "1 2 3 4 SUR 9", "-", "-"},
         {"corners, a word, the number", "SURFACE INCIDENCE\n1 2 3 4 SUR 9", "9: 1 2 3 4", "9: 1"},
         {"any word, any number of corners", "SURFACE INCIDENCE\n1 2 3 4 5 6 X 2", "2: 1 2 3 4 5 6", "2: 1"},
@@ -53,7 +51,7 @@ TEST(ReadSurface, ReadsTheLinesThatBeginWithADigit)
         {"only the first block is read", "SURFACE INCIDENCE\n1 2 3 SUR 1\nSURFACE INCIDENCE\n1 2 3 SUR 2", "1: 1 2 3",
          "1: 1"},
     };
-    for (const incidence& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
         const SdReader model = decks::read_frame({row.lines});
         EXPECT_EQ(corners_of(model.surfaces), row.want);
@@ -62,13 +60,6 @@ TEST(ReadSurface, ReadsTheLinesThatBeginWithADigit)
             EXPECT_EQ(surface.material, "CONCRETE");
     }
 }
-
-struct property {
-    const char* why;
-    const char* unit;
-    const char* line;
-    const char* want; ///< thicknesses of surfaces 1 to 4
-};
 
 std::string thicknesses_of(const SdReader& model)
 {
@@ -81,7 +72,12 @@ TEST(ReadSurface, GivesTheLastWordAsThicknessToTheListedSurfaces)
 {
     const char* metres = "UNIT METER KN";
     const char* millimetres = "UNIT MMS KN";
-    const property rows[] = {
+    const struct {
+        const char* why;
+        const char* unit;
+        const char* line;
+        const char* want; ///< thicknesses of surfaces 1 to 4
+    } rows[] = {
         {"range", metres, "1 TO 3 THICKNESS 0.2", "200 200 200 0"},
         {"truncated", metres, "2 THICKNESS 0.1999", "0 199 0 0"},
         {"numbers", millimetres, "4 1 THICKNESS 120", "120 0 0 120"},
@@ -101,7 +97,7 @@ TEST(ReadSurface, GivesTheLastWordAsThicknessToTheListedSurfaces)
         {"an unreadable thickness is 0", metres, "1 THICKNESS THIN", "0 0 0 0"},
         {"past 32 bits the largest thickness", metres, "1 THICKNESS 1E9", "2147483647 0 0 0"},
     };
-    for (const property& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.line) + ": " + row.why);
         const SdReader model = decks::read_frame({four_surfaces, "SURFACE PROPERTY", row.line}, {row.unit, 5});
         EXPECT_EQ(thicknesses_of(model), row.want);

@@ -60,7 +60,6 @@ const struct {
     {"nor does one", "ELEMENT PROPERTY\n2", "0 0 0 0 0 0"},
     {"joined lines", "ELEMENT PROPERTY\n1 TO 2 4 -\n5 TH 80", "0 80 0 80 80 80"},
     {"TO without a bound", "ELEMENT PROPERTY\n2 TO TH 80", "0 80 0 0 0 0"},
-    {"zero ends a list", "ELEMENT PROPERTY\n2 0 3 TH 80", "0 80 0 0 0 0"},
     {"a leading blank ends the block", "ELEMENT PROPERTY\n2 TH 80\n 3 TH 80\n4 TH 80", "0 80 0 0 0 0"},
     {"so does a zero", "ELEMENT PROPERTY\n0 TH 80\n3 TH 80", "0 0 0 0 0 0"},
     {"so does a comment", "ELEMENT PROPERTY\n2 TH 80\n* 3\n4 TH 80", "0 80 0 0 0 0"},

@@ -8,6 +8,7 @@
 #include <climits>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -166,17 +167,14 @@ TEST(IdListWalker, GivesRangesWithoutCountingThemOut)
 
 TEST(IdListWalker, LeavesTheWordsAfterTheList)
 {
-    const struct {
-        const char* text;
-        const char* after;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"1 TO 4 FIXED BUT MX", "FIXED BUT MX"}, {"3 0 4", "0 4"}, {"FIXED", "FIXED"}, {"1 2", ""}, {"", ""},
     };
-    for (const auto& c : rows) {
-        detail::id_list_walker<> walker(detail::word_cursor(c.text), detail::general_id_list);
+    for (const auto& [text, after] : rows) {
+        detail::id_list_walker<> walker(detail::word_cursor(text), detail::general_id_list);
         for (detail::id_range range; walker.next(range);) {
         }
-        EXPECT_EQ(detail::join_words(walker.after_list()), c.after) << c.text;
+        EXPECT_EQ(detail::join_words(walker.after_list()), after) << text;
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -137,14 +138,11 @@ TEST(Case, ChangesAsciiLettersOnly)
 
 TEST(TrimBlanks, TakesBlanksAndTabsOffBothEnds)
 {
-    const struct {
-        const char* text;
-        const char* want;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", ""}, {" \t ", ""}, {"A", "A"}, {" \tA B\t ", "A B"}, {"A\tB", "A\tB"}, {"\rA\n", "\rA\n"},
     };
-    for (const auto& c : rows)
-        EXPECT_EQ(detail::trim_blanks(c.text), c.want);
+    for (const auto& [text, want] : rows)
+        EXPECT_EQ(detail::trim_blanks(text), want);
 }
 
 TEST(Words, AreCountedAndTakenByPlace)
