@@ -11,8 +11,8 @@ bool ends_a_mantissa(char c) noexcept
     return (c >= '0' && c <= '9') || c == '.';
 }
 
-/// Position of a blank between an exponent's E and its digits, "1.5E +03", from `from` on. An E after
-/// any other character ends a word of a title.
+/// Position of a blank between an exponent's E and its digits, "1.5E +03", from `from` on. An E after any other
+/// character than a digit or a point ends a word of a title.
 std::size_t find_split_exponent(std::string_view text, std::size_t from) noexcept
 {
     for (std::size_t e = text.find("E ", from); e != std::string_view::npos; e = text.find("E ", e + 1)) {

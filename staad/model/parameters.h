@@ -1,5 +1,5 @@
 /// Parameter blocks that a host fills in for the generated wind and seismic loads. The library
-/// writes them; reading a file leaves them alone.
+/// writes them; reading a file does not change them.
 #ifndef STAAD_MODEL_PARAMETERS_H
 #define STAAD_MODEL_PARAMETERS_H
 

@@ -37,7 +37,7 @@ bool take_sign(std::string_view& text) noexcept
     return negative;
 }
 
-/// from_chars also knows "inf" and "nan", which no deck means as a number.
+/// from_chars also reads "inf" and "nan", which are never numbers in a deck.
 bool begins_a_decimal(std::string_view text) noexcept
 {
     if (!text.empty() && text.front() == '.')

@@ -1,4 +1,4 @@
-/// Text to numbers, by the rules of C's atoi and atof in the "C" locale with every answer defined.
+/// Text to numbers, by the rules of C's atoi and atof in the "C" locale, with a defined value for every text.
 /// Nothing else in the library turns text into numbers.
 #ifndef STAAD_TEXT_NUMBER_H
 #define STAAD_TEXT_NUMBER_H
@@ -26,7 +26,7 @@ number_parse<int> parse_int(std::string_view text) noexcept;
 /// both with the sign of the text.
 number_parse<double> parse_real(std::string_view text) noexcept;
 
-/// The value alone, for the many places where what is no number counts as 0.
+/// The value alone, for the many places where a word that is not a number counts as 0.
 inline int to_int(std::string_view text) noexcept
 {
     return parse_int(text).value;

@@ -46,7 +46,7 @@ constexpr struct {
     color_choice choice;
 } color_words[] = {{"auto", color_choice::automatic}, {"never", color_choice::never}, {"always", color_choice::always}};
 
-/// Sets display().color; why it cannot, or nothing.
+/// Sets display().color; returns an error message, empty if there is none.
 std::string choose_color(const std::string& word)
 {
     for (const auto& each : color_words) {
@@ -58,7 +58,7 @@ std::string choose_color(const std::string& word)
     return '\'' + word + "' is none of auto, never and always";
 }
 
-/// What every verb understands; it may also stand before the verb.
+/// The options of every verb; they may also stand before the verb.
 void add_display_options(CLI::App& command)
 {
     command.add_option("--color", "Show colours; auto, the default: on a terminal, unless NO_COLOR is set")

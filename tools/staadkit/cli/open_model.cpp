@@ -19,7 +19,7 @@ void add_error(STAAD::ReadReport& report, FindingCode code, std::string text, st
 
 constexpr const char* binary = "binary, not text";
 
-/// Whether the text is a listing of forces: files given in the wrong order are reported as such.
+/// Whether the text is a listing of forces, to report files given in the wrong order.
 bool is_listing(std::string_view text)
 {
     STAAD::SdReader model;
@@ -85,7 +85,7 @@ opened_model open_model(const std::string& path)
     try {
         opened.was_read = read_model(path, opened);
     } catch (const STAAD::ReadLimitError& error) {
-        opened.model = {}; // what was read by then may fill the memory
+        opened.model = {}; // what was read so far may fill the memory
         add_error(opened.report, FindingCode::limit, error.text(), error.first_line());
     } catch (const std::bad_alloc&) {
         fail_for_memory(opened, "not enough memory to read it");

@@ -18,13 +18,13 @@ struct opened_model {
     STAAD::ReadReport report; ///< holds an error if no model was read
 };
 
-/// Reads the file at `path`, or standard input for "-", opened for reading alone. Throws nothing: a file that asks for
-/// more memory than there is, or than a reading takes, holds no model.
+/// Reads the file at `path`, or standard input for "-", opened for reading only. Throws nothing: a file that
+/// needs more memory than there is, or than a reading may use, gives no model.
 opened_model open_model(const std::string& path);
 
-/// The findings of the reading of a listing of forces. The forces stand in the model.
+/// The findings from reading a listing of forces. The forces are in the model.
 struct opened_forces {
-    std::string name; ///< as that of a model
+    std::string name; ///< as for a model
     bool was_read = false;
     STAAD::ReadReport report; ///< holds an error if no forces were read
 };
@@ -32,7 +32,7 @@ struct opened_forces {
 /// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model);
 
-/// Takes the model away and notes the error: what is to be shown of it needs more memory than there is.
+/// Empties the model and reports the error: there is not enough memory to show it.
 void give_up_for_memory(opened_model& opened);
 
 /// Text of the first error of the report; empty if there is none.

@@ -1,4 +1,4 @@
-// The verb "compare": how a model differs from an earlier one, and what it can take over.
+// The verb "compare": how a model differs from an earlier one, and what it can take over from it.
 
 #include "cli/messages.h"
 #include "cli/open_model.h"
@@ -32,11 +32,11 @@ struct compare_options {
     bool with_notes = false;
 
     bool takes_over() const { return !out.empty(); }
-    /// The model goes to standard output, so there is no report.
+    /// The model goes to standard output, and no report is printed.
     bool out_is_standard_output() const { return out == "-"; }
 };
 
-/// What is wrong with the arguments; empty if nothing is.
+/// An error in the arguments; empty if there is none.
 std::string wrong_arguments(const compare_options& options)
 {
     if (options.now == "-" && options.earlier == "-")
@@ -46,7 +46,7 @@ std::string wrong_arguments(const compare_options& options)
     return {};
 }
 
-/// Why nothing can be taken over, whatever the models hold; empty if it can.
+/// Why nothing can be taken over from any model; empty if it can.
 std::string why_no_take_over(const compare_options& options)
 {
     if (!options.takes_over())

@@ -110,7 +110,7 @@ void each_field(const opened_model& opened, Visit visit)
     visit("findings", opened.report.findings);
 }
 
-/// All of it.
+/// The whole document.
 struct comparison_document {
     const opened_model& now;
     const opened_model& earlier;

@@ -45,7 +45,7 @@ bool has_item(std::string_view line, std::size_t number)
     return line.starts_with(start) || line.find("; " + start) != std::string_view::npos;
 }
 
-/// A line that goes on in the next one shows too little, unless it is known by its beginning.
+/// A line that goes on in the next one is no good example, unless the pattern has a beginning.
 bool fits(const line_pattern& pattern, std::string_view line)
 {
     if (pattern.begin.empty() && line.ends_with(" -"))
@@ -84,7 +84,7 @@ bool is_in_metres_and_kn(const SdReader& model)
     return model.length_factor == 1000.0 && model.force_factor == 1.0;
 }
 
-/// The first text that goes from file to file as it stands and has a number; empty if there is none.
+/// The first text that is written unchanged and has a number; empty if there is none.
 line_pattern first_kept_number(const SdReader& model)
 {
     for (const SdBeam& member : model.beams) {
@@ -114,7 +114,7 @@ void note_kept_units(const SdReader& model, conversion_notes& notes)
                          std::move(example)});
 }
 
-/// Two decimals are few for kN/mm.
+/// Two decimals lose much of a value in kN/mm.
 void note_equivalent_gravity(given_parameters given, conversion_notes& notes)
 {
     if (given.seismic)

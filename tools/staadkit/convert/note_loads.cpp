@@ -1,4 +1,4 @@
-// Loads: what their values mean, and which are not written.
+// Loads: the meaning of their values, and the kinds that are not written.
 
 #include "cli/messages.h"
 #include "convert/conversion_notes.h"
@@ -15,7 +15,7 @@ namespace {
 using STAAD::LoadDefination;
 using STAAD::SdReader;
 
-/// Loads that have no line in the written file, under the name that people have for them.
+/// Loads without a line in the written file, and the usual name for them.
 struct lost_kind {
     const char* noun;
     bool (*has)(const LoadDefination& load);
@@ -60,7 +60,7 @@ private:
     int first_case_ = std::numeric_limits<int>::max();
 };
 
-/// How many lines of the input under this command word no block has understood.
+/// Number of lines under this command word that no block has understood.
 std::size_t skipped_lines(const STAAD::ReadReport& report, std::string_view word)
 {
     std::size_t lines = 0;
@@ -77,7 +77,7 @@ std::size_t titles(const SdReader& model)
                                                   [](const auto& entry) { return !entry.second.title.empty(); }));
 }
 
-/// The header of the first case that has lost a load, or of the first case there is.
+/// The header of the first case that has lost a load, else of the first case.
 line_pattern header_pattern(const SdReader& model, const lost_loads& lost)
 {
     const auto& cases = model.load_cases;
@@ -107,7 +107,7 @@ void note_lost_loads(const SdReader& model, const STAAD::ReadReport& report, con
         notes.push_back({"loads-left-out", "not written: " + enumerated(words), header_pattern(model, lost)});
 }
 
-/// The best example there is: it shows both the unit and the turn of the axes.
+/// The best example: it shows both the unit and the turn of the axes.
 bool has_line_load_down(const SdReader& model)
 {
     return std::any_of(model.load_defs.begin(), model.load_defs.end(), [](const auto& entry) {
@@ -119,7 +119,7 @@ bool has_line_load_down(const SdReader& model)
 
 void note_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
 {
-    // Has its example, and is printed, only if there are member loads.
+    // There is an example, and the note is printed, only if there are member loads.
     notes.push_back({"loads",
                      "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is "
                      "written as GZ)",

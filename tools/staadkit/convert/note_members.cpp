@@ -1,4 +1,4 @@
-// Members and elements: what they had in the input and do not have in the written file.
+// Members and elements: what the written file loses of them.
 
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
@@ -16,7 +16,7 @@ bool is_zero(const STAAD::SdOffset& offset)
     return offset.x == 0.0 && offset.y == 0.0 && offset.z == 0.0;
 }
 
-/// Counts the members that `has` something and knows the new number of the first.
+/// Counts the members for which `has` holds, and gives the new number of the first.
 template<class Has>
 std::pair<std::size_t, std::size_t> count_members(const SdReader& model, Has has)
 {
@@ -40,7 +40,7 @@ void note_offsets(const SdReader& model, conversion_notes& notes)
                          {.block = "MEMBER INCIDENCES", .item = first}});
 }
 
-/// Reading leaves the kind of every member at 0, and the writer goes by it.
+/// Reading leaves the kind of every member at 0, and only the kind makes the writer write trusses.
 void note_trusses(const SdReader& model, conversion_notes& notes)
 {
     const auto [count, first] = count_members(model, [&](const STAAD::SdBeam& member) {

@@ -18,9 +18,9 @@ struct renumbering {
     const char* noun;
     const char* block; ///< where they are defined
     const std::map<int, int>& positions;
-    std::size_t size;        ///< of the list they stand in
-    int before_first;        ///< the new number less the position
-    std::size_t changed = 0; ///< how many have another number now
+    std::size_t size;        ///< of their list
+    int before_first;        ///< the new number minus the position
+    std::size_t changed = 0; ///< how many have a different number now
     int first_old = 0;       ///< the first of these
     int first_new = 0;
 
@@ -30,7 +30,7 @@ struct renumbering {
         return entry == positions.end() || entry->second < 1 ? 0 : entry->second + before_first;
     }
 
-    /// True if the old number means something else now, or something where it meant nothing.
+    /// True if the number now belongs to another record, or to one where it belonged to none.
     bool misleads(int number) const
     {
         const int now = new_number(number);
@@ -57,8 +57,8 @@ renumbering renumber(const char* noun, const char* block, const Records& records
     return result;
 }
 
-/// The three renumberings of a model. Copies of surfaces are not among its elements here: their old
-/// numbers are those of surfaces, which no list names.
+/// The three renumberings of a model. Copies of surfaces are no elements here: their old numbers are those of
+/// surfaces, which no list names.
 struct renumberings {
     explicit renumberings(const SdReader& model)
         : joints(renumber("joint", "JOINT COORDINATES", model.nodes, model.nodes.size(), model.node_index, 0)),
@@ -87,8 +87,7 @@ bool any_misleads(const std::vector<Number>& numbers, const renumbering& numberi
                        [&](Number number) { return numbering.misleads(static_cast<int>(number)); });
 }
 
-/// What the lists that name other joints, members or elements than before are called, and where the
-/// first of them stands.
+/// The names of the lists that now name other joints, members or elements, and the place of the first of them.
 struct misleading_lists {
     std::vector<std::string> names;
     line_pattern first;

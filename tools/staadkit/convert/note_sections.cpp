@@ -16,8 +16,8 @@ using STAAD::SdBeam;
 using STAAD::SdReader;
 using STAAD::SdUserSectionTable;
 
-/// True if the written text of the section no longer names its dimensions, or says nothing else: what
-/// was PRIS YD 0.5 ZD 0.3 is PRIS500X300.
+/// True if the written text of the section no longer names its dimensions, or has nothing else: PRIS YD 0.5 ZD
+/// 0.3 becomes PRIS500X300.
 bool has_lost_names(const SdBeam& member)
 {
     const bool is_pipe = member.sect_text.starts_with("TABLE") && member.sect_text != member.sect_name;
@@ -50,14 +50,14 @@ std::string shortened(const std::vector<std::string>& names)
     return names.size() > most_named ? text + ", ..." : text;
 }
 
-/// What a table without a family of its own is marked with.
+/// The text without the mark of a table that has no UNIT line.
 std::string_view without_mark(std::string_view text)
 {
     constexpr std::string_view mark = "00";
     return text.substr(text.starts_with(mark) ? mark.size() : 0);
 }
 
-/// Tables whose family, which follows from the number of the table, is not the one they had.
+/// Tables that get another family, because the family follows from the number of the table.
 std::vector<std::string> changed_families(const SdReader& model)
 {
     std::vector<std::string> changes;
@@ -71,7 +71,7 @@ std::vector<std::string> changed_families(const SdReader& model)
     return changes;
 }
 
-/// Tables whose numbers are in other units than the UNIT line of the written file says.
+/// Tables whose numbers are in other units than those of the written UNIT line.
 std::vector<std::string> lost_units(const SdReader& model)
 {
     const SdUserSectionTable in_metres;
@@ -107,7 +107,7 @@ void note_user_tables(const SdReader& model, conversion_notes& notes)
 
 constexpr const char* no_name = "(no name)";
 
-/// What the written library defines, whatever the input does.
+/// True for the materials that every written file defines.
 bool is_in_library(const std::string& material)
 {
     constexpr const char* names[] = {"STEEL", "C1", "CONCRETE", "STAINLESSSTEEL", "ALUMINUM"};

@@ -1,4 +1,5 @@
-// Values that a parameter file must not have although their types are right, and what will not be written.
+// Values that a parameter file must not have although their types are right, and values that will not be
+// written.
 
 #include "convert/parameter_file.h"
 
@@ -17,7 +18,7 @@ namespace {
 using STAAD::Finding;
 using STAAD::ReadReport;
 
-/// `places` is how many places of the field are wrong in this way; the text names the first.
+/// `places` is the number of places of the field with this error; the text names the first.
 void add(ReadReport& report, Finding::Severity severity, const char* code, std::string text, std::size_t places = 1)
 {
     Finding finding{severity, code, 0, 0, std::move(text)};
@@ -65,7 +66,7 @@ void check_length(const std::string& list, std::size_t length, const char* count
             "field " + list + " has " + values_in_words(length) + ", " + count_name + " is " + std::to_string(count));
 }
 
-// The words that a field may have, in UTF-8. An empty text says nothing and is allowed.
+// The words that a field may have, in UTF-8. An empty text is allowed.
 constexpr std::string_view terrain_categories[] = {
     "A", "B", "C", "D", "A\xE7\xB1\xBB", "B\xE7\xB1\xBB", "C\xE7\xB1\xBB", "D\xE7\xB1\xBB", // "class" after the letter
 };
@@ -118,7 +119,7 @@ void check_profiles(const STAAD::WindLoadParam& wind, ReadReport& report)
 }
 
 struct spectrum {
-    const char* axis; ///< the end of the names of its fields
+    const char* axis; ///< the last letter of its fields' names
     const std::string& title;
     const std::vector<double>& values;
     bool has_freedom; ///< without it no spectrum is written

@@ -39,7 +39,7 @@ bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& re
     return was_read;
 }
 
-/// The part of a parser's message after its own name for the error and the place.
+/// The parser's message without its own name for the error and the place.
 std::string bare_message(std::string_view message)
 {
     constexpr std::string_view end_of_place = ": ";
@@ -51,7 +51,7 @@ std::string bare_message(std::string_view message)
 
 void add_syntax_error(STAAD::ReadReport& report, std::string_view text, const json::parse_error& error)
 {
-    // The error counts bytes from 1, and past the end by one where the text ends too early.
+    // The error counts bytes from 1; if the text ends too early it is one past the end.
     const std::string_view before =
         text.substr(0, std::min(error.byte - std::min<std::size_t>(error.byte, 1), text.size()));
     const auto line = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
@@ -59,7 +59,7 @@ void add_syntax_error(STAAD::ReadReport& report, std::string_view text, const js
     add_error(report, "json", "column " + std::to_string(column) + ": " + bare_message(error.what()), line);
 }
 
-/// The object that a parameter file holds; discarded, with the errors in the report, if it holds none.
+/// The object in a parameter file; if it has none, a discarded value, and the errors are in the report.
 json parse_object(const std::string& text, STAAD::ReadReport& report)
 {
     std::set<std::string> keys;
@@ -85,7 +85,7 @@ json parse_object(const std::string& text, STAAD::ReadReport& report)
     return json::value_t::discarded;
 }
 
-/// Sets a field of a record from its value. Each call gives what is wrong with the value, empty if nothing.
+/// Sets a field of a record from its value. Each call returns the error of the value, empty if there is none.
 /// `place` is the name of the field, "mius[0][2]" within lists.
 class field_filler {
 public:
@@ -162,7 +162,7 @@ private:
     static bool is_control(char c) noexcept { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }
 };
 
-/// Free for the author of the file; it is not written.
+/// Free for the user of the file; not written.
 bool is_optional(std::string_view name)
 {
     return name == "title";

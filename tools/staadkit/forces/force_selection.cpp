@@ -59,7 +59,7 @@ std::set<int> case_numbers(const SdReader& model)
     return numbers;
 }
 
-/// Those of the `known` numbers that are in the ranges.
+/// The `known` numbers that are in the ranges.
 std::set<int> numbers_in(const number_ranges& ranges, const std::set<int>& known)
 {
     std::set<int> numbers;
@@ -68,7 +68,7 @@ std::set<int> numbers_in(const number_ranges& ranges, const std::set<int>& known
     return numbers;
 }
 
-/// The ranges without any of the `known` numbers, as a list; gaps within a range are none of them.
+/// The ranges that have none of the `known` numbers, as a list; gaps within a range do not matter.
 std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& known)
 {
     number_ranges unknown;
@@ -80,7 +80,7 @@ std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& kno
     return STAAD::format_id_ranges({}, unknown, std::numeric_limits<std::size_t>::max());
 }
 
-/// Warns of those of the `wanted` numbers that are not in `present`.
+/// Warns of the `wanted` numbers that are not in `present`.
 void report_missing(const std::set<int>& wanted, const std::set<int>& present, FindingCode code, const char* what,
                     STAAD::ReadReport& report)
 {

@@ -25,7 +25,7 @@ struct info_options {
     bool with_notes = false;
 };
 
-/// What the model holds; none if there is no model, or no memory for it, which becomes an error of `opened`.
+/// The summary of the model; none if there is no model, or not enough memory, which is reported in `opened`.
 std::optional<model_summary> summary_of(opened_model& opened)
 {
     try {
@@ -37,7 +37,7 @@ std::optional<model_summary> summary_of(opened_model& opened)
     return std::nullopt;
 }
 
-/// Opens the files one after the other; of several models only one is held at a time.
+/// Opens the files one after the other, and holds one model at a time.
 class info_printer {
 public:
     explicit info_printer(const info_options& options) : options_(options), is_single_(options.files.size() == 1) {}
@@ -67,7 +67,7 @@ private:
     void put_report(opened_model opened)
     {
         const std::optional<model_summary> summary = summary_of(opened);
-        // What was skipped stands in the report itself.
+        // The report itself shows what was skipped.
         print_findings(opened.name, opened.report, least_severity(options_.with_notes), skipped_code);
         if (!summary)
             worst_ = std::max(worst_, no_model);

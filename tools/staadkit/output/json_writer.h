@@ -1,5 +1,4 @@
-/// Writes values of a model as JSON, straight to standard output: a model of any size needs no
-/// second copy of itself.
+/// Writes values of a model as JSON, straight to standard output: a model of any size is never copied.
 ///
 /// Records are objects with a key for each field in declaration order, see staad/model/fields.h. Below the
 /// top of a document each record of a list and each entry of a map has a line of its own.
@@ -39,7 +38,7 @@ class json_writer {
 public:
     explicit json_writer(std_output& out) : out_(out) {}
 
-    /// A record as a whole document, with the end of its last line.
+    /// A record as a whole document, with a line feed at its end.
     template<class Record>
     void document(const Record& record)
     {
@@ -55,7 +54,7 @@ public:
     /// The fewest digits that read back to the same bits. JSON has no infinities and no NaN:
     /// these become the texts "Infinity", "-Infinity" and "NaN".
     void value(double number);
-    /// UTF-8 as it stands, else decoded from GBK, else each byte as \u00XX.
+    /// UTF-8 unchanged, else decoded from GBK, else each byte as \u00XX.
     void value(const std::string& text);
     /// [x, y, z]
     void value(const STAAD::SdOffset& offset);
@@ -112,7 +111,7 @@ public:
     }
 
 private:
-    /// What an open object or list still has to know.
+    /// The state of an open object or list.
     struct nesting {
         bool on_lines = false; ///< each item on a line of its own
         bool has_items = false;

@@ -49,7 +49,7 @@ void each_field(const numbered_section& section, Visit visit)
     visit("storeys", section.storeys);
 }
 
-/// What is in no storey for one reason.
+/// Members and elements that are in no storey for the same reason.
 struct outside_record {
     outside reason;
     const level_contents& contents;
@@ -70,11 +70,11 @@ void each_field(const opened_forces& forces, Visit visit)
     visit("findings", forces.report.findings);
 }
 
-/// All of it.
+/// The whole document.
 struct storeys_document {
     const opened_model& opened;
     const std::optional<opened_forces>& forces;
-    const storeys_summary* summary; ///< null: there was nothing to take it from
+    const storeys_summary* summary; ///< null if no model was read
 };
 
 template<class Visit>

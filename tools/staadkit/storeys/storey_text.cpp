@@ -20,13 +20,13 @@ std::string exact_metres(double length)
 
 std::string heading(const storeys_summary& summary)
 {
-    // One level is a storey here: its height is no distance between levels, and is said to be none.
+    // A single level is one storey, whose height is no distance between levels.
     if (summary.levels.size() == 1)
         return "storeys: 1 (one level, at " + exact_metres(summary.levels.front()) + " m: height by convention)\n";
     return "storeys: " + storeys_in_words(summary.levels) + (summary.levels.empty() ? "\n" : ", from the top down\n");
 }
 
-/// Numbers of things: of a storey, of what is in none, of everything.
+/// Counts of a storey, of the records in none, or of everything.
 struct counts {
     std::size_t joints = 0;
     std::array<std::size_t, 4> members_of{};
@@ -117,7 +117,7 @@ void add_numbers(table& rows, const char* reason, const std::vector<int>& number
         rows.add_row({reason, count_of(numbers.size(), noun), run_list(numbers)});
 }
 
-/// Joints count in the table, but need not be looked for: feet of columns are at the lowest level.
+/// Joints are counted in the table but not listed: the feet of columns are at the lowest level.
 void put_outside(std_output& out, const storeys_summary& summary)
 {
     table rows;
