@@ -37,15 +37,6 @@ std::string_view with_whole_exponents(std::string_view text, std::string& copy)
     return copy.append(text.substr(begin));
 }
 
-bool looks_like_a_number(std::string_view word) noexcept
-{
-    if (!word.empty() && (word.front() == '-' || word.front() == '+'))
-        word.remove_prefix(1);
-    if (!word.empty() && word.front() == '.')
-        word.remove_prefix(1);
-    return chk_isdigit(word);
-}
-
 } // namespace
 
 void force_line::parse(const text_line& line)
@@ -97,7 +88,7 @@ ForcePoint force_line::station() const noexcept
 std::string_view force_line::unreadable_number() const noexcept
 {
     for (std::size_t i = 0; i < values_per_station; ++i) {
-        if (!looks_like_a_number(value(i)))
+        if (!parse_real(value(i)).is_number())
             return value(i);
     }
     return {};

@@ -40,7 +40,7 @@ public:
     int load_case_number() const noexcept;
     /// The last seven words as numbers, as printed.
     ForcePoint station() const noexcept;
-    /// First of the last seven words that does not look like a number; empty if all do.
+    /// First of the last seven words that does not begin with a number; empty if all do.
     std::string_view unreadable_number() const noexcept;
 
 private:

@@ -9,7 +9,7 @@
 
 namespace STAAD {
 
-/// Wind parameters. Numbers are written as they stand: the units are the host's, in practice m,
+/// Wind parameters. Numbers are written unchanged: the units are the host's, in practice m,
 /// kN/m2 and s.
 struct WindLoadParam {
     std::string title;                               ///< free for the host; not written

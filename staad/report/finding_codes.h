@@ -67,7 +67,6 @@ enum class FindingCode : int {
     field_missing,
     field_twice,
     field_value,
-    field_word,
     list_length,
     spectrum,
     // What a written deck says differently from the one read, or leaves out.

@@ -146,7 +146,7 @@ struct line_case {
 };
 
 const std::string dead = "LOAD 1 LOADTYPE Dead TITLE DL\n";
-const char* const load_case_0 = "load case 0: what stands under headers without a number (LOAD R1) or with 0";
+const char* const load_case_0 = "load case 0: loads under headers without a number (LOAD R1) or with 0";
 const char* const area_rows = "G1\n0.01 0.2 0.3\nG2\n0.02 0.2 0.3 0.00002\n0.0001\n0.004 0.003\n";
 
 const line_case line_cases[] = {

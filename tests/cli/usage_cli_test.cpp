@@ -41,7 +41,7 @@ TEST(Usage, HelpNamesCallOptionsAndExitCodes)
         for (const std::string& option : each.options)
             EXPECT_TRUE(contains(result.out, "\n  " + option + ' ')) << option << " is not in\n" << result.out;
         for (const char* line :
-             {"  0  done, warnings included", "  1  done, with findings or differences, of a verb that checks",
+             {"  0  done, warnings included", "  1  done, with findings or differences, by a verb that checks",
               "  2  wrong usage", "  3  no model in the input", "  4  output not written"})
             EXPECT_TRUE(has_line(result.out, line) && has_line(all, line)) << each.verb << ": " << line;
         const tool_result asked = tool({"help", each.verb});

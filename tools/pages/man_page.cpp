@@ -109,7 +109,7 @@ std::string man_page(const command_outline& app)
                        ".TH STAADKIT 1 \"\" \"staadkit " STAADKIT_VERSION "\" \"User Commands\"\n";
     text += ".SH NAME\n" + name_line(app) + ".SH SYNOPSIS\n" + synopsis(app);
     text += ".SH DESCRIPTION\n"
-            "Models are shown in mm, kN and kN*mm, z up, whatever the units of the file.\n"
+            "Models are shown in mm, kN and kN*mm, z up, in whatever units the file is.\n"
             ".PP\n"
             "Results go to standard output, messages to standard error.\n";
     text += ".SH OPTIONS\n" + option_items(app) + ".SH VERBS\n";

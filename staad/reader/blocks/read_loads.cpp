@@ -162,7 +162,7 @@ private:
         if (model_.load_cases.count(header.id) != 0)
             context_.findings.add(FindingCode::load_again, line.place, [&] {
                 return "load case " + std::to_string(header.id) + " was there before; " + detail::quote(line.text) +
-                       " takes the place of its header, loads of both stay";
+                       " replaces its header; the loads of both stay";
             });
     }
 

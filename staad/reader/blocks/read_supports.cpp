@@ -108,11 +108,11 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
 /// missing number.
 void check_number(std::string_view word, const text_line& line, reading& context)
 {
-    if (!context.findings.listening() || detail::parse_real(word).is_number())
+    if (!context.findings.listening() || parse_real(word).is_number())
         return;
     context.findings.add(FindingCode::number_word, line.place, [&] {
         return detail::quote(line.text) + ": " +
-               (word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due") +
+               (word.empty() ? "a number is missing" : detail::quote(word) + " is in the place of a number") +
                " and counts as 0";
     });
 }

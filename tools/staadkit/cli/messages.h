@@ -2,16 +2,26 @@
 #ifndef TOOLS_STAADKIT_CLI_MESSAGES_H
 #define TOOLS_STAADKIT_CLI_MESSAGES_H
 
+#include "staad/report/finding_codes.h"
 #include "staad/report/read_report.h"
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tool {
 
 /// Code of the findings that name lines of the file that are not in the model. Their count is the number of
 /// lines.
 inline constexpr const char* skipped_code = "skipped";
+
+/// Adds a finding of the code's own severity, at a line or about the text as a whole; `count` as Finding has it.
+inline void add_finding(STAAD::ReadReport& report, STAAD::FindingCode code, std::string text, std::size_t line = 0,
+                        std::size_t count = 1)
+{
+    report.findings.push_back(STAAD::make_finding(code, std::move(text), line, line));
+    report.findings.back().count = count;
+}
 
 /// "staadkit: error: TEXT", for errors that no file has caused.
 void print_error(std::string_view text);

@@ -10,24 +10,23 @@
 
 namespace tool {
 
-/// A model, and the findings of its reading.
-struct opened_model {
+/// An input file and the findings from reading it.
+struct opened_input {
     std::string name; ///< for messages: the path as given, "<stdin>" for "-"
     bool was_read = false;
-    STAAD::SdReader model;
-    STAAD::ReadReport report; ///< holds an error if no model was read
+    STAAD::ReadReport report; ///< has an error if no model or no forces were read
 };
+
+struct opened_model : opened_input {
+    STAAD::SdReader model;
+};
+
+/// A listing of forces. The forces are in the model.
+struct opened_forces : opened_input {};
 
 /// Reads the file at `path`, or standard input for "-", opened for reading only. Throws nothing: a file that
 /// needs more memory than there is, or than a reading may use, gives no model.
 opened_model open_model(const std::string& path);
-
-/// The findings from reading a listing of forces. The forces are in the model.
-struct opened_forces {
-    std::string name; ///< as for a model
-    bool was_read = false;
-    STAAD::ReadReport report; ///< holds an error if no forces were read
-};
 
 /// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model);

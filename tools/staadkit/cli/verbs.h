@@ -26,7 +26,7 @@ struct exit_code_meaning {
 
 inline constexpr exit_code_meaning exit_code_meanings[] = {
     {done, "done, warnings included"},
-    {done_with_findings, "done, with findings or differences, of a verb that checks"},
+    {done_with_findings, "done, with findings or differences, by a verb that checks"},
     {wrong_usage, "wrong usage"},
     {no_model, "no model in the input"},
     {not_written, "output not written"}};

@@ -135,9 +135,7 @@ exit_code run_compare(const compare_options& options)
 verb_action set_up_compare(CLI::App& command)
 {
     const auto options = std::make_shared<compare_options>();
-    command.add_option("NEW", options->now, "The .std file of today; - reads standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("NEW", options->now, "The new .std file; - reads standard input")->required()->option_text(" ");
     command.add_option("OLD", options->earlier, "The earlier .std file; - reads standard input")
         ->required()
         ->option_text(" ");
@@ -145,7 +143,7 @@ verb_action set_up_compare(CLI::App& command)
                                                 "Write NEW to OUT with the groups, supports and releases of OLD");
     out->type_name("OUT")->option_text("OUT");
     command.add_flag("--yes", options->yes, "Take over without asking first")->needs(out)->option_text(" ");
-    command.add_flag("--force", options->force, "Overwrite OUT if it is there, even if it is NEW or OLD")
+    command.add_flag("--force", options->force, "Overwrite OUT if it exists, even if it is NEW or OLD")
         ->needs(out)
         ->option_text(" ");
     command.add_flag("--json", options->as_json, "Print JSON, with all the numbers");

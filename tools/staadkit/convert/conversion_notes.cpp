@@ -9,6 +9,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdBeam;
 using STAAD::SdReader;
 
@@ -109,7 +110,7 @@ void note_kept_units(const SdReader& model, conversion_notes& notes)
         return;
     line_pattern example = first_kept_number(model);
     if (!example.block.empty())
-        notes.push_back({"kept-units",
+        notes.push_back({FindingCode::kept_units,
                          "numbers in sections, supports and releases keep the units of the input, " + model.unit_text,
                          std::move(example)});
 }
@@ -118,7 +119,7 @@ void note_kept_units(const SdReader& model, conversion_notes& notes)
 void note_equivalent_gravity(given_parameters given, conversion_notes& notes)
 {
     if (given.seismic)
-        notes.push_back({"gravity",
+        notes.push_back({FindingCode::gravity,
                          "equivalent gravity is written in kN and mm with two decimals: line loads may come to nothing",
                          {.block = "*{ LOADNO FACTOR", .end = " -0.00 "}});
 }
@@ -132,7 +133,7 @@ void note_generated(given_parameters given, conversion_notes& notes)
         text += "; without --wind the wind holds no values";
     else if (!given.seismic)
         text += "; without --seismic the seismic case holds no values";
-    notes.push_back({"generated", std::move(text), {.begin = "LOAD ", .end = " WL AUTO WIND LOAD"}});
+    notes.push_back({FindingCode::generated, std::move(text), {.begin = "LOAD ", .end = " WL AUTO WIND LOAD"}});
 }
 
 } // namespace
@@ -167,12 +168,7 @@ void print_notes(std::string_view name, std::string_view text, const conversion_
         const written_line line = find_line(text, note.example);
         if (line.number == 0)
             continue;
-        STAAD::Finding finding;
-        finding.code = note.code;
-        finding.first_line = line.number;
-        finding.last_line = line.number;
-        finding.text = note.text;
-        print_finding(name, finding);
+        print_finding(name, STAAD::make_finding(note.code, note.text, line.number, line.number));
         print_example(line.text);
     }
 }

@@ -4,6 +4,7 @@
 #define TOOLS_STAADKIT_CONVERT_CONVERSION_NOTES_H
 
 #include "staad/model/sd_reader.h"
+#include "staad/report/finding_codes.h"
 #include "staad/report/read_report.h"
 
 #include <cstddef>
@@ -24,7 +25,7 @@ struct line_pattern {
 };
 
 struct conversion_note {
-    const char* code; ///< short and fixed, for programs
+    STAAD::FindingCode code;
     std::string text; ///< without the place; may hold texts of the model
     line_pattern example;
 };

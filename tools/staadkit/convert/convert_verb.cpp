@@ -122,7 +122,7 @@ verb_action set_up_convert(CLI::App& command)
         ->type_name("FILE");
     command.add_option("--seismic", options->seismic, "JSON file with the parameters of the generated seismic case")
         ->type_name("FILE");
-    command.add_flag("--force", options->force, "Overwrite OUT if it is there, even if it is IN");
+    command.add_flag("--force", options->force, "Overwrite OUT if it exists, even if it is IN");
     command.add_flag("--notes", options->with_notes, "Also print notes of the reading, not only warnings and errors");
     const auto choose_template = [options, in, out](const std::string& name) {
         options->template_name = name;

@@ -4,6 +4,8 @@
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <limits>
@@ -12,6 +14,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::LoadDefination;
 using STAAD::SdReader;
 
@@ -86,7 +89,7 @@ line_pattern header_pattern(const SdReader& model, const lost_loads& lost)
     auto entry = std::find_if(cases.begin(), cases.end(), [&](const auto& each) { return lost.in_case(each.first); });
     if (entry == cases.end())
         entry = cases.begin();
-    return {.begin = "LOAD " + std::to_string(entry->second.id) + " LOADTYPE "};
+    return {.begin = fmt::format("LOAD {} LOADTYPE ", entry->second.id)};
 }
 
 void note_lost_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
@@ -104,7 +107,8 @@ void note_lost_loads(const SdReader& model, const STAAD::ReadReport& report, con
     if (model.load_defs.empty() && !model.load_cases.empty())
         words.push_back(count_of(model.load_cases.size(), "load case") + " without loads");
     if (!words.empty())
-        notes.push_back({"loads-left-out", "not written: " + enumerated(words), header_pattern(model, lost)});
+        notes.push_back(
+            {FindingCode::loads_left_out, "not written: " + enumerated(words), header_pattern(model, lost)});
 }
 
 /// The best example: it shows both the unit and the turn of the axes.
@@ -120,7 +124,7 @@ bool has_line_load_down(const SdReader& model)
 void note_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
 {
     // There is an example, and the note is printed, only if there are member loads.
-    notes.push_back({"loads",
+    notes.push_back({FindingCode::loads,
                      "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is "
                      "written as GZ)",
                      {.block = "MEMBER LOAD", .part = has_line_load_down(model) ? " UNI GZ " : ""}});

@@ -3,12 +3,15 @@
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
 
+#include <fmt/format.h>
+
 #include <cstddef>
 #include <utility>
 
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdReader;
 
 bool is_zero(const STAAD::SdOffset& offset)
@@ -35,7 +38,7 @@ void note_offsets(const SdReader& model, conversion_notes& notes)
         return !is_zero(member.offset_start) || !is_zero(member.offset_end);
     });
     if (count != 0)
-        notes.push_back({"offsets",
+        notes.push_back({FindingCode::offsets,
                          "the offsets of " + count_of(count, "member") + " are not written",
                          {.block = "MEMBER INCIDENCES", .item = first}});
 }
@@ -48,7 +51,7 @@ void note_trusses(const SdReader& model, conversion_notes& notes)
     });
     if (count != 0)
         notes.push_back(
-            {"trusses",
+            {FindingCode::trusses,
              "written as plain members: " + count_of(count, "truss, tension-only or compression-only member"),
              {.block = "MEMBER INCIDENCES", .item = first}});
 }
@@ -59,8 +62,8 @@ void note_surfaces(const SdReader& model, conversion_notes& notes)
     if (count == 0 || model.shells.size() < count)
         return;
     const std::size_t first = model.beams.size() + model.shells.size() - count + 1;
-    notes.push_back({"surfaces",
-                     "written as elements from " + std::to_string(first) + " on: " + count_of(count, "surface"),
+    notes.push_back({FindingCode::surfaces,
+                     fmt::format("written as elements from {} on: {}", first, count_of(count, "surface")),
                      {.block = "ELEMENT INCIDENCES SHELL", .item = first}});
 }
 

@@ -3,6 +3,8 @@
 #include "convert/conversion_notes.h"
 #include "staad/query/lookup.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -10,6 +12,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdGroup;
 using STAAD::SdReader;
 
@@ -136,18 +139,17 @@ void note_numbers(const SdReader& model, conversion_notes& notes)
         if (changed.empty())
             example = {.block = each->block};
         changed.push_back(std::string(each->noun) + 's');
-        examples.push_back(std::string(each->noun) + ' ' + std::to_string(each->first_old) + " is " +
-                           std::to_string(each->first_new));
+        examples.push_back(fmt::format("{} {} is {}", each->noun, each->first_old, each->first_new));
     }
     if (changed.empty())
         return;
     const misleading_lists lists = find_misleading_lists(model, all);
-    std::string text = enumerated(changed) + " have new numbers (" + enumerated(examples) + ')';
+    std::string text = fmt::format("{} have new numbers ({})", enumerated(changed), enumerated(examples));
     if (!lists.names.empty()) {
         text += "; " + enumerated(lists.names) + " still name the old ones";
         example = lists.first;
     }
-    notes.push_back({"numbers", std::move(text), std::move(example)});
+    notes.push_back({FindingCode::numbers, std::move(text), std::move(example)});
 }
 
 } // namespace tool

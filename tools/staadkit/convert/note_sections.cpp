@@ -3,6 +3,8 @@
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
@@ -12,6 +14,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdBeam;
 using STAAD::SdReader;
 using STAAD::SdUserSectionTable;
@@ -30,14 +33,14 @@ line_pattern property_line(const SdBeam& member)
 }
 
 template<class Matches>
-void note_property(const SdReader& model, const char* code, const char* before, const char* after, Matches matches,
+void note_property(const SdReader& model, FindingCode code, const char* before, const char* after, Matches matches,
                    conversion_notes& notes)
 {
     const auto first = std::find_if(model.beams.begin(), model.beams.end(), matches);
     if (first == model.beams.end())
         return;
     const auto count = static_cast<std::size_t>(std::count_if(first, model.beams.end(), matches));
-    notes.push_back({code, before + count_of(count, "member") + after, property_line(*first)});
+    notes.push_back({code, fmt::format("{}{}{}", before, count_of(count, "member"), after), property_line(*first)});
 }
 
 /// The first few of many, joined by commas.
@@ -66,7 +69,7 @@ std::vector<std::string> changed_families(const SdReader& model)
         if (number >= STAAD::WideFlange && number <= STAAD::Prismatic)
             written.SetType(static_cast<STAAD::UsrDefineSectionType>(number));
         if (written.type != without_mark(table.type))
-            changes.push_back("TABLE " + std::to_string(number) + " is " + written.type + " and was " + table.type);
+            changes.push_back(fmt::format("TABLE {} is {} and was {}", number, written.type, table.type));
     }
     return changes;
 }
@@ -78,7 +81,7 @@ std::vector<std::string> lost_units(const SdReader& model)
     std::vector<std::string> losses;
     for (const auto& [number, table] : model.usr_tables) {
         if (without_mark(table.unit) != in_metres.unit)
-            losses.push_back("TABLE " + std::to_string(number) + " has lost its " + table.unit);
+            losses.push_back(fmt::format("TABLE {} has lost its {}", number, table.unit));
     }
     return losses;
 }
@@ -102,7 +105,7 @@ void note_user_tables(const SdReader& model, conversion_notes& notes)
         if (!changes.empty())
             text += "; " + shortened(changes);
     }
-    notes.push_back({"user-tables", std::move(text), table_line(model)});
+    notes.push_back({FindingCode::user_tables, std::move(text), table_line(model)});
 }
 
 constexpr const char* no_name = "(no name)";
@@ -135,17 +138,18 @@ void note_materials(const SdReader& model, conversion_notes& notes)
         return;
     std::string text = "not in the material library that is written: " + shortened({names.begin(), names.end()});
     const std::string first = *names.begin() == no_name ? "" : *names.begin();
-    notes.push_back({"materials", std::move(text), {.block = "CONSTANTS", .begin = "MATERIAL " + first + ' '}});
+    notes.push_back(
+        {FindingCode::materials, std::move(text), {.block = "CONSTANTS", .begin = "MATERIAL " + first + ' '}});
 }
 
 } // namespace
 
 void note_sections(const SdReader& model, conversion_notes& notes)
 {
-    note_property(model, "sections", "sections of ", " are bare mm, which the analysis program cannot read",
+    note_property(model, FindingCode::sections, "sections of ", " are bare mm, which the analysis program cannot read",
                   has_lost_names, notes);
     note_property(
-        model, "no-section", "the list of ", " without a section has nothing after it",
+        model, FindingCode::no_section, "the list of ", " without a section has nothing after it",
         [](const SdBeam& member) { return member.sect_text.empty() && member.sect_name.empty(); }, notes);
     note_user_tables(model, notes);
     note_materials(model, notes);

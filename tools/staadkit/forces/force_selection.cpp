@@ -2,12 +2,12 @@
 
 #include "output/phrases.h"
 #include "staad/report/finding_codes.h"
+#include "staad/text/number.h"
 #include "staad/text/ranges.h"
 #include "staad/text/split_string.h"
 
 #include <fmt/format.h>
 
-#include <charconv>
 #include <limits>
 #include <optional>
 #include <set>
@@ -20,11 +20,8 @@ using STAAD::SdReader;
 
 std::optional<int> whole_number(const std::string& word)
 {
-    int number = 0;
-    const std::from_chars_result end = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (end.ec != std::errc() || end.ptr != word.data() + word.size())
-        return std::nullopt;
-    return number;
+    const auto parsed = STAAD::parse_int(word);
+    return parsed.is_all_of(word) ? std::optional(parsed.value) : std::nullopt;
 }
 
 std::set<int> member_numbers(const SdReader& model)

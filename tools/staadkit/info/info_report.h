@@ -4,6 +4,7 @@
 
 #include "cli/open_model.h"
 #include "info/model_summary.h"
+#include "output/json_writer.h"
 #include "output/std_output.h"
 
 #include <string>
@@ -24,6 +25,8 @@ std::string info_line(const opened_model& opened);
 
 /// Prints one object: what the text shows, numbers not rounded, and the findings.
 void put_info_json(std_output& out, const info_report& report);
+/// Adds the same object to an array.
+void add_info_json(json_array& array, const info_report& report);
 
 } // namespace tool
 

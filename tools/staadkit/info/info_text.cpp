@@ -194,7 +194,7 @@ void put_load_cases(std_output& out, const model_summary& summary)
                       cell_text(definitions(each), "")});
     put_block(out, "load cases", rows);
     if (std::any_of(summary.load_cases.begin(), summary.load_cases.end(), is_load_case_0))
-        out.put(line("load case 0", "what stands under headers without a number (LOAD R1) or with 0"));
+        out.put(line("load case 0", "loads under headers without a number (LOAD R1) or with 0"));
 }
 
 void put_skipped(std_output& out, const model_summary& summary)

@@ -44,22 +44,17 @@ public:
 
     exit_code print()
     {
-        const bool is_array = options_.as_json && !is_single_;
-        const char* before = "[\n";
         std::optional<progress_line> progress;
         if (!is_single_)
             progress.emplace(std::string(), progress_line::unit::files);
         std::size_t count = 0;
         for (const std::string& file : options_.files) {
-            if (is_array)
-                out_.put(before);
-            before = ",\n";
             put_report(open_model(file));
             if (progress)
                 progress->update(++count, options_.files.size());
         }
-        if (is_array)
-            out_.put("]\n");
+        if (options_.as_json && !is_single_)
+            array_.close();
         return out_.close(worst_);
     }
 
@@ -72,8 +67,10 @@ private:
         if (!summary)
             worst_ = std::max(worst_, no_model);
         const info_report report{opened, summary ? &*summary : nullptr};
-        if (options_.as_json)
+        if (options_.as_json && is_single_)
             put_info_json(out_, report);
+        else if (options_.as_json)
+            add_info_json(array_, report);
         else if (!is_single_)
             out_.put(info_line(opened));
         else if (summary)
@@ -83,6 +80,7 @@ private:
     const info_options& options_;
     const bool is_single_;
     std_output out_;
+    json_array array_{out_};
     exit_code worst_ = done;
 };
 

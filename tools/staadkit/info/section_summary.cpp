@@ -1,11 +1,10 @@
 // Sections with their members and dimensions, and the user tables that some of them name.
 
 #include "info/model_summary.h"
+#include "staad/text/number.h"
 #include "staad/text/split_string.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <map>
 #include <stdexcept>
 #include <string_view>
@@ -18,10 +17,9 @@ namespace {
 using STAAD::SdBeam;
 using STAAD::SdReader;
 
-bool is_number(std::string_view text, double& number)
+bool is_number(const std::string& word)
 {
-    const std::from_chars_result end = std::from_chars(text.data(), text.data() + text.size(), number);
-    return end.ec == std::errc() && end.ptr == text.data() + text.size() && std::isfinite(number);
+    return STAAD::parse_real(word).is_all_of(word);
 }
 
 /// "500X300" as numbers; empty unless every piece is one.
@@ -29,10 +27,10 @@ std::vector<double> numbers_between_x(const std::string& text)
 {
     std::vector<double> numbers;
     for (const std::string& piece : STAAD::SplitString(text, "X")) {
-        double number = 0.0;
-        if (!is_number(piece, number))
+        const auto parsed = STAAD::parse_real(piece);
+        if (!parsed.is_all_of(piece))
             return {};
-        numbers.push_back(number);
+        numbers.push_back(parsed.value);
     }
     return numbers;
 }
@@ -114,14 +112,12 @@ section_summary describe_section(const SdReader& model, const SdBeam& member, bo
 
 bool is_one_name(const std::vector<std::string>& words)
 {
-    double number = 0.0;
-    return words.size() == 1 && !is_number(words.front(), number);
+    return words.size() == 1 && !is_number(words.front());
 }
 
 bool begins_with_number(const std::vector<std::string>& words)
 {
-    double number = 0.0;
-    return !words.empty() && is_number(words.front(), number);
+    return !words.empty() && is_number(words.front());
 }
 
 /// Rows that a section can name: one word, with a line of numbers after it. The lines of numbers are names in

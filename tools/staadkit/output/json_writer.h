@@ -6,6 +6,7 @@
 #define TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 
 #include "cli/messages.h"
+#include "cli/open_model.h"
 #include "output/std_output.h"
 #include "staad/model/fields.h"
 #include "staad/report/read_report.h"
@@ -32,6 +33,25 @@ void each_field(const STAAD::Finding& finding, Visit visit)
     visit("last_line", finding.last_line);
     visit("text", finding.text);
     visit("count", finding.count);
+}
+
+/// The fields of an input as JSON documents have them.
+template<class Visit>
+void each_field(const opened_input& input, Visit visit)
+{
+    visit("file", input.name);
+    visit("was_read", input.was_read);
+    visit("findings", input.report.findings);
+}
+
+/// Counts of members by STAAD::BeamType, as JSON documents have them.
+template<class Visit>
+void visit_kinds(const std::array<std::size_t, 4>& members_of, Visit& visit)
+{
+    visit("columns", members_of[STAAD::Column]);
+    visit("beams", members_of[STAAD::Beam]);
+    visit("braces", members_of[STAAD::Brace]);
+    visit("horizontal_braces", members_of[STAAD::HorizontalBrace]);
 }
 
 class json_writer {
@@ -146,6 +166,25 @@ private:
     std_output& out_;
     std::array<nesting, deepest> nestings_{};
     std::size_t level_ = 0;
+};
+
+/// An array of documents, each written when it is there.
+class json_array {
+public:
+    explicit json_array(std_output& out) : out_(out) {}
+
+    template<class Record>
+    void add(const Record& record)
+    {
+        out_.put(is_empty_ ? "[\n" : ",\n");
+        is_empty_ = false;
+        json_writer(out_).document(record);
+    }
+    void close() { out_.put(is_empty_ ? "[]\n" : "]\n"); }
+
+private:
+    std_output& out_;
+    bool is_empty_ = true;
 };
 
 /// Writes a record to standard output as the only result; see std_output::close.

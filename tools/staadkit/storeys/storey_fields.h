@@ -16,10 +16,7 @@ template<class Visit>
 void each_field(const level_contents& contents, Visit visit)
 {
     visit("joints", contents.joints.size());
-    visit("columns", contents.members_of[STAAD::Column]);
-    visit("beams", contents.members_of[STAAD::Beam]);
-    visit("braces", contents.members_of[STAAD::Brace]);
-    visit("horizontal_braces", contents.members_of[STAAD::HorizontalBrace]);
+    visit_kinds(contents.members_of, visit);
     visit("shells", contents.shells());
     visit("members_with_forces", contents.members_with_forces);
     visit("joint_numbers", contents.joints);
@@ -60,14 +57,6 @@ void each_field(const outside_record& record, Visit visit)
 {
     visit("reason", std::string(outside_word(record.reason)));
     each_field(record.contents, visit);
-}
-
-template<class Visit>
-void each_field(const opened_forces& forces, Visit visit)
-{
-    visit("file", forces.name);
-    visit("was_read", forces.was_read);
-    visit("findings", forces.report.findings);
 }
 
 /// The whole document.

@@ -3,6 +3,8 @@
 #include "output/phrases.h"
 #include "output/table.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -136,7 +138,7 @@ std::string storeys_of(const numbered_section& section)
     if (section.storeys.empty())
         return "in no storey";
     const std::string text = (section.storeys.size() == 1 ? "storey " : "storeys ") + run_list(section.storeys);
-    return section.in_none == 0 ? text : text + ", " + std::to_string(section.in_none) + " in none";
+    return section.in_none == 0 ? text : fmt::format("{}, {} in none", text, section.in_none);
 }
 
 void put_sections(std_output& out, const storeys_summary& summary)
@@ -147,7 +149,7 @@ void put_sections(std_output& out, const storeys_summary& summary)
                       cell_text(section.material, "(no material)"),
                       count_of(section.members + section.in_none, "member"), storeys_of(section)});
     if (rows.size() != 0)
-        out.put("sections: " + std::to_string(rows.size()) + '\n');
+        out.put(fmt::format("sections: {}\n", rows.size()));
     rows.put(out);
 }
 
