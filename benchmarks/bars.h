@@ -1,4 +1,4 @@
-/// Times taken side by side, and their verdicts.
+/// Times measured in the same run, and their verdicts.
 #ifndef STAADKIT_BENCHMARKS_BARS_H
 #define STAADKIT_BENCHMARKS_BARS_H
 
@@ -15,7 +15,7 @@ struct stopwatch {
     double wall = wall_seconds();
 };
 
-/// Best of several takes; processor time and wall time each for itself.
+/// The best of several measurements, of processor time and of wall time apart.
 struct best_time {
     double processor = std::numeric_limits<double>::infinity();
     double wall = std::numeric_limits<double>::infinity();
@@ -23,14 +23,14 @@ struct best_time {
     void take(const stopwatch& since);
 };
 
-/// Prints a figure beside its bars; true if the hard bar is kept.
+/// Prints a figure with its bars; true if the hard bar is met.
 bool judge(const char* what, double value, double hard, double aim);
-/// Prints times, and how many bytes a second they come to.
+/// Prints times and bytes per second.
 void print_time(const char* what, const best_time& time, std::size_t bytes);
 
 double megabytes(std::size_t bytes);
 
-/// Tells what makes measuring impossible, and ends the program.
+/// Prints why nothing can be measured, and ends the program.
 [[noreturn]] void give_up(const std::string& what);
 
 /// Memory resident while `work` runs, beyond what was there before.

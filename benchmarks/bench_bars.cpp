@@ -1,8 +1,8 @@
 /// Measures readings of large decks against yardsticks taken in the same run, and judges them.
 ///
-/// Every figure that a bar speaks of is processor time of one thread, user and system, the best of
-/// five warm rounds in which reading, number pass and copy take turns; so a busy neighbour on the
-/// machine is not counted. Memory is measured in a process of its own, which also does the cold run.
+/// Every figure with a bar is processor time of one thread, user and system, without that of other programs:
+/// the best of five warm rounds in which reading, number pass and copy alternate. Memory is measured in a
+/// process of its own, which also does the cold run.
 #include "bars.h"
 #include "frame_deck.h"
 #include "measure.h"
@@ -35,7 +35,7 @@ constexpr int rounds = 5;
     std::exit(2);
 }
 
-/// Results go here, so that no optimiser can drop the work.
+/// Results are added here, so that no optimiser can remove the work.
 volatile double sink = 0.0;
 
 struct deck_times {

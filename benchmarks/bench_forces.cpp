@@ -1,8 +1,8 @@
 /// Measures imports of large listings of beam forces, against a yardstick taken in the same run, and
 /// judges them.
 ///
-/// Times are processor time of one thread, user and system, the best of five warm rounds in which the
-/// import and the yardstick take turns.
+/// Times are processor time of one thread, user and system, the best of five warm rounds in which the import
+/// and the yardstick alternate.
 #include "bars.h"
 #include "listing_text.h"
 #include "measure.h"
@@ -84,7 +84,7 @@ bool judge_time(const listing_options& options)
     return judge("time / from_chars", import.processor / pass.processor, 15.0, 6.0);
 }
 
-/// A file that is gone with the object.
+/// A file that is deleted with the object.
 class scratch_file {
 public:
     explicit scratch_file(const std::string& text)

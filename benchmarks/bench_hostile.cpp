@@ -1,5 +1,5 @@
-/// Reads texts made to do harm at two sizes, and judges how time and memory grow with n + r: the bytes of the text and
-/// the numbers and references that its lists come to.
+/// Reads texts made to do harm at two sizes, and judges how time and memory grow with n + r: the bytes of the
+/// text, and the numbers and references of its lists.
 ///
 /// Times are processor time of one thread, user and system, the best of several rounds.
 #include "bars.h"
@@ -25,7 +25,7 @@ constexpr int rounds = 3;
 constexpr std::size_t growth_of_size = 8;
 /// Time per byte and number, large text over small one: n log n, and caches that the large one leaves.
 constexpr double most_growth = 3.0;
-/// Bytes of memory per byte and number. The dearest byte is one of "1 1 1;", a member.
+/// Bytes of memory per byte and number. The text with the most memory per byte is a member, "1 1 1;".
 constexpr double most_memory = 64.0;
 
 template<class Lists>

@@ -1,9 +1,9 @@
 /// Measures writings of large models that a host filled in, against yardsticks taken in the same run,
 /// and judges them.
 ///
-/// Times are processor time of one thread, user and system, the best of five warm rounds in which the
-/// writing and the yardstick take turns; so a busy neighbour on the machine is not counted. Memory is
-/// what the process has resident at the most while it writes, beyond what it had before.
+/// Times are processor time of one thread, user and system, without that of other programs: the best of five
+/// warm rounds in which the writing and the yardstick alternate. Memory is the most that is resident during the
+/// writing, beyond what was resident before.
 #include "bars.h"
 #include "host_model.h"
 #include "measure.h"

@@ -16,9 +16,8 @@ struct host_options {
     /// Groups of members, groups of joints, kinds of support, of release, of section, and beta
     /// angles: that many of each, and each covers all members or joints.
     int lists = 20;
-    /// False: each list and load has consecutive numbers. True: they take turns, so that no two
-    /// numbers of one list follow each other, and hosts' lists and the loads of a member are in random
-    /// order.
+    /// False: each list and load has consecutive numbers. True: lists take turns, so that no list has two
+    ///        consecutive numbers, and hosts' lists and the loads of a member are in random order.
     bool shuffled = false;
 
     std::size_t references() const noexcept { return members * static_cast<std::size_t>(load_cases); }

@@ -50,7 +50,7 @@ std::vector<id_range> all_ids(list_style style, int n)
     return singles;
 }
 
-/// What opens a block, what stands before and after each of its lists, and what closes it.
+/// The texts that open a block, precede and follow each of its lists, and close it.
 struct list_frame {
     const char* opening;
     const char* head;

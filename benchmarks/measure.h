@@ -25,12 +25,11 @@ std::size_t heap_bytes();
 /// Bytes of memory resident now, and at the most so far.
 std::size_t resident_bytes();
 std::size_t peak_resident_bytes();
-/// From here on peak_resident_bytes() looks at what comes; false if the system does not let us.
+/// Restarts peak_resident_bytes() from now; false if the system does not allow it.
 bool restart_peak_resident_bytes();
 
-/// Where work finds its memory. Left alone, the allocator keeps what a small model gave back and
-/// returns what a large one did, so that only large models pay the system for fresh pages; growth is
-/// measured with both sizes in the same state.
+/// Where work gets its memory. By default the allocator keeps the memory of a small model and returns that of a
+/// large one, so that only large models need fresh pages; growth is measured with both sizes in the same state.
 enum class memory_state {
     kept, ///< the pages of earlier work are still there
     fresh ///< every page comes from the system

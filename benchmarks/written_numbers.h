@@ -1,5 +1,5 @@
-/// The numbers of a written text, to be written once more and nothing else: the least that any writer of
-/// the format has to do.
+/// Writes the numbers of a written text once more and does nothing else: any writer of the format has to do at
+/// least that.
 #ifndef STAADKIT_BENCHMARKS_WRITTEN_NUMBERS_H
 #define STAADKIT_BENCHMARKS_WRITTEN_NUMBERS_H
 
@@ -16,7 +16,7 @@ public:
     explicit written_numbers(std::string_view text);
 
     /// Writes every number with std::to_chars: integers, reals with six significant digits, and six
-    /// decimals. Gives the number of characters.
+    /// decimals. Returns the number of characters.
     std::size_t write_all() const;
 
     std::size_t integers() const noexcept { return integers_.size(); }

@@ -34,7 +34,7 @@ void add_member(STAAD::SdReader& model, int start, int end, const std::string& s
     member.sect_country = "CHINESE";                      // must: the code word of its MEMBER PROPERTY block
     member.material = "CONCRETE";                         // must: STEEL, CONCRETE, C1, STAINLESSSTEEL or ALUMINUM
     model.beams.push_back(member);
-    model.beam_index[member.id] = member.id; // for those who look members up by number, and for imports of forces
+    model.beam_index[member.id] = member.id; // for look-ups of members by number, and for imports of forces
 }
 
 void add_dead_load(STAAD::SdReader& model, STAAD::SdBeam& member, double kn_per_m)

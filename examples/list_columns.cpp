@@ -1,5 +1,5 @@
-// Lists the columns of a .std file: where they stand, from where to where they go, and their
-// sections. Lengths are mm whatever the unit of the file; z is up.
+// Lists the columns of a .std file with their places, heights and sections. Lengths are mm, whatever the unit
+// of the file; z is up.
 //
 //     list_columns FILE.std
 

@@ -1,4 +1,4 @@
-// Reads one .std file and counts what it holds.
+// Reads one .std file and counts its records.
 //
 //     read_and_count FILE.std
 
@@ -24,7 +24,7 @@ int main(int argc, char** argv)
     if (!was_read)
         return 1;
 
-    // Each surface stands among the shells once more, as a copy after the elements.
+    // The shells end with a copy of each surface, after the elements.
     std::cout << "joints:     " << model.nodes.size() << '\n'
               << "members:    " << model.beams.size() << '\n'
               << "elements:   " << model.shells.size() - model.surfaces.size() << '\n'

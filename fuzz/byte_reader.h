@@ -1,4 +1,4 @@
-/// Values made of the bytes of an input, for targets whose input is no text.
+/// Values made of the bytes of an input, for targets whose input is not a text.
 #ifndef FUZZ_BYTE_READER_H
 #define FUZZ_BYTE_READER_H
 
@@ -42,7 +42,7 @@ public:
         return value;
     }
 
-    /// Mostly a small number, now and then any at all.
+    /// Mostly a small number, sometimes any number.
     int take_int() noexcept { return take_byte() % 8 == 0 ? take_bits<int>() : take_small(); }
     double take_real() noexcept { return take_byte() % 8 == 0 ? take_bits<double>() : take_small() / 16.0; }
 

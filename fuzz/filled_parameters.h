@@ -1,5 +1,5 @@
-/// Parameter blocks made of the bytes of an input, as a host might fill them in: lists of any length, counts that do
-/// not go with them, any numbers, texts of one line.
+/// Parameter blocks made of the bytes of an input, as a host might fill them in: lists of any length, counts
+/// that do not agree with them, any numbers, texts of one line.
 #ifndef FUZZ_FILLED_PARAMETERS_H
 #define FUZZ_FILLED_PARAMETERS_H
 

@@ -1,5 +1,5 @@
-/// Any text as a listing of forces: it is read the same with and without a report, every record has nine stations or
-/// none, and what it says is what a plain reading makes of it.
+/// Any text as a listing of forces: it is read the same with and without a report, every record has nine
+/// stations or none, and the forces are those of a plain reading.
 
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_limit.h"
@@ -56,8 +56,8 @@ bool has_long_number(std::string_view text)
     return false;
 }
 
-/// Whether the plain reading knows what to do with the text: it takes line feeds alone for line ends, and leaves
-/// numbers to C, which knows more kinds of them and has no answer for some.
+/// Whether the plain reading can read the text: its only line ends are line feeds, and it leaves numbers to C,
+/// which reads more forms and leaves some undefined.
 bool is_plain(std::string_view text)
 {
     std::string small(text);
@@ -75,7 +75,7 @@ bool is_moderate(const STAAD::ForcePoint& point)
     return std::all_of(std::begin(values), std::end(values), [](double value) { return std::abs(value) < 1e100; });
 }
 
-/// False if there are numbers past those for which both readings have the same answer.
+/// False if there are numbers past the range in which both readings agree.
 bool finish(SdReader& model)
 {
     for (auto& [position, forces] : model.beam_forces) {

@@ -66,7 +66,7 @@ SdReader small_model(fuzz::byte_reader& bytes)
     return model;
 }
 
-/// Groups, supports and releases of numbers that may be anyone's.
+/// Groups, supports and releases of numbers that a record may or may not have.
 void add_lists(SdReader& model, fuzz::byte_reader& bytes)
 {
     for (const char* const kind : {"JOINT", "MEMBER", "ELEMENT", "FLOOR", ""})

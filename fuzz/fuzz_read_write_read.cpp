@@ -1,5 +1,5 @@
-/// Any text read, written with any parameters, and read again. The input is a deck; what follows its first zero byte
-/// makes the parameters, and declares members as braces.
+/// Any text read, written with any parameters, and read again. The input is a deck; the bytes after its first
+/// zero byte make the parameters, and declare members as braces.
 
 #include "fuzz/filled_parameters.h"
 #include "fuzz/fuzz_target.h"
@@ -40,7 +40,7 @@ bool is_rounded(double value, double exact)
     return std::abs(value - exact) <= std::abs(exact) * 1e-5 + 1e-300;
 }
 
-/// Joints, members and shells come back by position, whatever stands in the texts of the model.
+/// Joints, members and shells come back by position, with any texts in the model.
 void check_geometry(const SdReader& model, const SdReader& again)
 {
     fuzz::require(again.nodes.size() == model.nodes.size(), "every joint comes back");
@@ -69,7 +69,7 @@ void check_joints_stay(const SdReader& again, const SdReader& third)
 void read_write_read(std::string_view deck, std::string_view parameters)
 {
     SdReader model;
-    model.ReadSDDataFromText(deck); // what there is of a model is written, too
+    model.ReadSDDataFromText(deck); // a model that was read in part is written, too
     fill_in(model, parameters);
     const std::string text = STAAD::normalised_text(model);
     fuzz::require(model.WriteDataToText() == text, "a writing that changes the model gives the same text");

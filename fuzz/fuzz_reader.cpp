@@ -1,5 +1,5 @@
-/// Any text as a ".std" file: it is read the same with and without a report, what comes of it refers to nothing that
-/// is not there, and every question about it has an answer.
+/// Any text as a ".std" file: it is read the same with and without a report, the model refers only to records
+/// that exist, and every query returns.
 
 #include "fuzz/fuzz_target.h"
 #include "fuzz/memory_limit.h"
@@ -24,7 +24,7 @@ int last_position(std::size_t size)
     return static_cast<int>(size);
 }
 
-/// 0 stands for a record that there is not.
+/// 0 stands for a record that does not exist.
 bool are_positions(const std::vector<int>& numbers, std::size_t size)
 {
     return std::all_of(numbers.begin(), numbers.end(),
@@ -68,7 +68,7 @@ void ask_for_member(const SdReader& model, const STAAD::SdBeam& member)
     try {
         model.GetSectionFromUsrTable(member.sect_name);
         model.GetSectionFromUsrTable(member.sect_text);
-    } catch (const std::out_of_range&) { // its answer to a blank row
+    } catch (const std::out_of_range&) { // for a blank row
     }
 }
 
@@ -110,7 +110,7 @@ void build_storeys(SdReader model)
         fuzz::require(project.node_levels.size() == joints && !project.layers.empty(), "storeys have levels");
 }
 
-/// Whatever an earlier reading left.
+/// The remains of an earlier reading.
 void check_that_it_reads_again(SdReader& model)
 {
     const bool was_read = model.ReadSDDataFromText("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"

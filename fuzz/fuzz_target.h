@@ -1,6 +1,7 @@
-/// What every fuzz target is: one function that takes any bytes and returns, and what these functions share.
+/// The form of every fuzz target, one function that takes any bytes and returns, and what these functions
+/// share.
 ///
-/// A target ends the program on a fault, and nothing else does: exhausted memory is an answer (memory_limit.h).
+/// A target ends the program only on a fault; exhausted memory is none (memory_limit.h).
 #ifndef FUZZ_FUZZ_TARGET_H
 #define FUZZ_FUZZ_TARGET_H
 

@@ -1,4 +1,4 @@
-# Sourced by run and test: makes sure that Debian packages are there, or says which are missing.
+# Sourced by run and test: installs Debian packages, or lists those that are missing.
 
 need_packages() {
     local missing=() package

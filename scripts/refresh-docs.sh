@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # refresh-docs.sh [--check] TOOL [CODES]
 #
-# Brings the generated blocks of README*.md and docs/**/*.md up to date, or with --check shows how they
+# Updates the generated blocks of README*.md and docs/**/*.md, or with --check shows how they
 # differ from what they should be and fails. TOOL is the built staadkit, CODES the program that prints the
 # table of finding codes; by default that of the same build tree. A block is a marker line and the fence
 # right after it, whose content is replaced:
@@ -9,9 +9,9 @@
 #   <!-- output: staadkit info examples/x.std -->   then ```text: the command and what it prints
 #   <!-- source: examples/x.cpp -->                 then ```cpp:  the file
 #
-# and <!-- table: finding-codes -->, where what stands up to <!-- end of table --> is replaced.
+# and <!-- table: finding-codes -->, where everything up to <!-- end of table --> is replaced.
 #
-# Commands are run from the project's root; what goes to standard error is not taken.
+# Commands are run from the project's root; standard error is ignored.
 set -euo pipefail
 
 usage() {

@@ -14,15 +14,14 @@ start_wine() {
     setsid wine64 wineboot -i </dev/null >/dev/null 2>&1
 }
 
-# Ends what runs in that prefix, and nothing else. Waits for it: a server that is still ending is no good to the one
-# that is started next.
+# Ends the programs of that prefix only, and waits for them: a server that is still ending would disturb the next one.
 stop_wine() {
     [ -n "$wine_prefix" ] || return 0
     WINEPREFIX=$wine_prefix wineserver -k 2>/dev/null || true # it may have ended by itself
     WINEPREFIX=$wine_prefix timeout 60 wineserver -w 2>/dev/null || true
 }
 
-# Code page 936 is what Wine makes of zh_CN. The locale is made here and not on the machine.
+# Wine uses code page 936 for zh_CN. The locale is made here, not on the machine.
 make_chinese_locale() { # folder
     local name=zh_CN.UTF-8
     if [ ! -d "$1/$name" ]; then

@@ -1,6 +1,6 @@
 // A Windows program that builds a project from a .std file and lists its storeys in a window, the highest on top as
-// in an elevation. Without a file name it asks for one; the library itself asks for the listing of forces where none
-// lies beside the model. Escape closes the window. Its words are Chinese where those of the desktop are.
+// in an elevation. Without a file name it asks for one; the library itself asks for the listing of forces if
+// there is none beside the model. Escape closes the window. Its words are Chinese on a Chinese desktop.
 //
 //     win32_host [FILE.std]
 
@@ -61,8 +61,8 @@ const words& words_of_desktop()
     return PRIMARYLANGID(GetUserDefaultUILanguage()) == LANG_CHINESE ? chinese : english;
 }
 
-/// The library's texts are in the ANSI code page: file names because Windows has them so, texts of a model because
-/// they are handed on as they stand in the file.
+/// The library's texts are in the ANSI code page: file names because narrow names on Windows are, texts of a
+/// model because they are passed on unchanged from the file.
 std::wstring wide(const std::string& narrow)
 {
     const int narrow_size = static_cast<int>(narrow.size());

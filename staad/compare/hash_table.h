@@ -1,4 +1,4 @@
-/// A table of indexes by what they stand for, for millions of them.
+/// A hash table from keys to indexes, for millions of records.
 #ifndef STAAD_COMPARE_HASH_TABLE_H
 #define STAAD_COMPARE_HASH_TABLE_H
 
@@ -19,8 +19,8 @@ constexpr std::uint64_t mixed(std::uint64_t hash, std::uint64_t part) noexcept
     return hash ^ (hash >> 31U);
 }
 
-/// Open addressing, filled once and never emptied. Keys stay where they are: `same(index)` says whether
-/// an index stands for the key that is looked for.
+/// Open addressing, filled once and never emptied. Holds indexes only: `same(index)` says whether the record at
+/// an index has the key that is looked for.
 class hash_table {
 public:
     /// Room for `count` different keys.

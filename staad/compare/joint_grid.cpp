@@ -11,7 +11,7 @@ namespace STAAD::detail {
 namespace {
 
 // A cell is 0.5 mm wide, more than twice the tolerance: a place reaches into two cells of each axis at most.
-// Coordinates in whole and half mm, which is nearly all of them, lie in the middle of a cell.
+// Coordinates in whole and half mm, as nearly all are, lie in the middle of a cell.
 constexpr double cells_per_mm = 2.0;
 
 // A little wider than `same_place`: the sums below are rounded.
@@ -80,8 +80,8 @@ std::int32_t& joint_grid::head_of(const cell& key)
                      [&](std::int32_t other) { return cell_of(joints_[static_cast<std::size_t>(other)]) == key; });
 }
 
-/// Walks a cell and takes out of it the joints that have been matched since the last walk, but for the last:
-/// `cells_` knows a cell by the joints in it.
+/// Walks a cell and removes joints that were matched since the last walk, but never the last joint: `cells_`
+/// finds a cell by the joints in it.
 std::int32_t joint_grid::first_match(std::int32_t& head, const SdNode& joint)
 {
     for (std::int32_t* link = &head; *link != no_index;) {

@@ -11,7 +11,7 @@
 
 namespace STAAD::detail {
 
-/// Cells of space, each with the joints in it that are still free.
+/// Cells of space with the joints in them that are not matched yet.
 class joint_grid {
 public:
     /// `joints` must outlive the grid.

@@ -43,7 +43,7 @@ std::uint64_t mixed(std::uint64_t hash, int position) noexcept
 struct member_joints {
     explicit member_joints(const SdBeam& member) : low(member.node_start), high(member.node_end) { put_in_order(); }
 
-    /// Into those of the earlier model; false if one has no counterpart.
+    /// Replaces them by their counterparts; false if one has none.
     bool translate(const counterparts& joint_matches)
     {
         low = counterpart_of(low, joint_matches);
@@ -87,8 +87,8 @@ private:
     std::uint64_t seed() const noexcept { return corners.size(); }
 };
 
-/// Finds the first record of an earlier model on given joints. Keeps copies of the joints side by side:
-/// records are large, and far apart in memory.
+/// Finds the first record of an earlier model on given joints. Keeps copies of the joints side by side: the
+/// records are large, and their joints far apart in memory.
 template<class Joints>
 class joints_index {
 public:

@@ -1,4 +1,4 @@
-/// Which joints, members and shells of two models are the same, by the places where they stand.
+/// Finds the joints, members and shells that two models have at the same places.
 #ifndef STAAD_COMPARE_MATCH_H
 #define STAAD_COMPARE_MATCH_H
 
@@ -28,19 +28,19 @@ struct ModelMatch {
     Counterparts shells;
 };
 
-/// Finds the counterparts of the records of `now` in `earlier`, which may be the same model. Numbers play
-/// no part.
+/// Finds the counterparts of the records of `now` in `earlier`, which may be the same model. Numbers are not
+/// compared.
 ///
 /// Joints:  the first earlier joint in list order that differs by less than `same_place` in each coordinate
 ///          and is not yet the counterpart of another joint.
 /// Members: the first earlier member between the counterparts of both ends, in either direction.
 /// Shells:  the first earlier shell with the counterparts of all corners in the same order.
-/// Joints that are no finite place, and members and shells that lack a joint, have no counterpart.
+/// Joints without finite coordinates, and members and shells that lack a joint, have no counterpart.
 /// Throws:  std::bad_alloc.
 /// Cost:    linear in both models; joints crowded within half a millimetre are compared one by one.
 STAAD_API ModelMatch match(const SdReader& now, const SdReader& earlier);
 
-/// The same as SdReader::old_proj_maps holds it: an entry for each record with a counterpart.
+/// The form of SdReader::old_proj_maps: an entry for each record with a counterpart.
 STAAD_API OldProjMaps to_maps(const ModelMatch& matched);
 
 } // namespace STAAD

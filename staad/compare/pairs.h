@@ -25,15 +25,15 @@ struct ModelPairs {
     Pairs shells;
 };
 
-/// Finer than `matched`, which is match(now, earlier): each record has one counterpart at most, and numbers
-/// count.
+/// Finer than `matched`, which is match(now, earlier): a record is paired once at most, and numbers decide
+/// between records at one place.
 ///
-/// Same:  what stands at one place. If several records of a model do, those of one number are a pair, then
-///        the rest in list order, as long as both models have some. Joints stand at one place, and members
-///        and shells on the same joints, as match() finds; two members or shells that lack a joint are the
-///        same if they have one number and the joints that they do have are the same.
-/// Moved: what is left, and has the number of something left in the earlier model. The first such in list
-///        order counts. Surfaces have numbers of their own: none is paired with an element by number.
+/// Same:  records at one place. Of several there, those of the same number are paired, then the rest in list
+///        order, as far as both models have some. Places are those of match(): coordinates for joints, joints
+///        for members and shells. Two members or shells that lack a joint are the same if their numbers are
+///        equal and the joints that they have are the same.
+/// Moved: of the records left, those of one number, the first in list order first. Surfaces have numbers of
+///        their own and are never paired with an element by number.
 /// Throws: std::bad_alloc. Cost: n log n in the lists.
 STAAD_API ModelPairs pair_records(const SdReader& now, const SdReader& earlier, const ModelMatch& matched);
 

@@ -11,8 +11,8 @@
 
 namespace STAAD {
 
-/// A group of the earlier model. ELEMENT and FLOOR groups go by joints, like joint groups: the numbers in
-/// them are taken for joint numbers.
+/// A group of the earlier model. The numbers of ELEMENT and FLOOR groups are taken for joint numbers, like
+/// those of joint groups.
 struct TakenGroup {
     SdGroup group;         ///< `ids` in the new model's numbers
     std::vector<int> lost; ///< earlier numbers without a counterpart, in their order, repeats kept
@@ -25,20 +25,20 @@ struct TakenList {
     std::vector<int> lost;         ///< as TakenGroup::lost
 };
 
-/// All that there is to take over, in the earlier model's order.
+/// All groups, supports and releases, in the earlier model's order.
 struct TakenOver {
-    std::vector<TakenGroup> groups; ///< also those of which nothing is left
+    std::vector<TakenGroup> groups; ///< also those that have become empty
     std::vector<TakenList> supports;
     std::vector<TakenList> releases;
 };
 
-/// Translates what `earlier` has into the numbers of `now`; changes neither. Of several earlier records
-/// with one number the first counts. `matched` is match(now, earlier).
+/// Translates what `earlier` has into the numbers of `now`; changes neither. Of several earlier records with
+/// one number the first is taken. `matched` is match(now, earlier).
 /// Throws: std::bad_alloc. Cost: linear in the numbers translated, n log n in the earlier lists.
 STAAD_API TakenOver definitions_to_take_over(const SdReader& now, const SdReader& earlier, const ModelMatch& matched);
 
-/// Puts them into a model. Its groups are replaced by those of which something is left, its supports by the
-/// earlier ones, empty lists included; earlier releases replace those of the same description.
+/// Puts them into a model. Its groups are replaced by those that are not empty, its supports by the earlier
+/// ones, empty lists included; earlier releases replace those of the same description.
 STAAD_API void take_over(SdReader& model, TakenOver definitions);
 
 } // namespace STAAD

@@ -11,8 +11,8 @@ bool ends_a_mantissa(char c) noexcept
     return (c >= '0' && c <= '9') || c == '.';
 }
 
-/// Position of a blank between an exponent's E and its digits, "1.5E +03", from `from` on. An E after
-/// any other character ends a word of a title.
+/// Position of a blank between an exponent's E and its digits, "1.5E +03", from `from` on. An E after any other
+/// character than a digit or a point ends a word of a title.
 std::size_t find_split_exponent(std::string_view text, std::size_t from) noexcept
 {
     for (std::size_t e = text.find("E ", from); e != std::string_view::npos; e = text.find("E ", e + 1)) {
@@ -35,15 +35,6 @@ std::string_view with_whole_exponents(std::string_view text, std::string& copy)
         begin = blank + 1;
     }
     return copy.append(text.substr(begin));
-}
-
-bool looks_like_a_number(std::string_view word) noexcept
-{
-    if (!word.empty() && (word.front() == '-' || word.front() == '+'))
-        word.remove_prefix(1);
-    if (!word.empty() && word.front() == '.')
-        word.remove_prefix(1);
-    return chk_isdigit(word);
 }
 
 } // namespace
@@ -97,7 +88,7 @@ ForcePoint force_line::station() const noexcept
 std::string_view force_line::unreadable_number() const noexcept
 {
     for (std::size_t i = 0; i < values_per_station; ++i) {
-        if (!looks_like_a_number(value(i)))
+        if (!parse_real(value(i)).is_number())
             return value(i);
     }
     return {};

@@ -15,8 +15,8 @@ namespace STAAD::detail {
 /// Position, three forces, three moments.
 inline constexpr std::size_t values_per_station = 7;
 
-/// The words of one line, as far as they count. Views into the text, or into the line's own copy where
-/// an exponent was printed in two words.
+/// The first and the last words of one line. Views into the text, or into the line's own copy if an exponent
+/// was printed as two words.
 class force_line {
 public:
     enum class kind {
@@ -36,11 +36,11 @@ public:
     line_place place() const noexcept { return place_; }
     bool has_colon() const noexcept { return has_colon_; }
     int member_number() const noexcept;
-    /// Of a line that begins a load case, with or without a member.
+    /// Only for a line that begins a load case, with or without a member.
     int load_case_number() const noexcept;
     /// The last seven words as numbers, as printed.
     ForcePoint station() const noexcept;
-    /// First of the last seven words that does not look like a number; empty if all do.
+    /// First of the last seven words that does not begin with a number; empty if all do.
     std::string_view unreadable_number() const noexcept;
 
 private:
@@ -52,7 +52,7 @@ private:
     bool has_colon_ = false;
     std::size_t count_ = 0;
     std::array<std::string_view, 2> first_;
-    std::array<std::string_view, values_per_station> latest_; // of the words, in turn
+    std::array<std::string_view, values_per_station> latest_; // the last words, a ring
     std::string repaired_;
 };
 

@@ -11,14 +11,14 @@ namespace {
 constexpr double same_station = 0.0001; // mm
 constexpr std::size_t pkpm_stations = 9;
 
-/// Ascending; what is no number comes last.
+/// Ascending; NaN comes last.
 bool is_before(double left, double right)
 {
     return std::isnan(right) ? !std::isnan(left) : left < right;
 }
 
-/// Sorted by position; of points closer than `same_station` to the first of their run only the one that
-/// was printed first.
+/// Sorted by position. Of a run, points less than `same_station` from the lowest of them, only the point
+/// printed first is kept.
 std::vector<ForcePoint> distinct_stations(const std::vector<ForcePoint>& points)
 {
     std::vector<std::size_t> order(points.size());
@@ -58,7 +58,7 @@ ForcePoint moved_to(ForcePoint point, double station)
     return point;
 }
 
-/// The values at `station`: those of the nearest end where it lies outside of the points.
+/// The values at `station`; outside of the points those of the nearer end.
 ForcePoint point_at(const std::vector<ForcePoint>& points, double station)
 {
     const auto after = std::lower_bound(points.begin(), points.end(), station - same_station,
@@ -102,7 +102,7 @@ void BeamForceAndMOM::add_loadCase_record(const BeamLoadCaseRecord& record)
     if (is_new)
         return;
     std::vector<ForcePoint>& points = stored->second.points;
-    const std::size_t count = record.points.size(); // of this very record, perhaps
+    const std::size_t count = record.points.size(); // `record` may be this very record
     points.reserve(points.size() + count);
     for (std::size_t i = 0; i < count; ++i)
         points.push_back(record.points[i]);

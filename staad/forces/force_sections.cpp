@@ -32,7 +32,7 @@ std::size_t title_rank(std::string_view line) noexcept
     return rank;
 }
 
-/// Lines between the title and the unit line; the first may be anything.
+/// Lines between the title and the unit line; any text may stand in the first.
 constexpr int heading_lines = 3;
 
 std::string_view without_brackets(std::string_view word) noexcept

@@ -1,4 +1,4 @@
-/// Where a listing has its sections of beam forces, and the lines of one. Knows no model.
+/// Finds the sections of beam forces in a listing, and walks their lines. Knows no model.
 #ifndef STAAD_FORCES_FORCE_SECTIONS_H
 #define STAAD_FORCES_FORCE_SECTIONS_H
 
@@ -32,7 +32,7 @@ public:
     /// Takes the next data line; false at the section's end.
     bool next(text_line& line) noexcept;
 
-    /// After the end: nothing follows the section, not even the empty line that closes one.
+    /// Valid at the section's end: the text ended too, without the empty line that closes a section.
     bool ended_with_the_text() const noexcept { return at_end_of_text_; }
 
 private:

@@ -22,7 +22,7 @@
 namespace STAAD {
 namespace detail {
 
-/// How many member lines named members that the model has, and how many did not.
+/// Numbers of member lines: of members that the model has, and of others.
 struct member_tally {
     std::size_t known = 0;
     std::size_t unknown = 0;
@@ -143,7 +143,7 @@ private:
         has_member_ = false;
     }
 
-    /// The load case in progress is not stored: sections are read so, and hosts count on it.
+    /// The load case in progress is not stored: hosts rely on that.
     void end_section(const section_lines& lines)
     {
         report_left_out(record_place_, "the section ends with it");
@@ -179,13 +179,13 @@ private:
     finding_sink& findings_;
     Take take_;
 
-    bool has_member_ = false;    // a member of the model has begun and has not been handed over
+    bool has_member_ = false;    // a member of the model has begun and is not stored yet
     bool after_unknown_ = false; // lines belong to a member that the model does not have
     int member_number_ = 0;
     BeamForceAndMOM member_;
     BeamLoadCaseRecord record_; // in progress
     line_place record_place_;
-    std::size_t stations_before_ = 0; // of the member's load case before
+    std::size_t stations_before_ = 0; // of the member's previous load case
     bool last_is_short_ = false;
 };
 

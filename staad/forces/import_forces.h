@@ -1,4 +1,4 @@
-/// The import of a listing, and what came of it. Shows no messages.
+/// The import of a listing, and its outcome. Shows no messages.
 #ifndef STAAD_FORCES_IMPORT_FORCES_H
 #define STAAD_FORCES_IMPORT_FORCES_H
 
@@ -15,7 +15,7 @@ class finding_sink;
 
 enum class import_outcome {
     read,
-    no_members, ///< of the model, which stays as it is; after all others `beam_forces` is new
+    no_members, ///< of the model, which stays as it is; with any other outcome `beam_forces` is new
     no_file,
     no_title,
     no_forces ///< there are sections, but no load case of a member that the model has
@@ -24,10 +24,10 @@ enum class import_outcome {
 /// Makes the forces of `listing` the content of `model.beam_forces`; see SdReader::ReadForceMomentFromTxtFile.
 import_outcome import_forces(SdReader& model, std::string_view listing, finding_sink& findings);
 
-/// The same of a file that is opened for reading and writing, null being no file.
+/// Imports from a file that is opened for reading and writing; null is no file.
 import_outcome import_updatable_file(SdReader& model, const char* path, finding_sink& findings);
 
-/// The same of a file that is opened for reading.
+/// Imports from a file that is opened for reading only.
 import_outcome import_file(SdReader& model, const std::filesystem::path& path, finding_sink& findings);
 
 } // namespace detail

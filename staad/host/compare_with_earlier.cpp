@@ -17,7 +17,7 @@ bool user_agrees()
     return GetPlatformServices().ShowMessage(question) == PlatformServices::Answer::Yes;
 }
 
-/// `path` as either form has it.
+/// `path` is a `const char*` or a path.
 template<class Path>
 void take_over_if_wanted(SdReader& model, const Path& path)
 {

@@ -57,7 +57,7 @@ const std::filesystem::path& as_argument(const std::filesystem::path& path)
     return path;
 }
 
-/// `path` as either form has it; the reports are there or null.
+/// `path` is a `const char*` or a path; the reports may be null.
 template<class Path>
 bool build(StaadProProject_layered& project, const Path& path, int with_forces, ReadReport* of_model,
            ReadReport* of_forces)

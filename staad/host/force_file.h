@@ -9,7 +9,7 @@
 
 namespace STAAD {
 
-/// `path` with its last four characters replaced by ".txt"; they are not dropped if it has fewer.
+/// `path` with its last four characters replaced by ".txt"; if it has fewer, ".txt" is appended.
 STAAD_API std::string force_file_beside(std::string_view path);
 
 /// The ".txt" file beside the model `path` if it can be opened, else the one that the user chooses in a

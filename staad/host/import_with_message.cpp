@@ -10,7 +10,7 @@ namespace {
 using detail::finding_sink;
 using detail::import_outcome;
 
-/// Shows the message that there are no members, if that is what came of it. True if forces were read.
+/// Shows a message if the model has no members. True if forces were read.
 bool shown(import_outcome outcome)
 {
     if (outcome == import_outcome::no_members)

@@ -14,7 +14,7 @@ namespace {
 #ifdef _WIN32
 using default_services_type = detail::windows_services;
 #else
-/// For a machine without a desktop.
+/// Shows nothing; for a machine without a desktop.
 class silent_services final : public PlatformServices {
 public:
     Answer ShowMessage(const Message& message) override

@@ -1,4 +1,4 @@
-/// What the library asks of the desktop it runs on: a message box, a file dialog, an access test.
+/// What the library needs of the desktop: a message box, a file dialog, a test whether a file can be read.
 #ifndef STAAD_HOST_PLATFORM_SERVICES_H
 #define STAAD_HOST_PLATFORM_SERVICES_H
 
@@ -8,8 +8,7 @@
 
 namespace STAAD {
 
-/// Modal services, called on the thread of the operation that needs them. A host may put its own in
-/// the place of the default ones.
+/// Modal services, called on the thread of the operation that needs them. A host may replace the default ones.
 class STAAD_API PlatformServices {
 public:
     enum class Buttons { Ok, YesNo };
@@ -18,7 +17,7 @@ public:
 
     /// A message box without an owner window. Texts are UTF-16.
     struct Message {
-        std::u16string caption; ///< may be empty, and is then shown so
+        std::u16string caption; ///< may be empty, and is then shown empty
         std::u16string text;
         Buttons buttons = Buttons::Ok;
         Icon icon = Icon::None;
@@ -34,7 +33,7 @@ public:
 
     virtual ~PlatformServices();
 
-    /// Shows the message until it is answered; Ok where there is but one button.
+    /// Shows the message until it is answered; Ok if it has one button only.
     virtual Answer ShowMessage(const Message& message) = 0;
     /// Path of the file chosen, in the encoding that narrow paths have on the platform; empty if the
     /// dialog was cancelled.
@@ -48,13 +47,12 @@ protected:
     PlatformServices& operator=(const PlatformServices&) = default;
 };
 
-/// Puts `services` in the place of the ones in use, for the whole process; null brings back the
-/// default ones. The caller keeps ownership, and keeps the object alive while any operation may use
-/// it. Safe in any thread.
+/// Replaces the services in use, for the whole process; null restores the default ones. The caller keeps
+/// ownership, and keeps the object alive while any operation may use it. Safe in any thread.
 STAAD_API void SetPlatformServices(PlatformServices* services) noexcept;
 
 /// The services in use. The default ones are those of the desktop on Windows. Elsewhere they show nothing: a
-/// message is gone at once, a question is answered no, a dialog cancelled; the access test is real.
+/// message is closed at once, a question answered no, a dialog cancelled; CanRead works everywhere.
 STAAD_API PlatformServices& GetPlatformServices() noexcept;
 
 } // namespace STAAD

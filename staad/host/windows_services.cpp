@@ -26,7 +26,7 @@ UINT box_style(const PlatformServices::Message& message)
     return buttons | icon;
 }
 
-/// Puts the current folder back, which the file dialog changes to that of the file chosen.
+/// Restores the current folder, which the file dialog changes to that of the file chosen.
 class kept_folder {
 public:
     kept_folder() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0')
@@ -41,7 +41,7 @@ private:
     std::wstring folder_;
 };
 
-/// A name that the ANSI code page can hold: the short one where it lacks characters of the long one.
+/// A name that the ANSI code page can hold: the short name if it lacks characters of the long one.
 std::string narrow_path(const std::wstring& path)
 {
     std::string narrow = narrow_text(path);
@@ -70,7 +70,7 @@ std::string windows_services::AskForFile(const FileQuestion& question)
     constexpr std::size_t longest_path = 32768;
     const kept_folder keep;
     std::wstring filter = wide(question.filter);
-    std::replace(filter.begin(), filter.end(), L'|', L'\0'); // ends in two of them
+    std::replace(filter.begin(), filter.end(), L'|', L'\0'); // the list must end in two zero characters
     std::wstring path(longest_path, L'\0');
     OPENFILENAMEW dialog{};
     dialog.lStructSize = sizeof dialog;

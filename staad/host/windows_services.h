@@ -8,12 +8,12 @@
 
 namespace STAAD::detail {
 
-/// Message boxes and file dialogs of the system, without an owner window. Without a desktop to show them
-/// on, a question is answered no and a dialog cancelled.
+/// Message boxes and file dialogs of the system, without an owner window. Without a desktop, a question is
+/// answered no and a dialog cancelled.
 class windows_services final : public PlatformServices {
 public:
     Answer ShowMessage(const Message& message) override;
-    /// The current folder is afterwards what it was before.
+    /// Leaves the current folder as it was.
     std::string AskForFile(const FileQuestion& question) override;
     bool CanRead(const char* path) override;
 };

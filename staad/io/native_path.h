@@ -9,9 +9,9 @@
 
 namespace STAAD {
 
-/// The path of the file that the library means by a narrow name: on Windows names are in the ANSI code
-/// page, and a path that is too long for the system gets the prefix for long ones; elsewhere the bytes are
-/// the path. Throws std::bad_alloc.
+/// The path that the library opens for a narrow name: on Windows names are in the ANSI code page, and a path
+/// too long for the system gets the prefix for long paths; elsewhere the bytes are the path. Throws
+/// std::bad_alloc.
 STAAD_API std::filesystem::path native_path(std::string_view name);
 
 } // namespace STAAD

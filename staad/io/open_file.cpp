@@ -33,7 +33,7 @@ FileBytes read_updatable_file(const char* path)
     std::error_code error;
     if (!std::filesystem::is_fifo(file, error))
         return read_opened(file, "r+b");
-    // Opened for reading and writing it would never end: this program itself could still write to it.
+    // A pipe opened for reading and writing never ends: this program itself could still write to it.
     nothing.outcome = FileBytes::Outcome::refused;
     return nothing;
 }

@@ -1,4 +1,4 @@
-/// Opening files by paths, and what can be known of one before.
+/// Opening files by paths, and asking beforehand whether that is possible.
 #ifndef STAAD_IO_OPEN_FILE_H
 #define STAAD_IO_OPEN_FILE_H
 
@@ -21,7 +21,7 @@ struct close_file {
 };
 using open_file = std::unique_ptr<std::FILE, close_file>;
 
-/// Reads the whole of `path`, opened as `mode` has it.
+/// Reads the whole of `path`, opened with `mode` as by std::fopen.
 FileBytes read_opened(const std::filesystem::path& path, const char* mode, const ReadProgress& progress = {});
 
 /// Reads the whole of `path`, opened for reading and writing although nothing is written: a file that is

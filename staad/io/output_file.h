@@ -1,4 +1,4 @@
-/// A text file that is being written.
+/// Writing a text file.
 #ifndef STAAD_IO_OUTPUT_FILE_H
 #define STAAD_IO_OUTPUT_FILE_H
 
@@ -9,8 +9,8 @@
 
 namespace STAAD::detail {
 
-/// A text file written from its beginning: what was in it is gone. Line feeds become the line ends of
-/// the platform. After the first failure it takes everything and writes nothing.
+/// A text file written from its beginning; earlier content is lost. Line feeds become the line ends of the
+/// platform. After the first failure nothing more is written.
 class output_file {
 public:
     /// A null path cannot be opened.
@@ -23,9 +23,9 @@ public:
 
     bool is_open() const noexcept { return file_ != nullptr; }
     void write(std::string_view text) noexcept;
-    /// Waits until what was written is on the disk: a rename may reach it before the content does.
+    /// Waits until what was written is on the disk: otherwise a rename could reach the disk before the content.
     void flush_to_disk() noexcept;
-    /// Closes the file. No error if every byte was written, else the first that was met.
+    /// Closes the file. No error if every byte was written, else the first one.
     std::error_code close() noexcept;
 
 private:

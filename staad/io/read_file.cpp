@@ -13,8 +13,8 @@ namespace {
 constexpr std::size_t first_block = std::size_t{1} << 16U;
 constexpr std::size_t progress_step = std::size_t{1} << 16U;
 
-/// Bytes from here to the end as the system states them, 0 of what has no end to go to (a pipe, a device). Not to be
-/// relied on: a folder states the largest number there is.
+/// Bytes from here to the end as the system states them, 0 for a pipe or a device. Not reliable: a folder
+/// states the largest number there is.
 std::size_t bytes_left(std::FILE* file) noexcept
 {
     const long here = std::ftell(file);
@@ -25,7 +25,8 @@ std::size_t bytes_left(std::FILE* file) noexcept
     return end > here ? static_cast<std::size_t>(end - here) : 0;
 }
 
-/// Room for bytes that grows without setting them to 0 first: to `expected` at once when the first block has been read.
+/// A buffer that grows without setting its bytes to 0: to `expected` at once when the first block has been
+/// read.
 class byte_buffer {
 public:
     explicit byte_buffer(FileBytes& result, std::size_t expected)
@@ -79,7 +80,7 @@ FileBytes read_stream(std::FILE* stream, const ReadProgress& progress)
 {
     FileBytes result;
     const std::size_t total = bytes_left(stream);
-    // One more than there is, so that the end is met in one read. The file may grow meanwhile.
+    // One more than there is, so that a single read meets the end. The file may grow meanwhile.
     byte_buffer buffer(result, total == 0 ? first_block : total + 1);
     const std::size_t step = progress ? progress_step : static_cast<std::size_t>(-1);
     errno = 0;
@@ -101,7 +102,8 @@ FileBytes detail::read_opened(const std::filesystem::path& path, const char* mod
     const open_file file(open_stream(path, mode));
     if (!file)
         return nothing_for(errno);
-    static_cast<void>(std::setvbuf(file.get(), nullptr, _IONBF, 0)); // read in one piece, past the stream's own buffer
+    static_cast<void>(
+        std::setvbuf(file.get(), nullptr, _IONBF, 0)); // read in one piece, without the stream's own buffer
     return read_stream(file.get(), progress);
 }
 

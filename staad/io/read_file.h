@@ -1,4 +1,4 @@
-/// Reading files, pipes and open streams, for reading only.
+/// Reads whole files, pipes and open streams, opened for reading only.
 #ifndef STAAD_IO_READ_FILE_H
 #define STAAD_IO_READ_FILE_H
 
@@ -21,7 +21,7 @@ struct FileBytes {
         missing,    ///< there is no such file
         directory,  ///< it is a folder
         refused,    ///< it may not be opened
-        unreadable, ///< it cannot be read to its end; what was read until then is there
+        unreadable, ///< it cannot be read to its end; `bytes` has what was read
     };
 
     Outcome outcome = Outcome::missing;
@@ -32,11 +32,10 @@ struct FileBytes {
     std::string_view text() const noexcept { return {bytes.get(), size}; }
 };
 
-/// Is called after every 65,536 bytes: bytes read, and how many there are in all, 0 if that is not
-/// known.
+/// Called after every 65,536 bytes with the bytes read, and all there are, 0 if that is unknown.
 using ReadProgress = std::function<void(std::size_t done, std::size_t total)>;
 
-/// Reads the whole of `path`, which is opened for reading alone: a device or a pipe to its end. Throws:
+/// Reads the whole of `path`, a device or a pipe to its end. Opens it for reading only. Throws:
 /// std::bad_alloc, and what `progress` throws.
 STAAD_API FileBytes read_file(const std::filesystem::path& path, const ReadProgress& progress = {});
 

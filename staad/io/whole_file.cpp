@@ -25,7 +25,7 @@ std::error_code last_error()
     return {errno, std::generic_category()};
 }
 
-/// `path` as the system's own functions take it.
+/// `path` in the form that the system's own functions need.
 fs::path system_form(const fs::path& path)
 {
 #ifdef _WIN32
@@ -46,7 +46,7 @@ fs::path random_path(const fs::path& folder)
     return folder / (name + ".tmp");
 }
 
-/// Removes the file at its path when it goes, unless that was cancelled.
+/// Scope guard: deletes the file unless cancelled.
 class removal {
 public:
     explicit removal(const fs::path& path) : path_(path) {}
@@ -93,7 +93,7 @@ std::error_code write_and_rename(const fs::path& target, fs::perms permissions, 
     return error;
 }
 
-/// Where links that lead to no file yet would have it.
+/// The end of a chain of links, which need not exist.
 fs::path end_of_links(fs::path path, std::error_code& error)
 {
     constexpr int most_links = 40;
@@ -104,7 +104,7 @@ fs::path end_of_links(fs::path path, std::error_code& error)
         const fs::path next = fs::read_symlink(path, error);
         if (error)
             return path;
-        path = path.parent_path() / next; // the latter alone if it is absolute
+        path = path.parent_path() / next; // `next` alone if it is absolute
     }
     error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
     return path;
@@ -116,7 +116,7 @@ struct write_target {
     fs::file_status file; ///< what stands there
     std::error_code error;
 
-    /// A file takes the place of another; into what is no file, a text is written.
+    /// A file is replaced; to anything else the text is written directly.
     bool is_file() const { return file.type() == fs::file_type::regular || file.type() == fs::file_type::not_found; }
 };
 
@@ -136,7 +136,7 @@ write_target find_target(const fs::path& path)
     return target;
 }
 
-/// Why this process cannot write to what is there, as far as the system says.
+/// Why this process cannot write to an existing file, as far as the system reports it.
 std::error_code obstacle_at(const fs::path& file)
 {
 #ifdef _WIN32
@@ -147,16 +147,16 @@ std::error_code obstacle_at(const fs::path& file)
 #endif
 }
 
-/// The same of making a file in `folder`.
+/// Why it cannot make a file in `folder`.
 std::error_code obstacle_in(const fs::path& folder)
 {
 #ifdef _WIN32
-    // The attributes of a folder do not say who may write into it.
+    // On Windows the attributes of a folder do not show who may write into it.
     std::error_code error;
     const bool is_there = folder.empty() || fs::is_directory(folder, error);
     return is_there ? std::error_code() : std::make_error_code(std::errc::no_such_file_or_directory);
 #else
-    return obstacle_at(folder / "."); // the current folder if it is empty, and no other file than a folder
+    return obstacle_at(folder / "."); // the current folder if it is empty; fails for what is no folder
 #endif
 }
 

@@ -1,4 +1,4 @@
-/// Files that are there whole or not at all.
+/// Writing files completely or not at all.
 #ifndef STAAD_IO_WHOLE_FILE_H
 #define STAAD_IO_WHOLE_FILE_H
 
@@ -10,17 +10,17 @@
 
 namespace STAAD {
 
-/// Makes `text` the content of the file at `path`, lines ended as the platform has them. No error if all
-/// of it is there.
+/// Makes `text` the content of the file at `path`, with the line ends of the platform. No error if all of it
+/// was written.
 ///
-/// The text goes to a temporary file in the same folder, which takes the place of the target once all of
-/// it is on the disk: whatever goes wrong before that leaves an earlier file as it was. A file that is
-/// replaced hands on its permissions; a symbolic link stays, and the file it points at is replaced. What
-/// is no file, such as a device or a pipe, is written to directly.
+/// The text goes to a temporary file in the same folder, which replaces the target once all of it is on the
+/// disk: a failure before that leaves an earlier file as it was. The new file gets the permissions of the one
+/// it replaces; a symbolic link stays, and the file it points at is replaced. A device or a pipe is written to
+/// directly.
 STAAD_API std::error_code write_whole_file(const std::filesystem::path& path, std::string_view text);
 
-/// Why write_whole_file() cannot write to `path`, as far as that shows before a byte is written: it is a
-/// folder, the folder of the file is missing, or one of them may not be written to.
+/// Why write_whole_file() cannot write to `path`, as far as can be seen before writing: it is a folder, the
+/// folder of the file is missing, or file or folder may not be written to.
 STAAD_API std::error_code obstacle_to_writing(const std::filesystem::path& path);
 
 } // namespace STAAD

@@ -7,8 +7,8 @@
 namespace STAAD::detail {
 namespace {
 
-/// From this length on the system refuses a path without the prefix for long ones; folders a little
-/// earlier than files.
+/// Longer paths are refused without the prefix for long paths; for folders the limit is a little lower than for
+/// files.
 constexpr std::size_t longest_plain_path = 247;
 
 /// The whole path from the drive on, with "\" between its parts: what follows the prefix is taken
@@ -34,7 +34,7 @@ std::wstring wide_text(std::string_view narrow)
 
 std::string narrow_text(std::wstring_view wide)
 {
-    // Not a letter that looks alike: that might name another file. UTF-8 has all letters and refuses the flag.
+    // No look-alike letters: they might name another file. UTF-8 has all letters and refuses the flag.
     const DWORD flags = GetACP() == CP_UTF8 ? 0 : WC_NO_BEST_FIT_CHARS;
     const int wide_size = static_cast<int>(wide.size());
     const int size = WideCharToMultiByte(CP_ACP, flags, wide.data(), wide_size, nullptr, 0, nullptr, nullptr);

@@ -15,10 +15,10 @@ std::wstring wide_text(std::string_view narrow);
 /// UTF-16 text in the ANSI code page; characters that it lacks become "?".
 std::string narrow_text(std::wstring_view wide);
 
-/// `path` as the system takes it, in the form for long paths where it is long.
+/// `path` as the system needs it, in the form for long paths if it is long.
 std::wstring long_path(std::wstring path);
 
-/// The same of a narrow name.
+/// The same for a narrow name.
 std::wstring wide_path(std::string_view narrow);
 
 } // namespace STAAD::detail

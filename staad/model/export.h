@@ -1,4 +1,4 @@
-/// Leads to staad/export.h: hosts know the header by this name.
+/// Includes staad/export.h: hosts include it by this name.
 #ifndef STAAD_MODEL_EXPORT_H
 #define STAAD_MODEL_EXPORT_H
 

@@ -1,8 +1,8 @@
 /// The public fields of every record: names and values in declaration order.
 ///
-/// Each record is taken apart by a structured binding, which compiles only as long as it names every field
-/// there is: a field added to a record cannot be forgotten here. What goes through all fields of a model -
-/// printing, comparing, filling - goes by this list.
+/// Each record is taken apart by a structured binding, which compiles only if it names every field, so that a
+/// field added to a record cannot be forgotten here. Whatever visits all fields of a model - printing,
+/// comparing, filling - uses this list.
 #ifndef STAAD_MODEL_FIELDS_H
 #define STAAD_MODEL_FIELDS_H
 

@@ -27,17 +27,17 @@ struct ForcePoint {
 struct BeamLoadCaseRecord {
     int load_case = 0;                   ///< load case number as printed
     std::vector<ForcePoint> points;      ///< stations as printed
-    std::vector<ForcePoint> pkpm_points; ///< resampled at nine stations; empty until then
+    std::vector<ForcePoint> pkpm_points; ///< nine stations, filled by sort_pkpm_format()
 
     /// Sorts `points` by position, drops all but the first of stations closer than 0.0001 mm, and
-    /// fills `pkpm_points` with nine stations: nine as they stand, else the first, seven at eighths of
-    /// the last position (linear between neighbours), the last. Fewer than two points leave
-    /// `pkpm_points` as it was. Cost: n log n for n points.
+    /// fills `pkpm_points` with nine stations: nine points are copied; from any other number come the first,
+    /// seven at eighths of the last position (linear between neighbours) and the last. Fewer than two points
+    /// leave `pkpm_points` as it was. Cost: n log n for n points.
     STAAD_API void sort_pkpm_format();
 };
 
-/// One station of the list that the downstream design program takes: a point for each kind of
-/// load, all zeros where there is none.
+/// One station of the list that the downstream design program takes: a point for each kind of load, all zeros
+/// for a kind without a case.
 struct BeamLoadList {
     ForcePoint dead;
     ForcePoint live;
@@ -52,14 +52,14 @@ struct BeamForceAndMOM {
 
     /// Stores `record`, or appends its `points` to the record of the same load case.
     STAAD_API void add_loadCase_record(const BeamLoadCaseRecord& record);
-    /// Adds every record of `other` if it is of the same member; else nothing happens.
+    /// Adds every record of `other` if it is of the same member; else does nothing.
     STAAD_API void merge(const BeamForceAndMOM& other);
     /// Resamples every record.
     STAAD_API void sort_pkpm_format();
 
     /// The list that the downstream design program takes: station i has the i-th `pkpm_points` of the
-    /// dead, live, wind and seismic load case. Of several cases of one kind the highest number counts;
-    /// nothing is added up. Empty if no record has a kind and stations.
+    /// dead, live, wind and seismic load case. Of several cases of one kind the one with the highest number is
+    /// taken; values are not added up. Empty if no record has both a kind and stations.
     STAAD_API std::vector<BeamLoadList> get_pkpm_load_on_section(const std::map<int, LoadCase>& load_cases) const;
 };
 

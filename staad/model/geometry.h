@@ -82,7 +82,7 @@ struct SdShell {
     SdShell() = default;
     /// Reads "number corner corner ...", the corners still as joint numbers of the file.
     STAAD_API SdShell(const std::string& item);
-    /// Copies field by field; the corners stay what they are in the surface.
+    /// Copies field by field; the corners stay joint numbers of the file.
     STAAD_API SdShell(const SdSurface& surface);
 };
 

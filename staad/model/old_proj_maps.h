@@ -6,7 +6,7 @@
 
 namespace STAAD {
 
-/// All keys and values are 1-based positions; what has no counterpart has no entry.
+/// All keys and values are 1-based positions; a record without a counterpart has no entry.
 struct OldProjMaps {
     std::map<int, int> joints_new_to_old;
     std::map<int, int> members_new_to_old;

@@ -1,5 +1,5 @@
 /// Parameter blocks that a host fills in for the generated wind and seismic loads. The library
-/// writes them; reading a file leaves them alone.
+/// writes them; reading a file does not change them.
 #ifndef STAAD_MODEL_PARAMETERS_H
 #define STAAD_MODEL_PARAMETERS_H
 
@@ -9,7 +9,7 @@
 
 namespace STAAD {
 
-/// Wind parameters. Numbers are written as they stand: the units are the host's, in practice m,
+/// Wind parameters. Numbers are written unchanged: the units are the host's, in practice m,
 /// kN/m2 and s.
 struct WindLoadParam {
     std::string title;                               ///< free for the host; not written

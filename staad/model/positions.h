@@ -7,7 +7,7 @@
 
 namespace STAAD {
 
-/// The record at the 1-based `position`; null where the list has none. Any number may be asked for.
+/// The record at the 1-based `position`; null if the list has none. `position` may be any number.
 template<class Record>
 const Record* at_position(const std::vector<Record>& list, int position) noexcept
 {

@@ -24,8 +24,8 @@ enum UsrDefineSectionType : int {
     Prismatic = 10      ///< "PRISMATIC"
 };
 
-/// One distinct member property. Equality and order look at `property` alone, so that an ordered
-/// container of sections holds each property text once, whatever the material.
+/// One distinct member property. Equality and order look at `property` alone, so that an ordered container of
+/// sections holds each property text once, even if members of several materials have it.
 struct Section {
     int tag = 0;          ///< free for the host; takes no part in comparison
     std::string type;     ///< "ST", "TAPERED", "PRIS" or empty, by the beginning of `property`
@@ -46,7 +46,7 @@ struct Section {
 struct SdUserSectionTable {
     std::string type;                   ///< family word, for example "WIDE FLANGE"
     std::string unit = "UNIT METER KN"; ///< the table's own UNIT line; look-ups do not use it
-    /// Row name to the line after it. Dimension lines stand here as names, too.
+    /// Row name to the line after it. Every line is a name, dimension lines too.
     std::map<std::string, std::string> records;
 
     /// Sets or replaces the row `name`.

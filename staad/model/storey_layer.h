@@ -21,8 +21,8 @@ struct LayerMember {
 struct StoreyLayer {
     double base = 0.0;                ///< mm, height of the lower level
     double height = 0.0;              ///< mm to the next level; 3000 if the model has but one level
-    std::vector<LayerMember> members; ///< those that rise to the upper level; of a single level those on it or below
-    std::vector<SdShell> shells;      ///< the same of elements
+    std::vector<LayerMember> members; ///< those that rise to the upper level; with one level, those on it or below
+    std::vector<SdShell> shells;      ///< elements, by the same rule
 };
 
 /// A joint and the level that it belongs to.

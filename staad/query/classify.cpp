@@ -1,4 +1,4 @@
-// What members, load cases and groups are.
+// Kinds of members, load cases and groups.
 
 #include "staad/model/positions.h"
 #include "staad/model/sd_reader.h"
@@ -11,7 +11,7 @@ namespace {
 
 /// A column's ends stand above each other within this, mm, on both plan axes.
 constexpr double column_tolerance = 0.1;
-/// A brace's ends lie level within this, mm: ten times tighter than the column test, on purpose.
+/// The ends of a horizontal brace are level within this, mm; on purpose ten times tighter than the column's.
 constexpr double level_tolerance = 0.01;
 
 } // namespace

@@ -1,4 +1,4 @@
-/// What is where in a model's lists.
+/// Look-ups in a model's lists.
 #ifndef STAAD_QUERY_LOOKUP_H
 #define STAAD_QUERY_LOOKUP_H
 
@@ -10,7 +10,7 @@ namespace STAAD {
 
 class SdReader;
 
-/// How many of SdReader::shells are elements; they come first. The rest are copies of surfaces.
+/// Number of elements in SdReader::shells; they come first. The rest are copies of surfaces.
 STAAD_API std::size_t element_count(const SdReader& model) noexcept;
 
 } // namespace STAAD

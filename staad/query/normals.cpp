@@ -18,8 +18,8 @@ struct vector_3 {
     double z = 1.0;
 };
 
-/// Newell's sums over the corners, run on from (0, 0, 1): a shell without area gets an upward normal
-/// instead of none, and beside the areas of real shells in mm2 the 1 is nothing. Every corner is a joint.
+/// Newell's sums over the corners, started at (0, 0, 1): a shell without area gets an upward normal, and the 1
+/// is negligible against the area of a real shell in mm2. Every corner must be a joint.
 vector_3 newell_sums(const std::vector<SdNode>& nodes, const std::vector<int>& corners)
 {
     const auto joint = [&](int position) -> const SdNode& { return nodes[static_cast<std::size_t>(position) - 1]; };

@@ -11,10 +11,10 @@
 namespace STAAD::detail {
 namespace {
 
-/// Words of commands are shown up to this length.
+/// Command words are shown up to this length.
 constexpr std::size_t longest_word = 60;
 
-/// Data lines begin with a digit, now and then after blanks.
+/// Data lines begin with a digit, sometimes after blanks.
 bool is_data(std::string_view line) noexcept
 {
     return chk_isdigit(trim_blanks(line));
@@ -48,8 +48,8 @@ struct skipped_command {
     std::size_t count;
 };
 
-/// Counts lines by the command they stand under, in order of first appearance. A text of more commands
-/// than any deck has, which is then no deck, gets one entry for all of the rest.
+/// Counts lines by the command they stand under, in order of first appearance. A text with more commands than
+/// any deck has gets one entry for all of the rest.
 class skipped_tally {
 public:
     void start_command(std::string_view line)
@@ -87,7 +87,7 @@ private:
     std::vector<skipped_command> commands_;
 };
 
-/// Words that no list understands, though engineers know them from other lists.
+/// Words that engineers know from other lists; none is understood here.
 bool is_list_word(std::string_view word) noexcept
 {
     return word == "BY" || word == "ALL";
@@ -158,7 +158,7 @@ void report_block_open(const line_list& lines, std::size_t begin, std::string_vi
         });
 }
 
-void tell_near_keywords(const line_list& lines, std::string_view missing, reading& context)
+void report_near_keywords(const line_list& lines, std::string_view missing, reading& context)
 {
     if (!context.findings.listening())
         return;
@@ -170,7 +170,7 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
             continue;
         const auto severity = meant == missing ? Finding::Error : Finding::Warning;
         context.findings.add_as(severity, FindingCode::keyword_near, lines[i].place, [&] {
-            // As it stands: the blanks that make the difference are to be seen.
+            // The whole line: the blanks that make the difference must show.
             const bool only_blanks = starts_with(trim_blanks(lines[i].text), meant);
             return "'" + std::string(lines[i].text) + "' is not '" + std::string(meant) + "'" +
                    (only_blanks ? ": mind the blanks, tabs and words around it" : "");
@@ -178,7 +178,7 @@ void tell_near_keywords(const line_list& lines, std::string_view missing, readin
     }
 }
 
-void tell_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context)
+void report_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context)
 {
     using enum FileBytes::Outcome;
     report_file_trouble({.is_missing = outcome == missing,
@@ -188,7 +188,7 @@ void tell_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& con
                         context.findings);
 }
 
-void tell_unit_words(std::string_view unit_line, line_place place, reading& context)
+void report_unit_words(std::string_view unit_line, line_place place, reading& context)
 {
     if (!context.findings.listening())
         return;
@@ -197,7 +197,7 @@ void tell_unit_words(std::string_view unit_line, line_place place, reading& cont
                       {factors.unknown_length, factors.unknown_force, factors.unknown_moment}, place, context.findings);
 }
 
-void tell_skipped(const line_list& lines, reading& context)
+void report_skipped(const line_list& lines, reading& context)
 {
     if (!context.findings.listening())
         return;

@@ -1,4 +1,4 @@
-/// Findings that several block readers share. Each costs nothing unless someone listens.
+/// Findings that several block readers share. They cost nothing unless a report is wanted.
 #ifndef STAAD_READER_FINDINGS_H
 #define STAAD_READER_FINDINGS_H
 
@@ -12,11 +12,11 @@
 
 namespace STAAD::detail {
 
-/// A data line without effect: no joint, member, element or surface has a number of its list. `what` was
-/// read for it: "section", "load".
+/// A data line without effect: no joint, member, element or surface has a number of its list. `what` names its
+/// value: "section", "load".
 void report_no_effect(std::string_view what, const text_line& line, reading& context);
 
-/// A list that ended before the words that are no part of it, at a word such as "BY" or "ALL".
+/// A list that ended too early, at a word such as "BY" or "ALL".
 void report_list_stopped(std::string_view word, const text_line& line, reading& context);
 
 /// The same, but only where the word is "BY" or "ALL": other words may begin what follows the list.
@@ -36,18 +36,18 @@ void report_block_end(std::string_view keyword, const line_list& lines, std::siz
 /// The block that begins at line `begin` has no line that is exactly `closing`.
 void report_block_open(const line_list& lines, std::size_t begin, std::string_view closing, reading& context);
 
-/// Lines that are nearly keywords. `missing` names the keyword for want of which no model was read;
-/// empty if one was.
-void tell_near_keywords(const line_list& lines, std::string_view missing, reading& context);
+/// Lines that are nearly keywords. `missing` is the keyword without which no model could be read; empty if one
+/// was read.
+void report_near_keywords(const line_list& lines, std::string_view missing, reading& context);
 
-/// Why a file gives no text; `for_update` says that it had to be opened for writing, too.
-void tell_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context);
+/// Why no text could be read from a file; with `for_update` it had to be opened for writing, too.
+void report_file_trouble(FileBytes::Outcome outcome, bool for_update, reading& context);
 
 /// One finding per word of a UNIT line that the tables do not know; one if it is short of words.
-void tell_unit_words(std::string_view unit_line, line_place place, reading& context);
+void report_unit_words(std::string_view unit_line, line_place place, reading& context);
 
-/// What no block has understood, by command words. Comments do not count.
-void tell_skipped(const line_list& lines, reading& context);
+/// Lines that no block has understood, by command words; comments are left out.
+void report_skipped(const line_list& lines, reading& context);
 
 } // namespace STAAD::detail
 

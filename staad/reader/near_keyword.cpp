@@ -66,7 +66,7 @@ constexpr keyword keywords[] = {
     whole("START USER TABLE"),
 };
 
-/// Longer lines are data or titles, not a mistyped keyword.
+/// Longer lines are data or titles, not mistyped keywords.
 constexpr std::size_t longest_worth_a_look = 120;
 
 std::size_t common_beginning(std::string_view a, std::string_view b)

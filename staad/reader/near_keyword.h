@@ -1,4 +1,4 @@
-/// Lines that an engineer meant as a keyword and the reader does not take for one.
+/// Lines that an engineer probably meant as a keyword, but the reader does not accept as one.
 #ifndef STAAD_READER_NEAR_KEYWORD_H
 #define STAAD_READER_NEAR_KEYWORD_H
 

@@ -16,13 +16,12 @@ namespace {
 using detail::line_list;
 using detail::reading;
 
-/// Comment lines of generated data, which a written model carries and no reading wants.
+/// Comment lines of generated data in written models; no reading uses them.
 constexpr const char* generated_comment = "*{";
 
 constexpr detail::line_place whole_text{0, 0};
 
-/// The unit words of a UNIT line, lower-cased and without hyphens: the three after UNIT, as far as they
-/// are there.
+/// The unit words of a UNIT line, lower-cased and without hyphens: up to three after UNIT.
 std::vector<std::string> unit_words(std::string_view line)
 {
     detail::word_cursor words(line);
@@ -32,8 +31,8 @@ std::vector<std::string> unit_words(std::string_view line)
     return SplitString(three, " ");
 }
 
-/// Later UNIT lines change nothing; one with words that the first does not have means trouble.
-void tell_later_units(const line_list& lines, std::size_t governing, reading& context)
+/// Later UNIT lines change nothing; reports those with other words than the first.
+void report_later_units(const line_list& lines, std::size_t governing, reading& context)
 {
     const std::vector<std::string> known = unit_words(lines[governing].text);
     for (std::size_t i = lines.find_start("UNIT", governing + 1); i < lines.size();
@@ -51,16 +50,16 @@ void tell_later_units(const line_list& lines, std::size_t governing, reading& co
     }
 }
 
-void tell_units(const line_list& lines, std::size_t governing, reading& context)
+void report_units(const line_list& lines, std::size_t governing, reading& context)
 {
     context.used.mark(governing);
     if (!context.findings.listening())
         return;
-    detail::tell_unit_words(lines[governing].text, lines[governing].place, context);
-    tell_later_units(lines, governing, context);
+    detail::report_unit_words(lines[governing].text, lines[governing].place, context);
+    report_later_units(lines, governing, context);
 }
 
-/// Why no line is a unit line, as far as the first one shows.
+/// Why no line is a unit line, judged by the first one.
 std::string why_no_unit(const line_list& lines)
 {
     const std::string_view first = lines.empty() ? std::string_view() : lines[0].text;
@@ -71,12 +70,12 @@ std::string why_no_unit(const line_list& lines)
     return "no line begins with 'UNIT' and has a line after it";
 }
 
-/// No model: why, and the nearest line that looks like the one that is missing.
+/// Reports why there is no model, and the lines that look like the missing one.
 bool no_model(FindingCode code, std::string_view missing, std::string why, const line_list& lines, reading& context)
 {
     if (!lines.empty() || context.findings.empty()) // a file that could not be read has its finding already
         context.findings.add(code, whole_text, [&] { return std::move(why); });
-    detail::tell_near_keywords(lines, missing, context);
+    detail::report_near_keywords(lines, missing, context);
     return false;
 }
 
@@ -85,7 +84,7 @@ line_list lines_of(FileBytes file, bool for_update, std::string_view skip_prefix
 {
     if (file.outcome == FileBytes::Outcome::read)
         return {std::move(file.bytes), file.size, skip_prefix};
-    detail::tell_file_trouble(file.outcome, for_update, context);
+    detail::report_file_trouble(file.outcome, for_update, context);
     return {};
 }
 
@@ -142,7 +141,7 @@ bool model_reader::read_lines(SdReader& model, line_list lines, reading& context
         return no_model(FindingCode::no_unit, "UNIT", why_no_unit(lines), lines, context);
     model.unit_text = lines[unit].text;
     model.unify_staadpro_unit();
-    tell_units(lines, unit, context);
+    report_units(lines, unit, context);
 
     const std::size_t joints = lines.find_start("JOINT COORDINATES", unit + 1);
     if (joints == lines.size())
@@ -175,8 +174,8 @@ bool model_reader::read_lines(SdReader& model, line_list lines, reading& context
     model.read_release(lines, context);
     model.read_offset(lines, context);
     model.read_load(lines, context);
-    tell_near_keywords(lines, {}, context);
-    tell_skipped(lines, context);
+    report_near_keywords(lines, {}, context);
+    report_skipped(lines, context);
     return true;
 }
 

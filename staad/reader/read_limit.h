@@ -1,4 +1,4 @@
-/// Leads to staad/report/read_limit.h: hosts know the header by this name.
+/// Includes staad/report/read_limit.h: hosts include it by this name.
 #ifndef STAAD_READER_READ_LIMIT_H
 #define STAAD_READER_READ_LIMIT_H
 

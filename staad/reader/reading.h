@@ -1,5 +1,5 @@
-/// What lives during one reading and not longer: where findings go, how much the lists may still
-/// hold, and the look-ups by number that all blocks share.
+/// The state of one reading: its findings, how much the lists may still hold, and the look-ups by number that
+/// all blocks share.
 #ifndef STAAD_READER_READING_H
 #define STAAD_READER_READING_H
 
@@ -13,8 +13,7 @@
 
 namespace STAAD::detail {
 
-/// Which logical lines some block has understood; the rest is in the file and not in the model.
-/// Records nothing when no report is wanted.
+/// The logical lines that a block has understood. Records nothing if no report is wanted.
 class used_lines {
 public:
     void start(std::size_t line_count) { used_.assign(line_count, false); }

@@ -1,4 +1,4 @@
-/// Leads to staad/text/split_string.h: hosts know the header by this name.
+/// Includes staad/text/split_string.h: hosts include it by this name.
 #ifndef STAAD_READER_TEXT_H
 #define STAAD_READER_TEXT_H
 

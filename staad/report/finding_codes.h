@@ -1,4 +1,4 @@
-/// Every code that a finding can have: its text, how grave it is, what it means and what to do.
+/// Every code that a finding can have: its text, severity, meaning and advice.
 #ifndef STAAD_REPORT_FINDING_CODES_H
 #define STAAD_REPORT_FINDING_CODES_H
 
@@ -13,7 +13,7 @@ namespace STAAD {
 
 /// The codes of the library and of the command-line tool. The text of a code is its name with hyphens.
 enum class FindingCode : int {
-    // A file gives no text, or a text no model.
+    // No text can be read from a file, or no model from a text.
     file_missing,
     file_access,
     file_unreadable,
@@ -84,10 +84,9 @@ enum class FindingCode : int {
     field_missing,
     field_twice,
     field_value,
-    field_word,
     list_length,
     spectrum,
-    // What a written deck says in another way than the one read, or does not say.
+    // What a written deck says differently from the one read, or leaves out.
     numbers,
     kept_units,
     gravity,
@@ -126,7 +125,7 @@ struct FindingCodeList {
 
 STAAD_API FindingCodeList finding_codes() noexcept;
 
-/// What is known of a code. Cost: one look-up.
+/// The entry of a code. Cost: one look-up.
 STAAD_API const FindingCodeInfo& finding_code_info(FindingCode code) noexcept;
 
 /// The same by the code's text, as a Finding holds it; null if no code has that text.

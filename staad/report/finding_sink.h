@@ -1,4 +1,4 @@
-/// Where the findings of a reading go, and how texts are quoted in them.
+/// Gathers the findings of a reading, and quotes texts for them.
 #ifndef STAAD_REPORT_FINDING_SINK_H
 #define STAAD_REPORT_FINDING_SINK_H
 
@@ -23,24 +23,24 @@ public:
     explicit finding_sink(ReadReport* report);
 
     bool listening() const noexcept { return report_ != nullptr; }
-    /// Nothing has been added.
+    /// True if nothing has been added.
     bool empty() const noexcept { return report_ == nullptr || report_->findings.empty(); }
 
-    /// Adds one finding, or counts it with its like once there are many; see ReadReport. `compose()`
-    /// gives the text and is called only if it will be read: a hostile text has findings by the million.
+    /// Adds one finding, or counts it once there are many of its code; see ReadReport. `compose()` gives the
+    /// text and is called only for a finding that is listed: a hostile text has findings by the million.
     template<class Compose>
     void add(FindingCode code, line_place place, Compose compose)
     {
         add_as(finding_code_info(code).severity, code, place, compose);
     }
-    /// The same with a severity that depends on the case.
+    /// The same with a severity other than the code's own.
     template<class Compose>
     void add_as(Finding::Severity severity, FindingCode code, line_place place, Compose compose)
     {
         if (takes_one_more(code, place))
             append(severity, code, place, compose(), 1);
     }
-    /// Adds one finding whatever their number, with a count of its own.
+    /// Adds one finding with a count of its own, however many of the code there are.
     void list(FindingCode code, line_place place, std::string text, std::size_t count);
 
     /// The concrete density was read from these lines.

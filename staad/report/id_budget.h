@@ -1,4 +1,4 @@
-/// How many numbers and long texts the lists of one reading may still come to.
+/// How many numbers and long texts the lists of one reading may still hold.
 #ifndef STAAD_REPORT_ID_BUDGET_H
 #define STAAD_REPORT_ID_BUDGET_H
 
@@ -11,8 +11,8 @@
 
 namespace STAAD::detail {
 
-/// Counts the numbers that the stored lists of one reading stand for, and the long texts that it gives
-/// out, and throws ReadLimitError before a list or all of them together take more than a reading holds.
+/// Counts the numbers in the stored lists of one reading, and the long texts that it gives to records, and
+/// throws ReadLimitError before one list or all together pass their limit.
 class id_budget {
 public:
     /// A new list begins, at these physical lines.
@@ -55,7 +55,7 @@ private:
     std::size_t text_in_reading_ = 0;
 };
 
-/// Appends the numbers of a list to `ids`, counted out; all of them or, past the budget, none.
+/// Appends every number of a list to `ids`; all of them or, past the budget, none.
 template<class Ids, class Words>
 void append_ids(Ids& ids, id_list_walker<Words>& walker, id_budget& budget)
 {

@@ -8,7 +8,7 @@
 
 namespace STAAD::detail {
 
-/// Why a file gives no text; neither: it cannot be read to its end.
+/// Why no text could be read from a file; neither: it cannot be read to its end.
 struct file_trouble {
     bool is_missing = false;
     bool is_folder = false;

@@ -23,8 +23,8 @@ inline constexpr std::size_t most_text_per_reading = 268'435'456;
 /// Most joints, members and elements that generation and REPEAT lines of one deck may make.
 inline constexpr std::size_t most_generated_per_reading = 4'194'304;
 
-/// A list such as "1 TO 2000000000" asks for more numbers than a reading holds, or a long text goes to more
-/// records than can have it. Thrown before the memory is taken; the object being read into can be read into again.
+/// A list such as "1 TO 2000000000" stands for more numbers than a reading may hold, or a long text goes to too
+/// many records. Thrown before the memory is taken; the object being read into can be read into again.
 class STAAD_API ReadLimitError : public std::bad_alloc {
 public:
     /// `first_line` and `last_line` are physical lines, from 1; 0: the list stands in no file.

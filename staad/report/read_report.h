@@ -1,4 +1,4 @@
-/// What a reading reports about the text, beside the model.
+/// What a reading reports about the text.
 #ifndef STAAD_REPORT_READ_REPORT_H
 #define STAAD_REPORT_READ_REPORT_H
 

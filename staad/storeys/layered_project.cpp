@@ -33,7 +33,7 @@ private:
     std::vector<Section> sections_; // by tag
 };
 
-/// Room for what every level will hold: records are large, and lists of them are not to be moved about.
+/// Reserves the lists of every level: records are large, and growing lists would move them.
 void reserve(std::vector<StoreyLayer>& contents, const LevelAssignment& assigned)
 {
     std::vector<std::size_t> members(contents.size());
@@ -52,7 +52,7 @@ void reserve(std::vector<StoreyLayer>& contents, const LevelAssignment& assigned
 std::vector<StoreyLayer> contents_of_levels(SdReader& model, const LevelAssignment& assigned,
                                             section_register& sections)
 {
-    std::vector<StoreyLayer> contents(assigned.levels.size() + 1); // one for what lies above every level
+    std::vector<StoreyLayer> contents(assigned.levels.size() + 1); // and one for records above every level
     reserve(contents, assigned);
     for (std::size_t i = 0; i < model.beams.size(); ++i) {
         LayerMember entry;
@@ -75,7 +75,7 @@ StoreyLayer with_height(StoreyLayer contents, double base, double height)
     return contents;
 }
 
-/// A storey holds what rises to its upper level; a single level makes a storey of its own.
+/// A storey holds the contents of its upper level; a single level makes one storey.
 std::vector<StoreyLayer> storeys_between(const std::vector<double>& levels, std::vector<StoreyLayer> contents)
 {
     std::vector<StoreyLayer> layers;

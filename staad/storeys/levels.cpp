@@ -18,7 +18,7 @@ double rounded(double value)
 
 void add_level(std::vector<double>& levels, double height)
 {
-    // A host's model may hold a NaN, which no sorting can place.
+    // A host's model may hold a NaN, which cannot be sorted.
     if (!std::isnan(height))
         levels.push_back(rounded(height));
 }
@@ -48,7 +48,7 @@ std::vector<NodeLevel> levels_of_joints(const std::vector<SdNode>& joints, const
     return result;
 }
 
-/// The highest level among joints by position; those that are no joints do not count.
+/// The highest level among joints by position; positions without a joint are left out.
 template<class Positions>
 std::size_t highest_level(const Positions& positions, const std::vector<NodeLevel>& joint_levels)
 {

@@ -28,8 +28,9 @@ struct LevelAssignment {
     std::vector<std::size_t> shell_levels;  ///< by index in `shells`: that of the highest corner
 };
 
-/// A joint belongs to the lowest level that is not below it once both are in whole mm; above every level that
-/// is `levels.size()`. Ends and corners that are no joints do not count; without any the level is 0.
+/// A joint belongs to the lowest level that is not below it, compared in whole mm; above the highest level its
+/// level is `levels.size()`. Ends and corners without a joint are left out; a record without any joint has
+/// level 0.
 /// Throws: std::bad_alloc. Cost: that of storey_levels, and a binary search for each joint.
 STAAD_API LevelAssignment assign_levels(const SdReader& model);
 

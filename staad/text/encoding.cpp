@@ -9,7 +9,7 @@
 namespace STAAD {
 namespace {
 
-/// A character in UTF-8: its code point and its length in bytes; length 0: none stands here.
+/// A character in UTF-8: its code point and its length in bytes; length 0: the bytes are no character.
 struct utf8_character {
     std::uint32_t code = 0;
     std::size_t length = 0;

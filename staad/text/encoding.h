@@ -28,12 +28,12 @@ STAAD_API bool is_utf8(std::string_view text) noexcept;
 /// - two letters between lower-case ASCII ones: "Gr\xF6\xDF" "e";
 /// - a sign alone: "20 \xB0" "C", "kN/m\xB2".
 ///
-/// GBK puts nearly all of its characters into pairs of bytes above 0xA0, so that a text with a Chinese
-/// word in it fails this.
+/// Nearly all characters of GBK are pairs of bytes above 0xA0, so that a text with a Chinese word in it does
+/// not pass.
 STAAD_API bool looks_like_latin1(std::string_view text) noexcept;
 
-/// `text` decoded from GBK; nothing if it is no GBK, or the platform has no table of it (Windows and
-/// Linux have).
+/// `text` decoded from GBK; nothing if it is not GBK, or the platform has no table of it (Windows and Linux
+/// have).
 STAAD_API std::optional<std::string> utf8_from_gbk(std::string_view text);
 
 /// UTF-8 `text` in GBK; nothing if GBK lacks one of its characters, or the platform has no table of it.
@@ -42,25 +42,25 @@ STAAD_API std::optional<std::string> gbk_from_utf8(std::string_view text);
 /// UTF-16 text, such as that of PlatformServices, as UTF-8; half a pair of surrogates becomes U+FFFD.
 STAAD_API std::string utf8_from_utf16(std::u16string_view text);
 
-/// Every byte taken for the code point of its number. No text fails this, and no byte is lost.
+/// Every byte becomes the code point of the same number. Works for any bytes, and loses none.
 STAAD_API std::string utf8_from_latin1(std::string_view text);
 
-/// `text` as it stands if it is UTF-8; else from Latin-1 if it looks like it; else from GBK; and if it is
-/// none of these, byte by byte as Latin-1.
+/// `text` unchanged if it is UTF-8; else decoded from Latin-1 if it looks like that; else from GBK; else byte
+/// by byte as Latin-1.
 STAAD_API std::string utf8_text(std::string_view text);
 
-/// The same for a terminal, which the texts of a file thus cannot drive: control characters become
-/// "\x1B", and so do bytes of no known encoding.
+/// The same for a terminal, safe against escape sequences in a file: control characters, and bytes of no known
+/// encoding, are shown as "\x1B" and so on.
 STAAD_API std::string printable_text(std::string_view text);
 
-/// Control characters as "\x1B"; everything else as it stands, bytes of no known encoding included.
+/// Control characters as "\x1B" and so on; everything else unchanged, bytes of no known encoding included.
 STAAD_API std::string escape_controls(std::string_view text);
 
 /// Terminal cells that UTF-8 `text` takes, Chinese, Japanese and Korean characters two each.
 STAAD_API std::size_t display_width(std::string_view text) noexcept;
 
-/// UTF-8 `text` as it stands if it takes at most `most` cells, else cut to that many, "..." included.
-/// `most` is 3 or more.
+/// UTF-8 `text` unchanged if it takes at most `most` cells, else cut to that many, "..." included. `most` is 3
+/// or more.
 STAAD_API std::string clipped(std::string_view text, std::size_t most);
 
 } // namespace STAAD

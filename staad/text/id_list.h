@@ -41,8 +41,8 @@ struct id_range {
     std::size_t size() const noexcept { return static_cast<std::size_t>(std::int64_t{last} - first) + 1; }
 };
 
-/// Walks a list range by range, without counting them out. `Words` offers
-/// `bool next(std::string_view&)` and can be copied to look ahead.
+/// Walks a list range by range, without expanding the ranges. `Words` offers `bool next(std::string_view&)` and
+/// can be copied to look ahead.
 template<class Words = word_cursor>
 class id_list_walker {
 public:

@@ -15,8 +15,8 @@ inline constexpr std::size_t line_width = 79;
 /// What ends a line that goes on in the next one.
 inline constexpr std::string_view continuation_mark = " -";
 
-/// Puts pieces on a line, one blank between them, and begins a new line where the next piece has no
-/// room. The last line is left without its line feed.
+/// Puts pieces on a line, one blank between them, and begins a new line when the next piece does not fit. The
+/// last line gets no line feed.
 class line_filler {
 public:
     /// `mark` ends every line but the last.
@@ -25,15 +25,15 @@ public:
     {
     }
 
-    /// The beginning of the first line, as it stands.
+    /// Begins the first line with `text`, unchanged.
     void begin(std::string_view text)
     {
         out_.put(text);
         length_ = text.size();
     }
 
-    /// `piece` goes to the line if it leaves `reserve` columns of the width free of both texts, the
-    /// joining blank among them.
+    /// Puts `piece` on the line if the line, the piece and the blank between them leave `reserve` columns of
+    /// the width free; else on a new line.
     void append(std::string_view piece, std::size_t reserve)
     {
         if (length_ + piece.size() + reserve > width_) {

@@ -32,7 +32,7 @@ bool is_continued(std::string_view line) noexcept
     return line.back() == '-' && !is_comment(line);
 }
 
-/// Physical lines are counted in 32 bits; a text of more keeps the highest number from there on.
+/// Physical lines are counted in 32 bits; past that every line has the highest number.
 void count_up(std::uint32_t& number) noexcept
 {
     if (number != std::numeric_limits<std::uint32_t>::max())
@@ -83,7 +83,7 @@ void line_list::prepare()
 }
 
 // One pass, in place: a continued line grows over the bytes of the line ends and dropped lines after
-// it, so the next line's text only ever moves toward the front.
+// it, so text only ever moves toward the front.
 void line_list::join_continued() noexcept
 {
     std::size_t kept = 0;

@@ -63,13 +63,13 @@ public:
     const text_line* end() const noexcept { return lines_.data() + lines_.size(); }
 
     /// Drops lines of nothing but blanks and tabs, then joins continued lines: a line that ends in
-    /// "-" takes the next one in place of it, with one blank between. A line that begins with "*" is
-    /// a comment and never continued by a "-" of its own, which is as often as not part of a ruler.
-    /// A "-" at the end of the last line becomes a blank.
+    /// "-" takes the next one in place of it, with one blank between. A line that begins with "*" is a comment;
+    /// a "-" at its end, which is often part of a ruler, does not continue it. A "-" at the end of the last
+    /// line becomes a blank.
     void prepare();
 
-    // Once prepared, keywords are looked for among the lines that begin with a letter: a few hundred
-    // of the hundred thousands of a large deck.
+    // Once prepared, keywords are looked for only among the lines that begin with a letter: a few hundred of
+    // the hundreds of thousands of lines of a large deck.
 
     /// First line from `from` on that is exactly `keyword`; size() if there is none.
     std::size_t find_equal(std::string_view keyword, std::size_t from = 0) const noexcept;

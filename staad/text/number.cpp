@@ -7,7 +7,7 @@
 #include <limits>
 #include <system_error>
 
-namespace STAAD::detail {
+namespace STAAD {
 namespace {
 
 bool is_digit(char c) noexcept
@@ -37,7 +37,7 @@ bool take_sign(std::string_view& text) noexcept
     return negative;
 }
 
-/// from_chars also knows "inf" and "nan", which no deck means as a number.
+/// from_chars also reads "inf" and "nan", which are never numbers in a deck.
 bool begins_a_decimal(std::string_view text) noexcept
 {
     if (!text.empty() && text.front() == '.')
@@ -124,7 +124,7 @@ number_parse<double> parse_real(std::string_view text) noexcept
     return parsed;
 }
 
-int truncate_to_int(double value) noexcept
+int detail::truncate_to_int(double value) noexcept
 {
     if (std::isnan(value))
         return 0;
@@ -133,4 +133,4 @@ int truncate_to_int(double value) noexcept
     return static_cast<int>(std::clamp(value, lowest, highest));
 }
 
-} // namespace STAAD::detail
+} // namespace STAAD

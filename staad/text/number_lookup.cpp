@@ -6,8 +6,7 @@
 namespace STAAD::detail {
 namespace {
 
-// Up to this many table places per number the table is smaller than what it stands in for, an entry
-// of the ordered index, by a factor of three.
+// Up to this many table places per number, the table takes a third of the memory of an ordered map.
 constexpr std::int64_t places_per_number = 4;
 constexpr std::int64_t places_always_taken = 1024;
 

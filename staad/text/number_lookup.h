@@ -1,4 +1,4 @@
-/// Numbers of the file to 1-based positions, many look-ups at once. Knows no model.
+/// Numbers of the file to 1-based positions, for many look-ups. Knows no model.
 #ifndef STAAD_TEXT_NUMBER_LOOKUP_H
 #define STAAD_TEXT_NUMBER_LOOKUP_H
 
@@ -21,8 +21,8 @@ struct numbered_position {
 /// Which of several records with the same number counts.
 enum class same_number { first_counts, last_counts };
 
-/// Built once from a list of records, then asked often: a table where the numbers lie close together,
-/// as they do in nearly every file, else a binary search.
+/// Built once from a list of records, then asked often: a table if the numbers lie close together, as they do
+/// in nearly every file, else a binary search.
 class number_lookup {
 public:
     number_lookup() = default;
@@ -55,7 +55,7 @@ public:
     template<class Visit>
     void for_each_in(int first, int last, Visit visit) const
     {
-        // A short run is taken from the table; a long one may span gaps that are longer yet.
+        // A short range is looked up number by number; a long one could be mostly gaps.
         if (!table_.empty() && std::int64_t{last} - first < short_run) {
             const std::int64_t end = std::min<std::int64_t>(last - origin_ + 1, std::ssize(table_));
             for (std::int64_t i = std::max<std::int64_t>(first - origin_, 0); i < end; ++i)

@@ -1,4 +1,4 @@
-/// Reals to text, in the "C" form whatever the locale. Nothing else in the library does it.
+/// Reals to text, independent of the locale. Nothing else in the library turns reals into text.
 #ifndef STAAD_TEXT_NUMBER_TEXT_H
 #define STAAD_TEXT_NUMBER_TEXT_H
 

@@ -15,7 +15,7 @@ std::string text_output::take()
     whole.reserve(size);
     for (std::string& block : blocks_) {
         whole += block;
-        std::string().swap(block); // what has been copied is given back at once
+        std::string().swap(block); // its memory is released as soon as it is copied
     }
     whole += text_;
     blocks_.clear();

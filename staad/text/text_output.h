@@ -1,4 +1,4 @@
-/// The one way out for everything that is written: to a file, or kept as a text.
+/// Everything that is written is composed here, and goes to a file or is kept as a text.
 #ifndef STAAD_TEXT_TEXT_OUTPUT_H
 #define STAAD_TEXT_TEXT_OUTPUT_H
 
@@ -19,8 +19,8 @@ class text_output {
 public:
     /// Keeps all of the text; see take().
     text_output() = default;
-    /// Hands the text over to `sink.write(text)` a block at a time, the rest when it is destroyed. A write
-    /// that fails must not throw: the sink keeps what went wrong.
+    /// Hands the text over to `sink.write(text)` a block at a time, the rest on destruction. A write that fails
+    /// must not throw: the sink keeps the error.
     template<class Sink>
     requires requires(Sink& sink, std::string_view text)
     {
@@ -67,7 +67,7 @@ private:
     void hand_over() noexcept;
 
     std::function<void(std::string_view)> write_block_; // empty: the text is kept
-    std::vector<std::string> blocks_; // kept so far: one string of them all would be moved as it grows
+    std::vector<std::string> blocks_; // kept so far; a single string would be copied whenever it grows
     std::string text_;
 };
 

@@ -40,7 +40,7 @@ public:
         return !word.empty();
     }
 
-    /// Takes the next word; empty at the end, as every rule that reads a missing word wants it.
+    /// Takes the next word; empty at the end, so that a missing word reads as an empty one.
     std::string_view next_or_empty() noexcept
     {
         std::string_view word;
@@ -76,13 +76,14 @@ inline bool is_comment(std::string_view line) noexcept
     return starts_with(line, "*");
 }
 
-/// The test by which most blocks know their own lines. "0" fails it.
+/// The test by which most blocks recognise their own lines. "0" does not pass.
 inline bool starts_with_digit_1_to_9(std::string_view text) noexcept
 {
     return !text.empty() && text.front() >= '1' && text.front() <= '9';
 }
 
-/// ASCII letters only, byte by byte: the host's locale has no say, GBK bytes pass unchanged.
+/// ASCII letters only, byte by byte, independent of the locale; bytes above 0x7F are no letters and never
+/// change.
 bool is_letter(char c) noexcept;
 bool starts_with_letter(std::string_view text) noexcept;
 char to_upper_ascii(char c) noexcept;

@@ -1,4 +1,4 @@
-/// The words of a UNIT line and what they come to.
+/// The words of a UNIT line and their factors.
 #ifndef STAAD_UNITS_UNIT_FACTORS_H
 #define STAAD_UNITS_UNIT_FACTORS_H
 

@@ -34,7 +34,7 @@ inline constexpr unit_word force_words[] = {
 /// kN*mm per unit; the first hyphen of the word is left out.
 inline constexpr unit_word moment_words[] = {
     {"kipin", kip_in_kn * 25.4},
-    {"kipft", kip_in_kn * 304.8}, // the plain 304.8 here, unlike the foot of the length words
+    {"kipft", kip_in_kn * 304.8}, // 304.8 exactly, unlike the foot of the length words
     {"lbin", pound_in_kn * 25.4},
     {"lbft", pound_in_kn* foot_in_mm},
     {"knm", 1000.0},

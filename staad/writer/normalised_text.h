@@ -1,4 +1,4 @@
-/// The normalised text of a model that stays as it is.
+/// The normalised text of a model, which does not change.
 #ifndef STAAD_WRITER_NORMALISED_TEXT_H
 #define STAAD_WRITER_NORMALISED_TEXT_H
 
@@ -14,8 +14,7 @@ namespace STAAD {
 ///
 /// Threads: several may write one model at the same time.
 /// Throws:  std::bad_alloc.
-/// Cost:    linear in the model, beside the sorting of distinct texts and of unsorted lists; room for the text
-///          twice.
+/// Cost:    linear in the model; distinct texts and unsorted lists are sorted; memory for the text twice.
 STAAD_API std::string normalised_text(const SdReader& model);
 
 } // namespace STAAD

@@ -18,7 +18,18 @@ struct frame_parts {
 };
 
 /// A portal frame with a shell in it.
-std::string frame_deck(const frame_parts& parts = {});
+inline std::string frame_deck(const frame_parts& parts = {})
+{
+    const auto block = [](const std::string& keyword, const std::string& lines) {
+        return lines.empty() ? "" : keyword + '\n' + lines;
+    };
+    const std::string groups =
+        parts.groups.empty() ? "" : "START GROUP DEFINITION\n" + parts.groups + "END GROUP DEFINITION\n";
+    return "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n" + parts.joints + "MEMBER INCIDENCES\n" + parts.members +
+           block("ELEMENT INCIDENCES SHELL", parts.elements) + groups +
+           block("MEMBER PROPERTY CHINESE", parts.sections) + "CONSTANTS\nMATERIAL C30 ALL\n" +
+           block("SUPPORTS", parts.supports) + block("MEMBER RELEASE", parts.releases) + "FINISH\n";
+}
 
 } // namespace cli_test
 

@@ -9,15 +9,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(Convert, WritesTheNormalisedFileAndNothingElse)
+class Convert : public testing::Test {
+protected:
+    Convert()
+    {
+        tool_.write("in.std", small_deck());
+        tool_.write("tower.std", tower_deck());
+    }
+
+    const tool_run tool_;
+    const std::string out_ = tool_.missing("out.std");
+};
+
+TEST_F(Convert, WritesTheNormalisedFileAndNothingElse)
 {
-    const tool_run tool;
-    const std::string in = tool.write("in.std", small_deck());
-    const std::string out = tool.missing("out.std");
-    const tool_result result = tool({"convert", in, out});
+    const tool_result result = tool_("convert in.std out.std");
     EXPECT_EQ(result.exit_code, 0) << result.err;
     EXPECT_EQ(result.out, "");
-    const std::string text = read_text(out);
+    const std::string text = read_text(out_);
     EXPECT_EQ(text.rfind("STAAD SPACE\n"
                          "START JOB INFORMATION\n"
                          "ENGINEER DATE 04-Jun-14\n"
@@ -34,39 +43,33 @@ TEST(Convert, WritesTheNormalisedFileAndNothingElse)
               0U)
         << text;
     EXPECT_EQ(text.substr(text.size() - 7), "\nFINISH");
-    EXPECT_EQ(tool.names(), (std::vector<std::string>{"in.std", "out.std"}));
+    EXPECT_EQ(tool_.names(), (std::vector<std::string>{"in.std", "out.std", "tower.std"}));
 }
 
-TEST(Convert, LoadsAreTheModels)
+TEST_F(Convert, LoadsAreTheModels)
 {
-    const tool_run tool;
-    const tool_result result = tool({"convert", tool.write("in.std", tower_deck()), "-"});
+    const tool_result result = tool_("convert tower.std -");
     EXPECT_EQ(result.exit_code, 0) << result.err;
     // -5 kN/m along GY, and -10 kN at 3 m.
     EXPECT_TRUE(has_line(result.out, "7 TO 9 UNI GZ -0.005000")) << result.out;
     EXPECT_TRUE(has_line(result.out, "7 CON GZ -10.000000 3000.000000")) << result.out;
 }
 
-TEST(Convert, StreamsGiveTheSameBytes)
+TEST_F(Convert, WritesTheSameToStreamsAndOverFiles)
 {
-    const tool_run tool;
-    const std::string in = tool.write("in.std", tower_deck());
-    const std::string out = tool.missing("out.std");
-    ASSERT_EQ(tool({"convert", in, out}).exit_code, 0);
-    const std::string text = read_text(out);
+    ASSERT_EQ(tool_("convert tower.std out.std").exit_code, 0);
+    const std::string text = read_text(out_);
     ASSERT_FALSE(text.empty());
-    EXPECT_EQ(tool({"convert", in, "-"}).out, text);
-    EXPECT_EQ(tool({"convert", "-", "-"}, tower_deck()).out, text);
-}
-
-TEST(Convert, WhatItWroteIsAModelAgain)
-{
-    const tool_run tool;
-    const std::string once = tool.missing("once.std");
-    ASSERT_EQ(tool({"convert", tool.write("in.std", tower_deck()), once}).exit_code, 0);
-    // The surface is an element now, and the wind and seismic cases have come.
-    EXPECT_TRUE(has_line(tool({"info", once, once}).out,
-                         once + ": 9 joints, 12 members, 2 elements, 0 surfaces, 4 load cases"));
+    EXPECT_EQ(tool_("convert tower.std -").out, text);
+    EXPECT_EQ(tool_("convert - -", tower_deck()).out, text);
+    tool_.write("out.std", std::string(100000, 'x'));
+    EXPECT_EQ(tool_("convert tower.std out.std --force").exit_code, 0);
+    EXPECT_EQ(read_text(out_), text);
+    EXPECT_EQ(tool_("convert --force tower.std tower.std").exit_code, 0) << "the input itself";
+    EXPECT_EQ(read_text(tool_.missing("tower.std")), text);
+    // It is a model again: the surface is an element now, and the wind and seismic cases have come.
+    EXPECT_TRUE(has_line(tool_("info out.std out.std").out,
+                         "out.std: 9 joints, 12 members, 2 elements, 0 surfaces, 4 load cases"));
 }
 
 /// A target that cannot be written, and what is said of it: that and nothing else, no notes on a file that there
@@ -98,88 +101,53 @@ const refusal refusals[] = {
 #endif
 };
 
-TEST(Convert, ATargetThatCannotBeWrittenIsReportedBeforeAnythingElse)
+TEST_F(Convert, ATargetThatCannotBeWrittenIsReportedBeforeAnythingElse)
 {
-    const tool_run tool;
-    const std::string in = tool.write("in.std", small_deck());
-    const std::string old = tool.write("old.std", "precious");
-    fs::create_directory(tool.missing("folder"));
+    tool_.write("old.std", "precious");
+    fs::create_directory(tool_.missing("folder"));
 #ifndef _WIN32
-    fs::create_symlink("in.std", tool.missing("link.std"));
-    fs::create_hard_link(in, tool.missing("twin.std"));
-    fs::create_symlink("two.std", tool.missing("one.std"));
-    fs::create_symlink("one.std", tool.missing("two.std"));
+    fs::create_symlink("in.std", tool_.missing("link.std"));
+    fs::create_hard_link(tool_.missing("in.std"), tool_.missing("twin.std"));
+    fs::create_symlink("two.std", tool_.missing("one.std"));
+    fs::create_symlink("one.std", tool_.missing("two.std"));
 #endif
-    const std::vector<std::string> names = tool.names();
+    const std::vector<std::string> names = tool_.names();
     for (const refusal& each : refusals) {
-        const std::string out = tool.folder() + '/' + each.out;
-        for (const bool force : {false, true}) {
-            if (force && !each.with_force)
-                continue;
-            std::vector<std::string> call = {"convert", in, out};
-            if (force)
-                call.emplace_back("--force");
-            const tool_result result = tool(call);
+        const std::string line = std::string("convert in.std ") + each.out;
+        const std::string message = std::string("staadkit: error: ") + each.out + ": " + each.reason + '\n';
+        for (const std::string& call : {line, each.with_force ? line + " --force" : line}) {
+            const tool_result result = tool_(call.c_str());
             EXPECT_EQ(result.exit_code, 4) << each.why;
-            EXPECT_EQ(result.err, "staadkit: error: " + out + ": " + each.reason + '\n') << each.why;
+            EXPECT_EQ(result.err, message) << each.why;
         }
-        EXPECT_EQ(read_file(in), small_deck()) << each.why;
-        EXPECT_EQ(read_file(old), "precious") << each.why;
-        EXPECT_EQ(tool.names(), names) << each.why;
+        EXPECT_EQ(read_file(tool_.missing("in.std")), small_deck()) << each.why;
+        EXPECT_EQ(read_file(tool_.missing("old.std")), "precious") << each.why;
+        EXPECT_EQ(tool_.names(), names) << each.why;
     }
 }
 
-TEST(Convert, AnExistingFileIsReplacedOnRequest)
+TEST_F(Convert, WithoutAModelNothingIsWritten)
 {
-    const tool_run tool;
-    const std::string in = tool.write("in.std", small_deck());
-    const std::string out = tool.write("out.std", std::string(100000, 'x'));
-    EXPECT_EQ(tool({"convert", in, out, "--force"}).exit_code, 0);
-    EXPECT_EQ(read_text(out), tool({"convert", in, "-"}).out);
-}
-
-TEST(Convert, TheInputIsReplacedOnRequest)
-{
-    const tool_run tool;
-    const std::string in = tool.write("in.std", tower_deck());
-    const std::string want = tool({"convert", in, "-"}).out;
-    EXPECT_EQ(tool({"convert", "--force", in, in}).exit_code, 0);
-    EXPECT_EQ(read_text(in), want);
-}
-
-TEST(Convert, WithoutAModelNothingIsWritten)
-{
-    const tool_run tool;
-    const std::string in = tool.write("in.std", "STAAD SPACE\n");
-    const std::string old = tool.write("old.std", "precious");
-    const tool_result result = tool({"convert", "--force", in, old});
-    EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.err.rfind(in + ": error no-unit: ", 0), 0U) << result.err;
+    tool_.write("in.std", "STAAD SPACE\n");
+    const std::string old = tool_.write("old.std", "precious");
+    const std::vector<std::string> names = tool_.names();
+    expect_answers(tool_, {{"over a file", "convert --force in.std old.std", 3, "in.std: error no-unit: "},
+                           {"a new file", "convert in.std new.std", 3, "in.std: error no-unit: "},
+                           {"no input", "convert nowhere.std new.std", 3, "nowhere.std: error file-missing: "}});
     EXPECT_EQ(read_file(old), "precious");
-    EXPECT_EQ(tool({"convert", in, tool.missing("new.std")}).exit_code, 3);
-    EXPECT_EQ(tool({"convert", tool.missing("nowhere.std"), tool.missing("new.std")}).exit_code, 3);
-    EXPECT_EQ(tool.names(), (std::vector<std::string>{"in.std", "old.std"}));
+    EXPECT_EQ(tool_.names(), names);
 }
 
-TEST(Convert, WarningsOfTheReadingFollowTheNotes)
+TEST_F(Convert, FindingsOfTheReadingFollowTheNotes)
 {
-    const tool_run tool;
-    const std::string in = tool.write("in.std", small_deck("UNIT FEET KIP\n"));
-    const tool_result result = tool({"convert", in, "-"});
-    EXPECT_EQ(result.exit_code, 0);
-    const std::size_t warning = result.err.find(in + ":7: warning unit-later: ");
-    ASSERT_NE(warning, std::string::npos) << result.err;
-    EXPECT_EQ(result.err.find("<stdout>:", warning), std::string::npos) << result.err;
-    EXPECT_EQ(result.err.rfind("<stdout>:", 0), 0U) << result.err;
-}
-
-TEST(Convert, NotesOfTheReadingOnRequest)
-{
-    const tool_run tool;
-    const std::string in = tool.write("in.std", small_deck("PERFORM ANALYSIS\n"));
-    const std::string note = in + ":7: note skipped: PERFORM ANALYSIS (1 line)";
-    EXPECT_TRUE(has_line(tool({"convert", "--notes", in, "-"}).err, note));
-    EXPECT_FALSE(contains(tool({"convert", in, "-"}).err, "note skipped"));
+    tool_.write("in.std", small_deck("UNIT FEET KIP\nPERFORM ANALYSIS\n"));
+    const std::string err = tool_("convert in.std -").err;
+    const std::size_t warning = err.find("in.std:7: warning unit-later: ");
+    ASSERT_NE(warning, std::string::npos) << err;
+    EXPECT_EQ(err.find("<stdout>:", warning), std::string::npos) << err;
+    EXPECT_EQ(err.rfind("<stdout>:", 0), 0U) << err;
+    EXPECT_FALSE(contains(err, "note skipped"));
+    EXPECT_TRUE(has_line(tool_("convert --notes in.std -").err, "in.std:8: note skipped: PERFORM ANALYSIS (1 line)"));
 }
 
 } // namespace

@@ -44,14 +44,12 @@ TEST(Forces, BeginsWithWhatWasRead)
 struct tables_case {
     const char* why;
     std::string listing;
-    options asked;
+    const char* asked; ///< options
     const char* tables;
 };
 
 const tables_case tables_cases[] = {
-    {"a table for each load case",
-     force_listing(),
-     {"--member", "11"},
+    {"a table for each load case", force_listing(), "--member 11",
      "\nMember 11, load case 1: dead, SELF WEIGHT\n"
      "  position      F1     F2     F3     M1     M2      M3\n"
      "        mm      kN     kN     kN  kN*mm  kN*mm   kN*mm\n"
@@ -62,20 +60,15 @@ const tables_case tables_cases[] = {
      "        mm     kN     kN     kN  kN*mm  kN*mm    kN*mm\n"
      "       0.0  0.000  0.000  0.000    0.0    0.0   2000.0\n"
      "    4000.0  0.000  0.000  0.000    0.0    0.0  -2000.0\n"},
-    {"a member of which nothing is kept",
-     force_section({"11 1:SELF 0 1 1 1 1 1 1", "1 1 1 1 1 1 1"}),
-     {},
+    {"a member of which nothing is kept", force_section({"11 1:SELF 0 1 1 1 1 1 1", "1 1 1 1 1 1 1"}), "",
      "\nMember 11: no load case\n"},
     {"large numbers get a power of ten",
-     force_section({"11 1:SELF 0 999999999 2.5E +12 0 0 0 -1E+300", "2:END 0 1 1 1 1 1 1"}),
-     {},
+     force_section({"11 1:SELF 0 999999999 2.5E +12 0 0 0 -1E+300", "2:END 0 1 1 1 1 1 1"}), "",
      "\nMember 11, load case 1: dead, SELF WEIGHT\n"
      "  position             F1       F2     F3     M1     M2       M3\n"
      "        mm             kN       kN     kN  kN*mm  kN*mm    kN*mm\n"
      "       0.0  999999999.000  2.5e+12  0.000    0.0    0.0  -1e+303\n"},
-    {"extremes of everything",
-     force_listing(),
-     {"--extremes"},
+    {"extremes of everything", force_listing(), "--extremes",
      "\nExtremes\n"
      "                  value  unit   member  load case  position, mm\n"
      "  F1  largest   100.000  kN         12          9           0.0\n"
@@ -90,10 +83,8 @@ const tables_case tables_cases[] = {
      "  M2  smallest  -5000.0  kN*mm      12          1        6000.0\n"
      "  M3  largest    6000.0  kN*mm      12          1           0.0\n"
      "  M3  smallest  -6000.0  kN*mm      12          1        6000.0\n"},
-    {"extremes of nothing", force_section({"11 1:SELF 0 1 1 1 1 1 1"}), {"--extremes"}, "\nExtremes: none\n"},
-    {"seven stations at eighths of 6 m between the printed two",
-     force_listing(),
-     {"--pkpm", "--member", "12", "--case", "2"},
+    {"extremes of nothing", force_section({"11 1:SELF 0 1 1 1 1 1 1"}), "--extremes", "\nExtremes: none\n"},
+    {"seven stations at eighths of 6 m between the printed two", force_listing(), "--pkpm --member 12 --case 2",
      "\nMember 12, dead: none, all zeros\n"
      "\nMember 12, live: load case 2, CROWD\n"
      "  position      F1       F2      F3     M1     M2     M3\n"
@@ -109,94 +100,83 @@ const tables_case tables_cases[] = {
      "    6000.0  10.000  -20.000  30.000    0.0    0.0    0.0\n"
      "\nMember 12, wind: none, all zeros\n"
      "\nMember 12, seismic: none, all zeros\n"},
-    {"a list of a combination",
-     force_listing(),
-     {"--pkpm", "--case", "9"},
+    {"a list of a combination", force_listing(), "--pkpm --case 9",
      "\nMember 12: no list, as no dead, live, wind or seismic load case has two stations\n"},
 };
 
 TEST(Forces, Tables)
 {
     for (const tables_case& each : tables_cases)
-        EXPECT_EQ(tables(force_files(each.listing)(each.asked).out), each.tables) << each.why;
+        EXPECT_EQ(tables(force_files(each.listing)(words_of(each.asked)).out), each.tables) << each.why;
 }
 
 struct lines_case {
     const char* why;
     std::string listing;
-    options asked;
-    std::vector<const char*> lines;
+    const char* asked;             ///< options
+    const char* lines;             ///< of the report
     const char* absent = "\n\n\n"; ///< no such text
 };
 
 const lines_case lines_cases[] = {
     {"load cases without type, without title, of a type of their own",
-     force_section({"11 5:CRANE 0 1 1 1 1 1 1", "6:HOT 0 1 1 1 1 1 1", "1:END 0 1 1 1 1 1 1"}),
-     {},
-     {"Member 11, load case 5", "Member 11, load case 6: Temperature, HOT", "  5  -            -    1 member",
-      "  6  Temperature  HOT  1 member"}},
-    {"nothing is kept, and counted",
-     force_section({"11 1:SELF 0 1 1 1 1 1 1", "1 1 1 1 1 1 1"}),
-     {},
-     {"members: 1 of the 3 in the model", "load cases: 0"}},
-    {"options given twice; all that was read is counted",
-     force_listing(),
-     {"--member", "12", "--member", "13", "--case", "1", "--case", "9"},
-     {"stations: 14", "shown: 2 members, 2 load cases, 6 stations", "Member 12, load case 1: dead, SELF WEIGHT",
-      "Member 12, load case 9 (not in the model)", "Member 13, load case 1: dead, SELF WEIGHT"},
+     force_section({"11 5:CRANE 0 1 1 1 1 1 1", "6:HOT 0 1 1 1 1 1 1", "1:END 0 1 1 1 1 1 1"}), "",
+     "Member 11, load case 5\n"
+     "Member 11, load case 6: Temperature, HOT\n"
+     "  5  -            -    1 member\n"
+     "  6  Temperature  HOT  1 member"},
+    {"nothing is kept, and counted", force_section({"11 1:SELF 0 1 1 1 1 1 1", "1 1 1 1 1 1 1"}), "",
+     "members: 1 of the 3 in the model\n"
+     "load cases: 0"},
+    {"options given twice; all that was read is counted", force_listing(), "--member 12 --member 13 --case 1 --case 9",
+     "stations: 14\n"
+     "shown: 2 members, 2 load cases, 6 stations\n"
+     "Member 12, load case 1: dead, SELF WEIGHT\n"
+     "Member 12, load case 9 (not in the model)\n"
+     "Member 13, load case 1: dead, SELF WEIGHT",
      "\nMember 11"},
-    {"lists with ranges, their gaps passed over",
-     force_listing(),
-     {"--member", "1 TO 11 13", "--case", "3 to 1000"},
-     {"shown: 1 member, 1 load case, 2 stations", "Member 11, load case 4: wind, WIND +X"},
+    {"lists with ranges, their gaps passed over", force_listing(), "--member '1 TO 11 13' --case '3 to 1000'",
+     "shown: 1 member, 1 load case, 2 stations\n"
+     "Member 11, load case 4: wind, WIND +X",
      "\nMember 12"},
-    {"of equal extremes the first",
-     force_listing(),
-     {"--extremes", "--member", "12", "--case", "3"},
-     {"shown: 1 member, 1 load case, 2 stations", "  F1  largest    0.500  kN         12          3           0.0",
-      "  F1  smallest   0.500  kN         12          3           0.0",
-      "  M3  smallest  -250.0  kN*mm      12          3           0.0"}},
-    {"of the dead cases 1 and 3 the higher one counts",
-     force_listing(),
-     {"--pkpm", "--member", "12"},
-     {"Member 12, dead: load case 3, FINISHES", "Member 12, live: load case 2, CROWD"}},
-    {"unless it is not asked for",
-     force_listing(),
-     {"--pkpm", "--member", "12", "--case", "1"},
-     {"Member 12, dead: load case 1, SELF WEIGHT", "Member 12, live: none, all zeros"}},
+    {"of equal extremes the first", force_listing(), "--extremes --member 12 --case 3",
+     "shown: 1 member, 1 load case, 2 stations\n"
+     "  F1  largest    0.500  kN         12          3           0.0\n"
+     "  F1  smallest   0.500  kN         12          3           0.0\n"
+     "  M3  smallest  -250.0  kN*mm      12          3           0.0"},
+    {"of the dead cases 1 and 3 the higher one counts", force_listing(), "--pkpm --member 12",
+     "Member 12, dead: load case 3, FINISHES\n"
+     "Member 12, live: load case 2, CROWD"},
+    {"unless it is not asked for", force_listing(), "--pkpm --member 12 --case 1",
+     "Member 12, dead: load case 1, SELF WEIGHT\n"
+     "Member 12, live: none, all zeros"},
     {"case 3 would count before case 1, and has one station only",
      force_section({"11 1:SELF 0 1 1 1 1 1 1", "4 1 1 1 1 1 1", "2:CROWD 0 1 1 1 1 1 1", "4 1 1 1 1 1 1",
                     "3:FINISHES 0 1 1 1 1 1 1", "4:END 0 1 1 1 1 1 1"}),
-     {"--pkpm"},
-     {"Member 11, dead: none, all zeros", "Member 11, live: load case 2, CROWD"}},
+     "--pkpm",
+     "Member 11, dead: none, all zeros\n"
+     "Member 11, live: load case 2, CROWD"},
 };
 
 TEST(Forces, Lines)
 {
     for (const lines_case& each : lines_cases) {
-        const std::string out = force_files(each.listing)(each.asked).out;
-        for (const char* line : each.lines)
+        const std::string out = force_files(each.listing)(words_of(each.asked)).out;
+        for (const std::string& line : lines_of(each.lines))
             EXPECT_TRUE(has_line(out, line)) << each.why << '\n' << out;
         EXPECT_FALSE(contains(out, each.absent)) << each.why << '\n' << out;
     }
 }
 
-TEST(Forces, OptionsMayStandBeforeTheFiles)
+TEST(Forces, OptionsMayStandBeforeTheFilesOneOfWhichIsStandardInput)
 {
     const force_files forces;
-    const tool_result before = forces.tool({"forces", "--member", "11", forces.model, forces.listing});
-    EXPECT_EQ(before.out, forces({"--member", "11"}).out);
-}
-
-TEST(Forces, StandardInputForEitherFile)
-{
-    const force_files forces;
+    EXPECT_EQ(forces.tool("forces --member 11 frame.std frame.txt").out,
+              forces.tool("forces frame.std frame.txt --member 11").out);
     const std::string from_files = forces().out;
     const std::string after_names = from_files.substr(from_files.find('\n'));
-    EXPECT_EQ(forces.tool({"forces", forces.model, "-"}, force_listing()).out,
-              "<stdin>, forces of " + forces.model + after_names);
-    EXPECT_EQ(forces.tool({"forces", "-", forces.listing}, force_model()).out,
-              forces.listing + ", forces of <stdin>" + after_names);
+    EXPECT_EQ(forces.tool("forces frame.std -", force_listing()).out, "<stdin>, forces of frame.std" + after_names);
+    EXPECT_EQ(forces.tool("forces - frame.txt", force_model()).out, "frame.txt, forces of <stdin>" + after_names);
 }
 
 TEST(Forces, ExampleInMixedUnits)

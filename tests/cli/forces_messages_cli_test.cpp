@@ -48,13 +48,6 @@ TEST(ForcesMessages, DoubtfulListingsAreShownAndWarnedOf)
     }
 }
 
-TEST(ForcesMessages, SectionsAsNotesOnRequest)
-{
-    const force_files forces;
-    const std::string note = ":1: note force-section: forces of 3 members in 'UNIT m kN kN-m'";
-    EXPECT_TRUE(has_line(forces({"--notes"}).err, forces.listing + note));
-}
-
 TEST(ForcesMessages, FindingsOfTheModelNameTheModel)
 {
     std::string deck = force_model();
@@ -65,111 +58,72 @@ TEST(ForcesMessages, FindingsOfTheModelNameTheModel)
     EXPECT_TRUE(contains('\n' + result.err, '\n' + forces.model + ":2: warning unit-word: ")) << result.err;
 }
 
-TEST(ForcesMessages, NoForces)
-{
-    const force_files forces("Internal forces\n 11 1:A 0 1 1 1 1 1 1\n");
-    const std::string& model = forces.model;
-    const std::string& listing = forces.listing;
-    const std::string no_members =
-        forces.tool.write("joint.std", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n");
-    const std::string nowhere = forces.tool.missing("nowhere");
-    struct {
-        const char* why;
-        std::string model, listing, message;
-    } const cases[] = {
-        {"no title", model, listing, listing + ": error force-no-title: "},
-        {"no listing", model, nowhere, nowhere + ": error file-missing: "},
-        {"no members", no_members, listing, listing + ": error force-no-model: "},
-        {"no model: the listing is not opened", nowhere + ".std", nowhere, nowhere + ".std: error file-missing: "},
-    };
-    for (const auto& each : cases) {
-        for (const char* form : {"--pkpm", "--csv"}) {
-            const tool_result result = forces.tool({"forces", each.model, each.listing, form});
-            EXPECT_EQ(result.exit_code, 3) << each.why;
-            EXPECT_EQ(result.out, "") << each.why;
-            EXPECT_TRUE(contains('\n' + result.err, '\n' + each.message)) << each.why << ": " << result.err;
-        }
-    }
-    EXPECT_FALSE(contains(forces.tool({"forces", nowhere + ".std", nowhere}).err, nowhere + ": "));
-}
-
-struct option_case {
-    const char* why;
-    std::vector<std::string> options;
-    int exit_code;
-    const char* message;
+const std::vector<call_row> calls_without_forces = {
+    {"no title", "frame.std title.txt", 3, "title.txt: error force-no-title: "},
+    {"no listing", "frame.std nowhere.txt", 3, "nowhere.txt: error file-missing: "},
+    {"no members", "joint.std frame.txt", 3, "frame.txt: error force-no-model: "},
+    {"no model", "nowhere.std frame.txt", 3, "nowhere.std: error file-missing: "},
 };
 
-const option_case option_cases[] = {
-    {"no such member", {"--member", "99"}, 2, "staadkit: error: --member 99: the model has no such member\n"},
-    {"a member of the listing only", {"--member", "77"}, 2, "--member 77: the model has no such member\n"},
-    {"a position is no number of a member", {"--member", "1"}, 2, "--member 1: the model has no such member\n"},
-    {"those of a list that are unknown; a range is if all of it is",
-     {"--member", "12 98 1 TO 10 13 TO 20", "--member", "99"},
-     2,
-     "--member 98 1 TO 10 99: the model has no such member\n"},
-    {"no such load case", {"--case", "8"}, 2, "--case 8: neither the model nor the listing has such a load case\n"},
-    {"one of several is unknown", {"--case", "1", "--case", "8"}, 2, "--case 8: "},
-    {"a load case of the model without forces",
-     {"--case", "5"},
-     0,
-     ": warning case-without-forces: no forces of load case 5\n"},
-    {"two of them", {"--case", "1 5 TO 6"}, 0, ": warning case-without-forces: no forces of load cases 5 TO 6\n"},
-    {"a member and a load case that do not meet",
-     {"--member", "11", "--case", "9"},
-     0,
-     ": warning nothing-selected: no member asked for has forces of a load case asked for\n"},
-    {"no number", {"--member", "A1"}, 2, "--member: 'A1' is no list of numbers such as '1 5 TO 9'\nTry: "},
-    {"commas", {"--member", "1,5"}, 2, "--member: '1,5' is no list of numbers such as '1 5 TO 9'\n"},
-    {"a range without end", {"--member", "1 TO"}, 2, "--member: '1 TO' is no list "},
-    {"a range to a range", {"--member", "1 TO 5 TO 9"}, 2, "--member: '1 TO 5 TO 9' is no list "},
-    {"a number too large", {"--member", "2147483648"}, 2, "--member: '2147483648' is no list "},
-    {"a range downward", {"--case", "9 TO 1"}, 2, "--case: '9 TO 1' has no numbers: the first is the larger one\n"},
-    {"blanks alone", {"--case", " "}, 2, "--case: the list is empty\n"},
-    {"no list at all", {"--case"}, 2, "--case: 1 required LIST missing\nTry: staadkit forces --help\n"},
-    {"two forms", {"--json", "--csv"}, 2, "--json excludes --csv\n"},
-    {"two views", {"--extremes", "--pkpm"}, 2, "--extremes excludes --pkpm\n"},
-    {"a letter missing", {"--extreme"}, 2, "unknown option '--extreme'; did you mean '--extremes'?\n"},
-    {"a third file", {"c.txt"}, 2, "one argument too many: 'c.txt'\n"},
+TEST(ForcesMessages, NoForces)
+{
+    const force_files forces;
+    forces.tool.write("title.txt", "Internal forces\n 11 1:A 0 1 1 1 1 1 1\n");
+    forces.tool.write("joint.std", "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n");
+    for (const std::string form : {"--pkpm ", "--csv "})
+        expect_answers(forces.tool, calls_without_forces, "forces " + form);
+    EXPECT_FALSE(contains(forces.tool("forces nowhere.std nowhere.txt").err, "nowhere.txt")) << "it is not opened";
+}
+
+/// Calls with the frame and its listing.
+const std::vector<call_row> forces_calls = {
+    {"no such member", "--member 99", 2, "staadkit: error: --member 99: the model has no such member\n"},
+    {"a member of the listing only", "--member 77", 2, "staadkit: error: --member 77: the model has no such member\n"},
+    {"a position is no number of a member", "--member 1", 2,
+     "staadkit: error: --member 1: the model has no such member\n"},
+    {"those of a list that are unknown; a range is if all of it is", "--member '12 98 1 TO 10 13 TO 20' --member 99", 2,
+     "staadkit: error: --member 98 1 TO 10 99: the model has no such member\n"},
+    {"no such load case", "--case 8", 2,
+     "staadkit: error: --case 8: neither the model nor the listing has such a load case\n"},
+    {"one of several is unknown", "--case 1 --case 8", 2, "staadkit: error: --case 8: "},
+    {"a load case of the model without forces", "--case 5", 0,
+     "frame.txt: warning case-without-forces: no forces of load case 5\n", "shown: 0"},
+    {"two of them", "--case '1 5 TO 6'", 0, "frame.txt: warning case-without-forces: no forces of load cases 5 TO 6\n",
+     "shown: 3"},
+    {"a member and a load case that do not meet", "--member 11 --case 9", 0,
+     "frame.txt: warning nothing-selected: no member asked for has forces of a load case asked for\n", "shown: 0"},
+    {"sections as notes on request", "--notes", 0,
+     "frame.txt:1: note force-section: forces of 3 members in 'UNIT m kN kN-m'\n", "sections: 1\n"},
+    {"no number", "--member A1", 2, "staadkit: error: --member: 'A1' is no list of numbers such as '1 5 TO 9'\nTry: "},
+    {"a range to a range", "--member '1 TO 5 TO 9'", 2, "staadkit: error: --member: '1 TO 5 TO 9' is no list "},
+    {"a number too large", "--member 2147483648", 2, "staadkit: error: --member: '2147483648' is no list "},
+    {"a range downward", "--case '9 TO 1'", 2,
+     "staadkit: error: --case: '9 TO 1' has no numbers: the first is the larger one\n"},
+    {"blanks alone", "--case ' '", 2, "staadkit: error: --case: the list is empty\n"},
+    {"no list at all", "--case", 2, "staadkit: error: --case: 1 required LIST missing\nTry: staadkit forces --help\n"},
+    {"two forms", "--json --csv", 2, "staadkit: error: --json excludes --csv\n"},
+    {"two views", "--extremes --pkpm", 2, "staadkit: error: --extremes excludes --pkpm\n"},
+    {"a letter missing", "--extreme", 2, "staadkit: error: unknown option '--extreme'; did you mean '--extremes'?\n"},
+    {"a third file", "c.txt", 2, "staadkit: error: one argument too many: 'c.txt'\n"},
 };
 
 TEST(ForcesMessages, Options)
 {
     const force_files forces;
-    for (const option_case& each : option_cases) {
-        const tool_result result = forces(each.options);
-        EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
-        EXPECT_TRUE(contains(result.err, each.message)) << each.why << ": " << result.err;
-        EXPECT_EQ(result.out.empty(), each.exit_code != 0) << each.why;
-    }
+    expect_answers(forces.tool, forces_calls, "forces frame.std frame.txt ");
 }
 
 TEST(ForcesMessages, MemberOfTheModelWithoutForces)
 {
     const force_files forces(force_section(short_section));
-    const std::string warning = forces.listing + ": warning member-without-forces: no forces of member";
-    const tool_result result = forces({"--member", "11 TO 13"});
-    EXPECT_EQ(result.exit_code, 0);
-    EXPECT_TRUE(has_line(result.err, warning + "s 12 TO 13")) << result.err;
-    EXPECT_TRUE(has_line(result.out, "Member 11, load case 1: dead, SELF WEIGHT")) << result.out;
-    const tool_result none = forces({"--member", "13"});
-    EXPECT_EQ(none.exit_code, 0);
-    EXPECT_TRUE(has_line(none.err, warning + " 13")) << none.err;
-    EXPECT_TRUE(has_line(none.out, "shown: 0 members, 0 load cases, 0 stations")) << none.out;
-    EXPECT_FALSE(contains(none.err, "nothing-selected")) << "once is enough: " << none.err;
-}
-
-TEST(ForcesMessages, FilesAreRequiredAndNotBothStandardInput)
-{
-    const tool_run tool;
-    const std::vector<std::string> calls[] = {{"forces"}, {"forces", "a.std"}, {"forces", "-", "-"}};
-    const char* const messages[] = {"MODEL is required", "FORCES is required", "standard input is the model already"};
-    for (std::size_t i = 0; i < std::size(calls); ++i) {
-        const tool_result result = tool(calls[i]);
-        EXPECT_EQ(result.exit_code, 2) << messages[i];
-        EXPECT_TRUE(contains(result.err, messages[i])) << result.err;
-        EXPECT_TRUE(has_line(result.err, "Try: staadkit forces --help")) << result.err;
-    }
+    const std::vector<call_row> calls = {{"of several one", "--member '11 TO 13'", 0,
+                                          "frame.txt: warning member-without-forces: no forces of members 12 TO 13\n",
+                                          "Member 11, load case 1: dead, SELF WEIGHT\n"},
+                                         {"none", "--member 13", 0,
+                                          "frame.txt: warning member-without-forces: no forces of member 13\n",
+                                          "shown: 0 members, 0 load cases, 0 stations\n"}};
+    expect_answers(forces.tool, calls, "forces frame.std frame.txt ");
+    EXPECT_FALSE(contains(forces({"--member", "13"}).err, "nothing-selected")) << "once is enough";
 }
 
 TEST(ForcesMessages, TextsOfTheFilesCannotDriveTheTerminal)
@@ -184,18 +138,6 @@ TEST(ForcesMessages, TextsOfTheFilesCannotDriveTheTerminal)
         EXPECT_FALSE(contains(result.out + result.err, "\x1B")) << view << result.out << result.err;
     }
     EXPECT_TRUE(has_line(forces().out, "Member 11, load case 2: live, \\x1B[31m"));
-}
-
-TEST(ForcesMessages, OutputThatCannotBeWrittenIsAnError)
-{
-    if (!std::filesystem::exists("/dev/full"))
-        GTEST_SKIP() << "no /dev/full here";
-    const force_files forces;
-    for (const char* form : {"--pkpm", "--json", "--csv"}) {
-        const tool_result result = forces.tool.into("/dev/full", forces.call({form}));
-        EXPECT_EQ(result.exit_code, 4) << form;
-        EXPECT_TRUE(contains(result.err, "staadkit: error: standard output: ")) << form << ": " << result.err;
-    }
 }
 
 /// More than 16 MB.

@@ -48,18 +48,20 @@ const char* const tower_lines[] = {
 TEST(Info, FullReport)
 {
     const tool_run tool;
-    const std::string path = tool.write("tower.std", tower_deck());
-    const tool_result result = tool({"info", path});
+    tool.write("tower.std", tower_deck());
+    const tool_result result = tool("info tower.std");
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_FALSE(contains(result.err, "error")) << result.err;
-    EXPECT_EQ(result.out.rfind(path + '\n', 0), 0U);
+    EXPECT_EQ(result.out.rfind("tower.std\n", 0), 0U);
     for (const char* line : tower_lines)
         EXPECT_TRUE(has_line(result.out, line)) << line << "\nis not in\n" << result.out;
+    const std::string from_input = tool("info -", tower_deck()).out;
+    EXPECT_EQ(from_input, "<stdin>" + result.out.substr(result.out.find('\n')));
 }
 
-json info_json(const tool_run& tool, const std::string& deck)
+json info_json(const std::string& deck)
 {
-    const tool_result result = tool({"info", "--json", tool.write("deck.std", deck)});
+    const tool_result result = tool_run()("info --json -", deck);
     EXPECT_EQ(result.exit_code, 0) << result.err;
     return json::parse(result.out);
 }
@@ -105,8 +107,7 @@ const json_case tower_values[] = {
 
 TEST(Info, Json)
 {
-    const tool_run tool;
-    const json report = info_json(tool, tower_deck());
+    const json report = info_json(tower_deck());
     for (const json_case& each : tower_values)
         EXPECT_EQ(report.at(json::json_pointer(each.pointer)), json::parse(each.want)) << each.pointer << each.why;
 }
@@ -140,96 +141,93 @@ std::string column_deck(const std::vector<double>& heights)
 struct line_case {
     const char* why;
     std::string deck;
-    std::vector<const char*> lines;
+    std::string lines;             ///< of the report
     const char* absent = "\n\n\n"; ///< no such text
 };
 
 const std::string dead = "LOAD 1 LOADTYPE Dead TITLE DL\n";
-const char* const load_case_0 = "load case 0: what stands under headers without a number (LOAD R1) or with 0";
+const char* const load_case_0 = "load case 0: loads under headers without a number (LOAD R1) or with 0";
 const char* const area_rows = "G1\n0.01 0.2 0.3\nG2\n0.02 0.2 0.3 0.00002\n0.0001\n0.004 0.003\n";
 
 const line_case line_cases[] = {
     {"a floor group numbers elements: the members it lists are none",
      small_deck("ELEMENT INCIDENCES SHELL\n8 1 2 1\nSTART GROUP DEFINITION\nFLOOR\n_F 1 8 TO 11 8\n_G 1\n"
                 "MEMBER\n_M 1 1 2 2\nJOINT\n_J 1 2 2\nEND GROUP DEFINITION\n"),
-     {"  _F  FLOOR   1 element   and 4 numbers without an element",
-      "  _G  FLOOR   0 elements  and 1 number without an element",
-      "  _M  MEMBER  1 member    and 1 number without a member", "  _J  JOINT   2 joints"}},
-    {"unknown numbers count once",
-     small_deck("SUPPORTS\n1 400 400 401 FIXED\n"),
-     {"  FIXED  1 joint  and 2 numbers without a joint"}},
+     "  _F  FLOOR   1 element   and 4 numbers without an element\n"
+     "  _G  FLOOR   0 elements  and 1 number without an element\n"
+     "  _M  MEMBER  1 member    and 1 number without a member\n"
+     "  _J  JOINT   2 joints"},
+    {"unknown numbers count once", small_deck("SUPPORTS\n1 400 400 401 FIXED\n"),
+     "  FIXED  1 joint  and 2 numbers without a joint"},
     {"an area and an inertia are no lengths, in whatever order they come",
      two_member_deck("1 PRIS YD 0.5 ZD 0.3\n2 PRIS AX 0.5 IZ 0.3\n"),
-     {"sections: 2", "  AMERICAN  PRIS500X300  1 member  500 x 300 mm", "  AMERICAN  PRIS500X300  1 member"}},
-    {"the same with the area first",
-     two_member_deck("1 PRIS AX 0.5 IZ 0.3\n2 PRIS YD 0.5 ZD 0.3\n"),
-     {"sections: 2", "  AMERICAN  PRIS500X300  1 member  500 x 300 mm", "  AMERICAN  PRIS500X300  1 member"}},
+     "sections: 2\n"
+     "  AMERICAN  PRIS500X300  1 member  500 x 300 mm\n"
+     "  AMERICAN  PRIS500X300  1 member"},
+    {"the same with the area first", two_member_deck("1 PRIS AX 0.5 IZ 0.3\n2 PRIS YD 0.5 ZD 0.3\n"),
+     "sections: 2\n"
+     "  AMERICAN  PRIS500X300  1 member  500 x 300 mm\n"
+     "  AMERICAN  PRIS500X300  1 member"},
     {"what a catalogue calls a pipe is not known in mm",
      two_member_deck("1 TABLE ST PIPE OD 0.2 ID 0.18\n2 TABLE ST PIP200X10\n"),
-     {"sections: 2", "  AMERICAN  TABLE ST PIP200X10  1 member  200 x 10 mm",
-      "  AMERICAN  TABLE ST PIP200X10  1 member"}},
-    {"the same for a name of one number",
-     two_member_deck("1 TABLE ST PIPE OD 0.2 ID 0.18\n2 TABLE ST PIPX40\n"),
-     {"sections: 2", "  AMERICAN  TABLE ST PIP200X10  1 member  200 x 10 mm",
-      "  AMERICAN  TABLE ST PIPX40     1 member"}},
+     "sections: 2\n"
+     "  AMERICAN  TABLE ST PIP200X10  1 member  200 x 10 mm\n"
+     "  AMERICAN  TABLE ST PIP200X10  1 member"},
+    {"the same for a name of one number", two_member_deck("1 TABLE ST PIPE OD 0.2 ID 0.18\n2 TABLE ST PIPX40\n"),
+     "sections: 2\n"
+     "  AMERICAN  TABLE ST PIP200X10  1 member  200 x 10 mm\n"
+     "  AMERICAN  TABLE ST PIPX40     1 member"},
     {"a table of areas has no dimensions; its second row goes on over a line of one number",
      table_deck("GENERAL", area_rows, "G1"),
-     {"  1  GENERAL  2 rows  UNIT METER KN", "  AMERICAN  UPTABLE 1 G1  1 member  general"}},
-    {"the same of a table of prisms",
-     table_deck("PRISMATIC", area_rows, "G1"),
-     {"  1  PRISMATIC  2 rows  UNIT METER KN", "  AMERICAN  UPTABLE 1 G1  1 member  prismatic"}},
-    {"dimensions between X make a row",
-     table_deck("TUBE", "B1\n0.1X0.2X0.006\n", "B1"),
-     {"  1  TUBE  1 row  UNIT METER KN", "  AMERICAN  UPTABLE 1 B1  1 member  tube 100 x 200 x 6 mm"}},
-    {"a row that is not there",
-     table_deck("TEE", "T1\n0.1 0.2\n", "T2"),
-     {"  AMERICAN  UPTABLE 1 T2  1 member  tee: not found in the user tables"}},
+     "  1  GENERAL  2 rows  UNIT METER KN\n"
+     "  AMERICAN  UPTABLE 1 G1  1 member  general"},
+    {"the same of a table of prisms", table_deck("PRISMATIC", area_rows, "G1"),
+     "  1  PRISMATIC  2 rows  UNIT METER KN\n"
+     "  AMERICAN  UPTABLE 1 G1  1 member  prismatic"},
+    {"dimensions between X make a row", table_deck("TUBE", "B1\n0.1X0.2X0.006\n", "B1"),
+     "  1  TUBE  1 row  UNIT METER KN\n"
+     "  AMERICAN  UPTABLE 1 B1  1 member  tube 100 x 200 x 6 mm"},
+    {"a row that is not there", table_deck("TEE", "T1\n0.1 0.2\n", "T2"),
+     "  AMERICAN  UPTABLE 1 T2  1 member  tee: not found in the user tables"},
     {"the number after seven characters of the line after ISOTROPIC CONCRETE, \"E 2.171\"",
      small_deck("DEFINE MATERIAL START\nISOTROPIC CONCRETE\nE 2.17185e+007\nEND DEFINE MATERIAL\n"),
-     {"concrete density: 8.5e+08 (as written after ISOTROPIC CONCRETE)"}},
-    {"own weight alone does not load 0 members",
-     small_deck(dead + "SELFWEIGHT Y -1\n"),
-     {"  1  dead  DL  -  1 SELFWEIGHT"},
-     load_case_0},
-    {"own weight of a list",
-     small_deck(dead + "SELFWEIGHT Y -1 LIST 1\n"),
-     {"  1  dead  DL  1 member, 0 joints  1 SELFWEIGHT"}},
+     "concrete density: 8.5e+08 (as written after ISOTROPIC CONCRETE)"},
+    {"own weight alone does not load 0 members", small_deck(dead + "SELFWEIGHT Y -1\n"),
+     "  1  dead  DL  -  1 SELFWEIGHT", load_case_0},
+    {"own weight of a list", small_deck(dead + "SELFWEIGHT Y -1 LIST 1\n"),
+     "  1  dead  DL  1 member, 0 joints  1 SELFWEIGHT"},
     {"headers without a number are explained",
-     small_deck("LOAD R1 LOADTYPE Dead TITLE REF\nSELFWEIGHT Y -1\n" + dead + "SELFWEIGHT Y -1\n"),
-     {load_case_0}},
-    {"one storey", column_deck({0, 3}), {"storeys: 1 (3.00 m), base at 0.00 m"}},
-    {"millimetres where they matter", column_deck({0, 3.005, 6.01}), {"storeys: 2 (2 x 3.005 m), base at 0.00 m"}},
-    {"levels that round to the same millimetre are one",
-     column_deck({0, 3.0004, 3.0001}),
-     {"storeys: 1 (3.00 m), base at 0.00 m"}},
-    {"only equal storeys side by side share a term",
-     column_deck({0, 4, 7, 11}),
-     {"storeys: 3 (4.00 + 3.00 + 4.00 m), base at 0.00 m"}},
-    {"twelve terms are shown",
-     column_deck({0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42}),
-     {"storeys: 12 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 m), base at 0.00 "
-      "m"}},
-    {"more are not",
-     column_deck({0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42, 45}),
-     {"storeys: 13 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + ... m), "
-      "base at 0.00 m"}},
+     small_deck("LOAD R1 LOADTYPE Dead TITLE REF\nSELFWEIGHT Y -1\n" + dead + "SELFWEIGHT Y -1\n"), load_case_0},
+    {"one storey", column_deck({0, 3}), "storeys: 1 (3.00 m), base at 0.00 m"},
+    {"millimetres where they matter", column_deck({0, 3.005, 6.01}), "storeys: 2 (2 x 3.005 m), base at 0.00 m"},
+    {"levels that round to the same millimetre are one", column_deck({0, 3.0004, 3.0001}),
+     "storeys: 1 (3.00 m), base at 0.00 m"},
+    {"only equal storeys side by side share a term", column_deck({0, 4, 7, 11}),
+     "storeys: 3 (4.00 + 3.00 + 4.00 m), base at 0.00 m"},
+    {"twelve terms are shown", column_deck({0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42}),
+     "storeys: 12 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 m), base at 0.00 "
+     "m"},
+    {"more are not", column_deck({0, 3, 7, 10, 14, 17, 21, 24, 28, 31, 35, 38, 42, 45}),
+     "storeys: 13 (3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + 3.00 + 4.00 + ... m), "
+     "base at 0.00 m"},
     {"a sloping member has no level",
      "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 1 1 0\nMEMBER INCIDENCES\n1 1 2\nEND\n",
-     {"storeys: none (no upright and no level member)"}},
+     "storeys: none (no upright and no level member)"},
     {"a member whose end is no joint has no height",
      "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\nMEMBER INCIDENCES\n1 1 2\nEND\n",
-     {"storeys: none (no upright and no level member)"}},
+     "storeys: none (no upright and no level member)"},
     {"past the largest double once it is in mm",
      "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 1e308 0\nMEMBER INCIDENCES\n1 1 2\nFINISH\n",
-     {"extents: not finite", "storeys: not finite"}},
+     "extents: not finite\n"
+     "storeys: not finite"},
 };
 
 TEST(Info, Lines)
 {
     const tool_run tool;
     for (const line_case& each : line_cases) {
-        const std::string text = tool({"info", tool.write("deck.std", each.deck)}).out;
-        for (const char* line : each.lines)
+        const std::string text = tool("info -", each.deck).out;
+        for (const std::string& line : lines_of(each.lines))
             EXPECT_TRUE(has_line(text, line)) << each.why << '\n' << text;
         EXPECT_FALSE(contains(text, each.absent)) << each.why << '\n' << text;
     }
@@ -237,8 +235,7 @@ TEST(Info, Lines)
 
 TEST(Info, JsonCountsUnderTheNameOfWhatAGroupLists)
 {
-    const tool_run tool;
-    EXPECT_EQ(info_json(tool, line_cases[0].deck)["groups"], json::parse(R"([
+    EXPECT_EQ(info_json(line_cases[0].deck)["groups"], json::parse(R"([
         {"name": "_F", "kind": "FLOOR", "elements": 1, "unknown_numbers": 4},
         {"name": "_G", "kind": "FLOOR", "elements": 0, "unknown_numbers": 1},
         {"name": "_M", "kind": "MEMBER", "members": 1, "unknown_numbers": 1},
@@ -248,54 +245,42 @@ TEST(Info, JsonCountsUnderTheNameOfWhatAGroupLists)
 TEST(Info, SeveralFilesOneLineEachAndTheWorstExitCode)
 {
     const tool_run tool;
-    const std::string tower = tool.write("tower.std", tower_deck());
-    const std::string missing = tool.missing("nowhere.std");
-    const std::string small = tool.write("small.std", small_deck());
-    const tool_result result = tool({"info", tower, missing, small});
+    tool.write("tower.std", tower_deck());
+    tool.write("small.std", small_deck());
+    const tool_result result = tool("info tower.std nowhere.std small.std");
     EXPECT_EQ(result.exit_code, 3);
-    EXPECT_EQ(result.out, tower + ": 9 joints, 12 members, 1 element, 1 surface, 2 load cases\n" + missing +
-                              ": error: the file does not exist\n" + small +
-                              ": 2 joints, 1 member, 0 elements, 0 surfaces, 0 load cases\n");
-    EXPECT_EQ(tool({"info", tower, small}).exit_code, 0);
-    const json reports = json::parse(tool({"info", "--json", tower, missing, small}).out);
+    EXPECT_EQ(result.out, "tower.std: 9 joints, 12 members, 1 element, 1 surface, 2 load cases\n"
+                          "nowhere.std: error: the file does not exist\n"
+                          "small.std: 2 joints, 1 member, 0 elements, 0 surfaces, 0 load cases\n");
+    EXPECT_EQ(tool("info tower.std small.std").exit_code, 0);
+    const json reports = json::parse(tool("info --json tower.std nowhere.std small.std").out);
     ASSERT_EQ(reports.size(), 3U);
-    EXPECT_EQ(reports[0]["file"], tower);
+    EXPECT_EQ(reports[0]["file"], "tower.std");
     EXPECT_EQ(reports[1]["was_read"], false);
     EXPECT_EQ(reports[1]["findings"][0]["severity"], "error");
     EXPECT_EQ(reports[2]["joints"], 2);
 }
 
-TEST(Info, StandardInput)
-{
-    const tool_run tool;
-    const tool_result from_input = tool({"info", "-"}, tower_deck());
-    EXPECT_EQ(from_input.exit_code, 0);
-    const tool_result from_file = tool({"info", tool.write("tower.std", tower_deck())});
-    EXPECT_EQ(from_input.out, "<stdin>" + from_file.out.substr(from_file.out.find('\n')));
-}
-
 TEST(Info, OneLongTextDoesNotWidenTheOthers)
 {
-    const tool_run tool;
     std::string deck = "UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\nMEMBER INCIDENCES\n1 1 2\nSUPPORTS\n";
     const std::string long_text(1000000, 'Z');
     deck += "1 " + long_text + '\n';
     for (int i = 1000; i < 4000; ++i)
         deck += "1 KIND" + std::to_string(i) + '\n';
-    const tool_result result = tool({"info", tool.write("long.std", deck + "FINISH\n")});
+    const tool_result result = tool_run()("info -", deck + "FINISH\n");
     EXPECT_EQ(result.exit_code, 0);
     // "  KIND1000", padded to 42 columns, and "  1 joint".
     EXPECT_TRUE(has_line(result.out, "  KIND1000" + std::string(32, ' ') + "  1 joint"));
     EXPECT_TRUE(has_line(result.out, "  " + std::string(117, 'Z') + "...  1 joint"));
     EXPECT_LT(result.out.size(), 3001U * 60U);
-    const json supports = info_json(tool, deck + "FINISH\n")["supports"];
+    const json supports = info_json(deck + "FINISH\n")["supports"];
     ASSERT_EQ(supports.size(), 3001U);
     EXPECT_EQ(supports.back()["description"], long_text);
 }
 
 TEST(Info, TextsAreCutBetweenCharacters)
 {
-    const tool_run tool;
     const auto title_of = [](std::size_t characters) {
         std::string title;
         while (title.size() < characters * 3)
@@ -304,8 +289,7 @@ TEST(Info, TextsAreCutBetweenCharacters)
     };
     const auto has_title = [&](const std::string& title, const std::string& shown) {
         const std::string deck = small_deck("LOAD 1 LOADTYPE Dead TITLE " + title + "\nJOINT LOAD\n1 FX 5\n");
-        return has_line(tool({"info", tool.write("deck.std", deck)}).out,
-                        "  1  dead  " + shown + "  0 members, 1 joint  1 JOINT LOAD");
+        return has_line(tool_run()("info -", deck).out, "  1  dead  " + shown + "  0 members, 1 joint  1 JOINT LOAD");
     };
     // Of 120 cells 58 characters and the dots fill 119; a 59th has no room. One less fits as it is.
     EXPECT_TRUE(has_title(title_of(61), title_of(58) + "..."));
@@ -327,16 +311,16 @@ TEST(Info, LittleMemory)
     if (tool_has_address_sanitizer)
         GTEST_SKIP() << "takes more address space than any limit";
     const tool_run tool;
-    const std::string small = tool.write("small.std", small_deck());
-    const std::string large = tool.write("large.std", deck_of_control_bytes(20));
+    tool.write("small.std", small_deck());
+    tool.write("large.std", deck_of_control_bytes(20));
     // Enough to hold it; the 120 MB of JSON need not be held.
-    const tool_result enough = tool.within(140, {"info", "--json", large});
+    const tool_result enough = tool.within(140, {"info", "--json", "large.std"});
     EXPECT_EQ(enough.exit_code, 0) << enough.err;
     EXPECT_GT(enough.out.size(), 120'000'000U);
-    const tool_result result = tool.within(30, {"info", large, small}); // too little to read it
+    const tool_result result = tool.within(30, {"info", "large.std", "small.std"}); // too little to read it
     EXPECT_EQ(result.exit_code, 3);
-    EXPECT_TRUE(contains(result.err, large + ": error memory: ")) << result.err;
-    EXPECT_TRUE(contains(result.out, small + ": 2 joints, 1 member, ")) << result.out;
+    EXPECT_TRUE(contains(result.err, "large.std: error memory: ")) << result.err;
+    EXPECT_TRUE(contains(result.out, "small.std: 2 joints, 1 member, ")) << result.out;
 }
 #endif
 

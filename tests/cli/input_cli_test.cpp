@@ -37,56 +37,43 @@ const input_case no_texts[] = {
     {"UNIT METER KN\nJOINT COORDINATES\n1 0 0 0\0"s, "binary, not text"},
 };
 
-TEST(Inputs, FilesInTheWrongOrder)
-{
-    const force_files forces;
-    EXPECT_EQ(forces.tool({"forces", forces.listing, forces.model}).err,
-              forces.listing + ": error not-a-deck: the file is a listing of forces\n");
-    EXPECT_EQ(forces.tool({"forces", forces.model, forces.model}).err,
-              forces.model + ": error not-a-listing: the file is a deck\n");
-}
-
 TEST(Inputs, WhatIsNoTextIsNamed)
 {
     const force_files forces;
     for (const input_case& each : no_texts) {
-        const std::string path = forces.tool.write("input", each.bytes);
-        const tool_result deck = forces.tool({"info", path});
-        EXPECT_EQ(deck.exit_code, 3) << each.kind;
-        EXPECT_EQ(deck.err, path + ": error not-a-deck: the file is " + each.kind + '\n');
-        const tool_result listing = forces.tool({"forces", forces.model, path});
-        EXPECT_EQ(listing.exit_code, 3) << each.kind;
-        EXPECT_EQ(listing.err, path + ": error not-a-listing: the file is " + each.kind + '\n');
-        EXPECT_EQ(forces.tool({"dump", "-"}, each.bytes).err,
-                  "<stdin>: error not-a-deck: standard input is "s + each.kind + '\n');
+        forces.tool.write("input", each.bytes);
+        const std::string is_this = each.kind + "\n"s;
+        expect_answers(forces.tool, {{each.kind, "info input", 3, "input: error not-a-deck: the file is " + is_this},
+                                     {each.kind, "forces frame.std input", 3,
+                                      "input: error not-a-listing: the file is " + is_this}});
+        EXPECT_EQ(forces.tool("dump -", each.bytes).err, "<stdin>: error not-a-deck: standard input is " + is_this);
     }
+}
+
+TEST(Inputs, OtherFilesAreNamedToo)
+{
+    const force_files forces;
+    forces.tool.write("utf16.txt", "\xFF\xFE \0"s);
+    std::filesystem::create_directory(forces.tool.missing("folder"));
+    expect_answers(
+        forces.tool,
+        {{"no deck", "forces frame.txt frame.std", 3, "frame.txt: error not-a-deck: the file is a listing of forces\n"},
+         {"no listing", "forces frame.std frame.std", 3, "frame.std: error not-a-listing: the file is a deck\n"},
+         {"UTF-16", "forces frame.std utf16.txt", 3,
+          "utf16.txt: error not-a-listing: the file is UTF-16, which is not read: save it as plain text\n"},
+         {"a folder for a deck", "info folder", 3, "folder: error not-a-deck: it is a folder, not a file\n"},
+         {"and for a listing", "forces frame.std folder", 3,
+          "folder: error not-a-listing: it is a folder, not a file\n"}});
+#ifndef _WIN32 // has no streams from folders
+    const tool_result input = forces.tool.from(forces.tool.folder(), {"forces", forces.model, "-"});
+    EXPECT_EQ(input.exit_code, 3);
+    EXPECT_EQ(input.err, "<stdin>: error not-a-listing: it is a folder, not a file\n");
+#endif
 }
 
 TEST(Inputs, ZeroBytesAloneAreNoReasonToRefuseADeck)
 {
-    const tool_run tool;
-    EXPECT_EQ(tool({"info", "-"}, small_deck("* \0\n"s)).exit_code, 0);
-}
-
-TEST(Inputs, Utf16IsNoListing)
-{
-    const force_files forces("\xFF\xFE \0"s);
-    EXPECT_EQ(forces().err, forces.listing + ": error not-a-listing: the file is UTF-16, which is not read: save it as "
-                                             "plain text\n");
-}
-
-TEST(Inputs, Folders)
-{
-    const force_files forces;
-    const std::string folder = forces.tool.folder();
-    EXPECT_EQ(forces.tool({"info", folder}).err, folder + ": error not-a-deck: it is a folder, not a file\n");
-    EXPECT_EQ(forces.tool({"forces", forces.model, folder}).err,
-              folder + ": error not-a-listing: it is a folder, not a file\n");
-#ifndef _WIN32 // has no streams from folders
-    const tool_result input = forces.tool.from(folder, {"forces", forces.model, "-"});
-    EXPECT_EQ(input.exit_code, 3);
-    EXPECT_EQ(input.err, "<stdin>: error not-a-listing: it is a folder, not a file\n");
-#endif
+    EXPECT_EQ(tool_run()("info -", small_deck("* \0\n"s)).exit_code, 0);
 }
 
 #ifndef _WIN32

@@ -32,10 +32,7 @@ class stopped_tool {
 public:
     stopped_tool(names words, const process_streams& streams) : words_(std::move(words)), error_file_(streams.err)
     {
-        std::vector<char*> pointers;
-        for (std::string& word : words_)
-            pointers.push_back(word.data());
-        pointers.push_back(nullptr);
+        const std::vector<char*> pointers = pointers_to(words_);
         process_ = fork();
         if (process_ != 0)
             return;

@@ -36,16 +36,13 @@ TEST(Messages, NameFileLineAndReason)
     const tool_run tool;
     for (const char* verb : {"info", "dump"}) {
         for (const message_row& each : messages) {
-            const std::string path = tool.write("a.std", each.text);
-            const tool_result result = tool({verb, path});
+            tool.write("a.std", each.text);
+            const tool_result result = tool({verb, "a.std"});
             EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
             EXPECT_EQ(result.out.empty(), each.exit_code != 0) << each.why;
-            EXPECT_TRUE(contains('\n' + result.err, '\n' + path + each.message)) << each.why << ": " << result.err;
+            EXPECT_TRUE(contains('\n' + result.err, std::string("\na.std") + each.message)) << each.why << result.err;
         }
-        const std::string missing = tool.missing("nowhere.std");
-        const tool_result result = tool({verb, missing});
-        EXPECT_EQ(result.exit_code, 3);
-        EXPECT_EQ(result.err, missing + ": error file-missing: the file does not exist\n");
+        EXPECT_EQ(tool({verb, "nowhere.std"}).err, "nowhere.std: error file-missing: the file does not exist\n");
     }
 }
 
@@ -56,13 +53,11 @@ TEST(Messages, ManyOfAKindAreCounted)
     // Sixty members that end at a joint that is not defined: fifty are reported one by one, ten together.
     for (int member = 1; member <= 60; ++member)
         deck += std::to_string(member) + " 1 " + std::to_string(1000 + member) + "\n";
-    const std::string path = tool.write("loose.std", deck + "FINISH\n");
-    const tool_result result = tool({"info", path});
+    const std::string err = tool("info -", deck + "FINISH\n").err;
     // Member 51 stands on line 55, the last on line 64.
-    const std::string rest = path + ":55: warning ";
-    const std::size_t begin = result.err.find(rest);
-    ASSERT_NE(begin, std::string::npos) << result.err;
-    const std::string line = result.err.substr(begin, result.err.find('\n', begin) - begin);
+    const std::size_t begin = err.find("<stdin>:55: warning ");
+    ASSERT_NE(begin, std::string::npos) << err;
+    const std::string line = err.substr(begin, err.find('\n', begin) - begin);
     EXPECT_TRUE(contains(line, " (and 9 more of this kind, up to line 64)")) << line;
 }
 
@@ -70,13 +65,12 @@ TEST(Messages, InTheOrderOfTheLines)
 {
     const tool_run tool;
     // The second UNIT line is met before the members are read, one of which has no joint at its end.
-    const std::string path = tool.write("a.std", "STAAD SPACE\nUNIT METER KN\n"
-                                                 "JOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
-                                                 "MEMBER INCIDENCES\n1 1 2\n2 1 99\nUNIT KIP FEET\nFINISH\n");
-    const std::string err = tool({"info", path}).err;
+    const std::string err = tool("info -", "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
+                                           "MEMBER INCIDENCES\n1 1 2\n2 1 99\nUNIT KIP FEET\nFINISH\n")
+                                .err;
     std::vector<int> lines;
-    for (std::size_t at = err.find(path + ':'); at != std::string::npos; at = err.find(path + ':', at + 1))
-        lines.push_back(std::stoi(err.substr(at + path.size() + 1)));
+    for (std::size_t at = err.find("<stdin>:"); at != std::string::npos; at = err.find("<stdin>:", at + 1))
+        lines.push_back(std::stoi(err.substr(at + 8)));
     EXPECT_GE(lines.size(), 2U) << err;
     EXPECT_TRUE(std::is_sorted(lines.begin(), lines.end())) << err;
 }
@@ -93,8 +87,8 @@ TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
     const std::string one = tool.write("b\x1B.std", small_deck());
     EXPECT_TRUE(contains(tool({"info", one}).out, "/b\\x1B.std\n"));
     EXPECT_TRUE(contains(tool({"info", one, one}).out, "/b\\x1B.std: 2 joints"));
-    EXPECT_FALSE(contains(tool({"in\x1B"
-                                "fo"})
+    EXPECT_FALSE(contains(tool("in\x1B"
+                               "fo")
                               .err,
                           "\x1B"));
 }
@@ -103,45 +97,42 @@ TEST(Messages, NamesOfFilesKeepTheirBytesButDriveNoTerminal)
 TEST(Messages, NotesOnRequestOnly)
 {
     const tool_run tool;
-    const std::string path = tool.write("tower.std", tower_deck());
+    tool.write("tower.std", tower_deck());
     // Line 62 is the header of the combination, the first of its two lines.
-    const std::string note = path + ":62: note skipped: LOAD COMB (2 lines)";
-    EXPECT_TRUE(has_line(tool({"dump", "--notes", path}).err, note));
-    EXPECT_FALSE(contains(tool({"dump", path}).err, ": note "));
-    EXPECT_FALSE(contains(tool({"info", "--notes", path}).err, "skipped")) << "the report has it already";
+    EXPECT_TRUE(has_line(tool("dump --notes tower.std").err, "tower.std:62: note skipped: LOAD COMB (2 lines)"));
+    EXPECT_FALSE(contains(tool("dump tower.std").err, ": note "));
+    EXPECT_FALSE(contains(tool("info --notes tower.std").err, "skipped")) << "the report has it already";
 }
 
 TEST(Messages, QuietLeavesErrorsOnly)
 {
     const tool_run tool;
-    const std::string path = tool.write("words.std", std::end(messages)[-1].text);
-    const tool_result loud = tool({"info", path});
+    tool.write("words.std", std::end(messages)[-1].text);
+    const tool_result loud = tool("info words.std");
     EXPECT_TRUE(contains(loud.err, "warning"));
-    for (const auto& arguments : {std::vector<std::string>{"info", "-q", path}, {"--quiet", "info", "--notes", path}}) {
-        const tool_result quiet = tool(arguments);
+    for (const char* line : {"info -q words.std", "--quiet info --notes words.std"}) {
+        const tool_result quiet = tool(line);
         EXPECT_EQ(quiet.exit_code, 0);
         EXPECT_EQ(quiet.err, "");
         EXPECT_EQ(quiet.out, loud.out);
     }
-    EXPECT_EQ(tool({"convert", "-q", path, "-"}).err, "");
-    EXPECT_TRUE(contains(tool({"info", "-q", tool.missing("nowhere.std")}).err, ": error file-missing: "));
+    EXPECT_EQ(tool("convert -q words.std -").err, "");
+    EXPECT_TRUE(contains(tool("info -q nowhere.std").err, ": error file-missing: "));
 }
 
 TEST(Messages, ColorsGoIntoFilesOnRequestOnly)
 {
     const tool_run tool;
-    const std::string path = tool.missing("nowhere.std");
-    EXPECT_FALSE(contains(tool({"info", path}).err, "\x1B"));
-    EXPECT_TRUE(contains(tool({"info", path, "--color", "always"}).err, ": \x1B[1;31merror\x1B[0m file-missing: "));
-    EXPECT_FALSE(contains(tool({"info", "--color=always", "--json", path}).out, "\x1B"));
+    EXPECT_FALSE(contains(tool("info nowhere.std").err, "\x1B"));
+    EXPECT_TRUE(contains(tool("info nowhere.std --color always").err, ": \x1B[1;31merror\x1B[0m file-missing: "));
+    EXPECT_FALSE(contains(tool("info --color=always --json nowhere.std").out, "\x1B"));
 }
 
 TEST(Messages, BytesOfTheFileCannotDriveTheTerminal)
 {
     const tool_run tool;
-    const std::string path =
-        tool.write("esc.std", small_deck("LOAD 1 LOADTYPE Dead TITLE \x1B[31mred\nSELFWEIGHT Y -1\n"));
-    const tool_result result = tool({"info", path});
+    tool.write("esc.std", small_deck("LOAD 1 LOADTYPE Dead TITLE \x1B[31mred\nSELFWEIGHT Y -1\n"));
+    const tool_result result = tool("info esc.std");
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_TRUE(contains(result.out, "\\x1B[31mred")) << result.out;
     EXPECT_FALSE(contains(result.out, "\x1B"));

@@ -72,7 +72,7 @@ const page pages[] = {
 TEST(Pages, HaveEveryVerbAndOptionOfTheHelp)
 {
     const tool_run tool;
-    const std::vector<std::string> verbs = names_in_help(tool({"--help"}).out, "Verbs");
+    const std::vector<std::string> verbs = names_in_help(tool("--help").out, "Verbs");
     EXPECT_EQ(verbs, (std::vector<std::string>{"info", "dump", "convert", "forces", "storeys", "compare", "help"}));
     for (const std::string& verb : verbs) {
         const std::vector<std::string> options = names_in_help(tool({"help", verb}).out, "Options");

@@ -70,13 +70,15 @@ int exit_code_of(HANDLE process)
 
 /// Of some thousand starts under Wine on a busy machine one fails with ERROR_INTERNAL_ERROR, the new process having
 /// ended before it began, and the next one succeeds: such a start is tried a few times, and each failure is printed.
-PROCESS_INFORMATION start(const std::string& name, std::wstring command, STARTUPINFOW& startup)
+PROCESS_INFORMATION start(const std::string& name, std::wstring command, const std::wstring& folder,
+                          STARTUPINFOW& startup)
 {
     constexpr int most_tries = 5;
     constexpr DWORD pause = 300; // ms
     for (int tries = 1;; ++tries) {
         PROCESS_INFORMATION process{};
-        if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process))
+        if (CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr,
+                           folder.empty() ? nullptr : folder.c_str(), &startup, &process))
             return process;
         const DWORD error = GetLastError();
         const std::string message = with_error("cannot start " + name, error);
@@ -103,7 +105,7 @@ int run_to_end(std::vector<std::string> words, const process_streams& streams)
     startup.hStdInput = in.get();
     startup.hStdOutput = out.get();
     startup.hStdError = err.get();
-    const PROCESS_INFORMATION process = start(words.front(), command, startup);
+    const PROCESS_INFORMATION process = start(words.front(), command, wide(streams.folder), startup);
     const int code = exit_code_of(process.hProcess);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);

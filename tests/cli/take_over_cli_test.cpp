@@ -46,12 +46,20 @@ std::string today_deck()
     return frame_deck(parts);
 }
 
-TEST(TakeOver, WhatWouldBeTakenOver)
+class TakeOver : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        tool_.write("new.std", today_deck());
+        tool_.write("old.std", earlier_deck());
+    }
+
+    const tool_run tool_;
+};
+
+TEST_F(TakeOver, WhatWouldBeTakenOver)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const tool_result result = tool({"compare", now, earlier});
+    const tool_result result = tool_("compare new.std old.std");
     EXPECT_EQ(result.exit_code, 1) << "two joints, two members and an element are gone";
     // Element group _WALL goes by joints: 10 is one that has a counterpart, 501 is none.
     EXPECT_TRUE(contains(result.out, "groups to take over: 5\n"
@@ -69,46 +77,34 @@ TEST(TakeOver, WhatWouldBeTakenOver)
                                      "  START MY MZ  1 of 2 members  lost: 105\n"
                                      "replaced in NEW: 1 group, 1 support description, 1 release description\n"))
         << result.out;
-    EXPECT_EQ(tool.names(), (std::vector<std::string>{"new.std", "old.std"}));
+    EXPECT_EQ(tool_.names(), (std::vector<std::string>{"new.std", "old.std"}));
 }
 
-TEST(TakeOver, TheSameAsJson)
+TEST_F(TakeOver, TheSameAsJson)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const json report = json::parse(tool({"compare", "--json", now, earlier}).out)["take_over"];
+    const json report = json::parse(tool_("compare --json new.std old.std").out)["take_over"];
     ASSERT_EQ(report["groups"].size(), 5U);
-    EXPECT_EQ(report["groups"][0], json({{"name", "_FEET"},
-                                         {"kind", "JOINT"},
-                                         {"numbers", 3},
-                                         {"taken", 2},
-                                         {"lost", {50}},
-                                         {"by_joint_numbers", false},
-                                         {"dropped", false}}));
+    EXPECT_EQ(report["groups"][0], json::parse(R"({"name": "_FEET", "kind": "JOINT", "numbers": 3, "taken": 2,
+        "lost": [50], "by_joint_numbers": false, "dropped": false})"));
     EXPECT_EQ(report["groups"][1]["dropped"], true);
     EXPECT_EQ(report["groups"][1]["lost"], json({50, 60}));
     EXPECT_EQ(report["groups"][4]["by_joint_numbers"], true);
-    EXPECT_EQ(report["supports"],
-              json::array({{{"description", "FIXED"}, {"numbers", 2}, {"taken", 2}, {"lost", json::array()}},
-                           {{"description", "PINNED"}, {"numbers", 1}, {"taken", 0}, {"lost", {50}}}}));
-    EXPECT_EQ(report["releases"],
-              json::array({{{"description", "END MZ"}, {"numbers", 1}, {"taken", 0}, {"lost", {104}}},
-                           {{"description", "START MY MZ"}, {"numbers", 2}, {"taken", 1}, {"lost", {105}}}}));
+    EXPECT_EQ(report["supports"], json::parse(R"([
+        {"description": "FIXED", "numbers": 2, "taken": 2, "lost": []},
+        {"description": "PINNED", "numbers": 1, "taken": 0, "lost": [50]}])"));
+    EXPECT_EQ(report["releases"], json::parse(R"([
+        {"description": "END MZ", "numbers": 1, "taken": 0, "lost": [104]},
+        {"description": "START MY MZ", "numbers": 2, "taken": 1, "lost": [105]}])"));
     EXPECT_EQ(report["replaced_in_new"],
-              json({{"groups", {"_ALL"}}, {"supports", {"ROLLER"}}, {"releases", {"START MY MZ"}}}));
+              json::parse(R"({"groups": ["_ALL"], "supports": ["ROLLER"], "releases": ["START MY MZ"]})"));
 }
 
-TEST(TakeOver, WritesTheNewModelWithTheOldDefinitions)
+TEST_F(TakeOver, WritesTheNewModelWithTheOldDefinitions)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const std::string out = tool.missing("out.std");
-    const tool_result result = tool({"compare", now, earlier, "--take-over", out, "--yes"});
+    const tool_result result = tool_("compare new.std old.std --take-over out.std --yes");
     EXPECT_EQ(result.exit_code, 1) << "the models differ all the same";
     EXPECT_TRUE(contains(result.out, "groups to take over: 5\n")) << result.out;
-    const std::string text = read_text(out);
+    const std::string text = read_text(tool_.missing("out.std"));
     EXPECT_TRUE(contains(text, "\n_FEET 1 TO 2\n")) << text;
     EXPECT_TRUE(contains(text, "\n_COLUMNS 1 TO 2\n")) << text;
     EXPECT_TRUE(contains(text, "\n_WALL 1\n")) << text;
@@ -119,114 +115,68 @@ TEST(TakeOver, WritesTheNewModelWithTheOldDefinitions)
     EXPECT_TRUE(contains(text, "\n2 END MY\n")) << "a release of its own that nothing replaces";
     EXPECT_EQ(text.substr(text.size() - 7), "\nFINISH");
     // What convert says of a written file is said here, too.
-    EXPECT_TRUE(contains(result.err, out + ":")) << result.err;
+    EXPECT_TRUE(contains(result.err, "out.std:")) << result.err;
     EXPECT_TRUE(contains(result.err, ": note generated: ")) << result.err;
-    EXPECT_EQ(tool.names(), (std::vector<std::string>{"new.std", "old.std", "out.std"}));
-}
-
-TEST(TakeOver, ToStandardOutputItIsTheModelAlone)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const std::string out = tool.missing("out.std");
-    ASSERT_EQ(tool({"compare", now, earlier, "--take-over", out, "--yes"}).exit_code, 1);
-    const tool_result streamed = tool({"compare", now, earlier, "--take-over", "-", "--yes"});
+    EXPECT_EQ(tool_.names(), (std::vector<std::string>{"new.std", "old.std", "out.std"}));
+    const tool_result streamed = tool_("compare new.std old.std --take-over - --yes");
     EXPECT_EQ(streamed.exit_code, 1);
-    EXPECT_EQ(streamed.out, read_text(out));
+    EXPECT_EQ(streamed.out, text) << "the model alone";
     EXPECT_TRUE(contains(streamed.err, "<stdout>:")) << streamed.err;
 }
 
-TEST(TakeOver, JsonBesideAFileThatIsWritten)
+TEST_F(TakeOver, JsonBesideAFileThatIsWritten)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string out = tool.missing("out.std");
-    const tool_result result = tool({"compare", "--json", now, now, "--take-over", out, "--yes"});
+    const tool_result result = tool_("compare --json new.std new.std --take-over out.std --yes");
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_EQ(json::parse(result.out)["differ"], false);
-    EXPECT_TRUE(fs::exists(out));
-    const tool_result both = tool({"compare", "--json", now, now, "--take-over", "-", "--yes"});
-    EXPECT_EQ(both.exit_code, 2);
-    EXPECT_EQ(both.err, "staadkit: error: --take-over - and --json both need standard output\n");
+    EXPECT_EQ(tool_.names(), (std::vector<std::string>{"new.std", "old.std", "out.std"}));
 }
 
-TEST(TakeOver, WithoutATerminalToAskAtItIsRefused)
+const std::vector<call_row> take_over_refusals = {
+    {"two that need standard output", "compare --json new.std new.std --take-over - --yes", 2,
+     "staadkit: error: --take-over - and --json both need standard output\n"},
+    {"no terminal to ask at", "compare new.std new.std --take-over out.std", 4,
+     "staadkit: error: out.std: there is no terminal to ask at; --yes takes over and writes without a question\n"},
+    {"an earlier model that is none", "compare new.std bad.std --take-over out.std --yes", 3, "bad.std: error "},
+    {"a file that is there", "compare new.std old.std --take-over kept.std --yes", 4,
+     "staadkit: error: kept.std: is there already; --force overwrites it\n"},
+    {"the model of today", "compare new.std old.std --take-over new.std --yes", 4,
+     "staadkit: error: new.std: is an input; --force overwrites it\n"},
+    {"the earlier one", "compare new.std old.std --take-over old.std --yes", 4,
+     "staadkit: error: old.std: is an input; --force overwrites it\n"},
+};
+
+TEST_F(TakeOver, RefusalsLeaveAllFilesAsTheyAre)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string out = tool.missing("out.std");
-    const tool_result result = tool({"compare", now, now, "--take-over", out}, "y\n");
-    EXPECT_EQ(result.exit_code, 4);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "staadkit: error: " + out +
-                              ": there is no terminal to ask at; --yes takes over and writes without a question\n");
-    EXPECT_FALSE(fs::exists(out));
+    tool_.write("bad.std", "nothing\n");
+    const std::string kept = tool_.write("kept.std", "precious");
+    expect_answers(tool_, take_over_refusals);
+    EXPECT_EQ(tool_.names(), (std::vector<std::string>{"bad.std", "kept.std", "new.std", "old.std"}));
+    EXPECT_EQ(read_file(kept), "precious");
+    EXPECT_EQ(read_file(tool_.missing("new.std")), today_deck());
+    EXPECT_EQ(read_file(tool_.missing("old.std")), earlier_deck());
+    EXPECT_EQ(tool_("compare new.std old.std --take-over kept.std --yes --force").exit_code, 1);
+    EXPECT_TRUE(contains(read_text(kept), "\n_FEET 1 TO 2\n"));
 }
 
 #ifndef _WIN32
-TEST(TakeOver, AsksAtATerminal)
+TEST_F(TakeOver, AsksAtATerminal)
 {
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const std::string out = tool.missing("out.std");
-    const std::vector<std::string> call = {"compare", now, earlier, "--take-over", out};
-
-    const tool_result no = at_terminal(tool, call, "n\n");
+    const std::string out = tool_.missing("out.std");
+    const std::vector<std::string> call = {"compare", tool_.missing("new.std"), tool_.missing("old.std"), "--take-over",
+                                           out};
+    const tool_result no = at_terminal(tool_, call, "n\n");
     EXPECT_EQ(no.exit_code, 4);
     EXPECT_TRUE(contains(no.err, "Take groups, supports and releases over, and write " + out + "? [y/N] ")) << no.err;
     EXPECT_TRUE(contains(no.err, "staadkit: error: " + out + ": not written: the answer was no")) << no.err;
     EXPECT_TRUE(contains(no.out, "groups to take over: 5\n")) << "the report comes before the question";
     EXPECT_FALSE(fs::exists(out));
 
-    const tool_result yes = at_terminal(tool, call, "y\n");
+    const tool_result yes = at_terminal(tool_, call, "y\n");
     EXPECT_EQ(yes.exit_code, 1) << yes.err;
     EXPECT_TRUE(contains(read_text(out), "\n_FEET 1 TO 2\n"));
 }
 #endif
-
-TEST(TakeOver, AnExistingFileIsKept)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string earlier = tool.write("old.std", earlier_deck());
-    const std::string out = tool.write("out.std", "precious");
-    const tool_result kept = tool({"compare", now, earlier, "--take-over", out, "--yes"});
-    EXPECT_EQ(kept.exit_code, 4);
-    EXPECT_EQ(kept.err, "staadkit: error: " + out + ": is there already; --force overwrites it\n");
-    EXPECT_EQ(kept.out, "");
-    EXPECT_EQ(read_file(out), "precious");
-    for (const std::string& input : {now, earlier}) {
-        const tool_result result = tool({"compare", now, earlier, "--take-over", input, "--yes"});
-        EXPECT_EQ(result.exit_code, 4);
-        EXPECT_EQ(result.err, "staadkit: error: " + input + ": is an input; --force overwrites it\n");
-    }
-    EXPECT_EQ(read_file(earlier), earlier_deck());
-    EXPECT_EQ(tool({"compare", now, earlier, "--take-over", out, "--yes", "--force"}).exit_code, 1);
-    EXPECT_TRUE(contains(read_text(out), "\n_FEET 1 TO 2\n"));
-}
-
-TEST(TakeOver, NothingIsWrittenWithoutBothModels)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    const std::string bad = tool.write("bad.std", "nothing\n");
-    const std::string out = tool.missing("out.std");
-    EXPECT_EQ(tool({"compare", now, bad, "--take-over", out, "--yes"}).exit_code, 3);
-    EXPECT_FALSE(fs::exists(out));
-}
-
-TEST(TakeOver, OptionsThatMeanNothingWithoutIt)
-{
-    const tool_run tool;
-    const std::string now = tool.write("new.std", today_deck());
-    for (const char* option : {"--yes", "--force"}) {
-        const tool_result result = tool({"compare", now, now, option});
-        EXPECT_EQ(result.exit_code, 2);
-        EXPECT_TRUE(contains(result.err, std::string(option) + " requires --take-over")) << result.err;
-    }
-}
 
 } // namespace
 } // namespace cli_test

@@ -81,24 +81,18 @@ words slow_input(const std::string& deck)
     return {"sh", "-c", "(head -c 1000000 " + deck + "; sleep 1.2; tail -c +1000001 " + deck + ") | \"$0\" \"$@\""};
 }
 
-TEST(Terminal, ShowsTheBytesOfALongReading)
+TEST(Terminal, ShowsTheProgressOfALongReading)
 {
     const tool_run tool;
     const std::string deck = tool.write("long.std", std::string(2000000, '\n') + small_deck());
-    const std::string shown = on_screen(80, slow_input(deck), {"info", "-"}).out;
-    const std::size_t progress = shown.find("reading <stdin>: 1 MB");
-    ASSERT_NE(progress, std::string::npos) << shown;
-    EXPECT_LT(progress, shown.find("<stdin>\nunits:")) << shown;
+    const std::string bytes = on_screen(80, slow_input(deck), {"info", "-"}).out;
+    const std::size_t progress = bytes.find("reading <stdin>: 1 MB");
+    ASSERT_NE(progress, std::string::npos) << bytes;
+    EXPECT_LT(progress, bytes.find("<stdin>\nunits:")) << bytes;
     EXPECT_FALSE(contains(on_screen(80, slow_input(deck), {"info", "-q", "-"}).out, "reading"));
-}
-
-TEST(Terminal, ShowsTheFilesOfALongReading)
-{
-    const tool_run tool;
-    const std::string deck = tool.write("long.std", std::string(2000000, '\n') + small_deck());
-    const std::string shown = on_screen(80, slow_input(deck), {"info", "-", deck, deck}).out;
-    EXPECT_TRUE(contains(shown, "1 of 3 files")) << shown;
-    EXPECT_FALSE(contains(shown, "reading")) << shown;
+    const std::string files = on_screen(80, slow_input(deck), {"info", "-", deck, deck}).out;
+    EXPECT_TRUE(contains(files, "1 of 3 files")) << files;
+    EXPECT_FALSE(contains(files, "reading")) << files;
 }
 
 } // namespace

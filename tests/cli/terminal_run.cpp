@@ -1,15 +1,13 @@
 #include "terminal_run.h"
 
+#include "process.h"
+
 #include <cstdlib>
 #include <fcntl.h>
-#include <spawn.h>
 #include <stdexcept>
 #include <sys/ioctl.h>
-#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
-
-extern char** environ;
 
 namespace cli_test {
 namespace {
@@ -49,29 +47,7 @@ private:
     int end_;
 };
 
-/// Of an empty `out_path` standard output is the terminal, too.
-pid_t start(std::vector<std::string> words, const std::string& terminal_path, const std::string& out_path)
-{
-    std::vector<char*> pointers;
-    for (std::string& word : words)
-        pointers.push_back(word.data());
-    pointers.push_back(nullptr);
-    const std::string& out = out_path.empty() ? terminal_path : out_path;
-    posix_spawn_file_actions_t streams;
-    posix_spawn_file_actions_init(&streams);
-    posix_spawn_file_actions_addopen(&streams, STDIN_FILENO, terminal_path.c_str(), O_RDWR | O_NOCTTY, 0);
-    posix_spawn_file_actions_addopen(&streams, STDOUT_FILENO, out.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NOCTTY,
-                                     0600);
-    posix_spawn_file_actions_adddup2(&streams, STDIN_FILENO, STDERR_FILENO);
-    pid_t process = 0;
-    const int error = posix_spawn(&process, pointers.front(), &streams, nullptr, pointers.data(), environ);
-    posix_spawn_file_actions_destroy(&streams);
-    if (error != 0)
-        throw std::runtime_error("cannot start " + words.front());
-    return process;
-}
-
-/// What the terminal shows is `err` of the result.
+/// What the terminal shows is `err` of the result. Of an empty `out_path` standard output is the terminal, too.
 tool_result run_at(const terminal& screen, std::string_view typed, const std::vector<std::string>& environment,
                    const std::vector<std::string>& arguments, const std::string& out_path)
 {
@@ -81,14 +57,11 @@ tool_result run_at(const terminal& screen, std::string_view typed, const std::ve
     words.insert(words.end(), arguments.begin(), arguments.end());
     const int other_end = open(screen.path().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC); // open until the tool has it
     screen.type(typed);
-    const pid_t process = start(words, screen.path(), out_path);
+    const pid_t process = start(words, {screen.path(), out_path.empty() ? screen.path() : out_path, screen.path()});
     close(other_end);
     tool_result result;
     result.err = screen.shown();
-    int status = 0;
-    if (waitpid(process, &status, 0) != process)
-        throw std::runtime_error("lost " + words.front());
-    result.exit_code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    result.exit_code = exit_code_of(process);
     return result;
 }
 

@@ -2,10 +2,13 @@
 
 #include "process.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <fstream>
+#include <iomanip>
 #include <sstream>
 #include <system_error>
 
@@ -61,6 +64,11 @@ std::string tool_run::missing(const std::string& name) const
 tool_result tool_run::operator()(const std::vector<std::string>& arguments, std::string_view input) const
 {
     return from(write("stdin", input), arguments);
+}
+
+tool_result tool_run::operator()(const char* line, std::string_view input) const
+{
+    return (*this)(words_of(line), input);
 }
 
 tool_result tool_run::into(const std::string& out_path, const std::vector<std::string>& arguments) const
@@ -134,9 +142,23 @@ tool_result tool_run::run(const std::vector<std::string>& command, const std::st
 {
     const std::string err = missing("stderr");
     tool_result result;
-    result.exit_code = run_to_end(command, {in_path, out_path, err});
+    result.exit_code = run_to_end(command, {in_path, out_path, err, folder()});
     result.err = read_text(err);
     return result;
+}
+
+void expect_answers(const tool_run& tool, const std::vector<call_row>& calls, const std::string& before)
+{
+    const auto is_as_wanted = [](const std::string& text, const std::string& want) {
+        return want.empty() ? text.empty() : contains('\n' + text, '\n' + want);
+    };
+    for (const call_row& each : calls) {
+        const tool_result result = tool(words_of(before + each.line));
+        EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
+        EXPECT_FALSE(contains(result.out + result.err, "\x1B")) << each.why << ": drives the terminal";
+        EXPECT_TRUE(is_as_wanted(result.err, each.err)) << each.why << ": " << each.line << '\n' << result.err;
+        EXPECT_TRUE(is_as_wanted(result.out, each.out)) << each.why << ": " << each.line << '\n' << result.out;
+    }
 }
 
 std::string tower_deck()
@@ -184,6 +206,24 @@ std::string read_text(const std::string& path)
         text.erase(at, 1);
 #endif
     return text;
+}
+
+std::vector<std::string> words_of(const std::string& line)
+{
+    std::vector<std::string> words;
+    std::istringstream stream(line);
+    for (std::string word; stream >> std::quoted(word, '\'');)
+        words.push_back(word);
+    return words;
+}
+
+std::vector<std::string> lines_of(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);)
+        lines.push_back(line);
+    return lines;
 }
 
 bool contains(std::string_view text, std::string_view part)

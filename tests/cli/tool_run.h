@@ -37,8 +37,10 @@ public:
     /// A path in the folder at which nothing stands.
     std::string missing(const std::string& name) const;
 
-    /// Runs the tool to its end, `input` on its standard input.
+    /// Runs the tool in the folder to its end, `input` on its standard input.
     tool_result operator()(const std::vector<std::string>& arguments, std::string_view input = {}) const;
+    /// The same with the words of a line, which blanks part; a word in single quotes may have blanks.
+    tool_result operator()(const char* line, std::string_view input = {}) const;
     /// The same with standard output going to `out_path`; `out` of the result stays empty.
     tool_result into(const std::string& out_path, const std::vector<std::string>& arguments) const;
     /// The same with standard input coming from `in_path`.
@@ -72,7 +74,19 @@ private:
     std::filesystem::path folder_;
 };
 
-/// A deck whose answers the tests know: a small tower with everything that "info" tells.
+/// A call with the words of a line, and what it answers.
+struct call_row {
+    const char* why;
+    std::string line;
+    int exit_code;
+    std::string err = {}; ///< begins a line of standard error; empty: there is nothing on it
+    std::string out = {}; ///< the same of standard output
+};
+
+/// Makes the calls, each with the words of `before` before its own.
+void expect_answers(const tool_run& tool, const std::vector<call_row>& calls, const std::string& before = {});
+
+/// A deck whose answers the tests know: a small tower with everything that "info" shows.
 std::string tower_deck();
 /// The least deck that is a model, with `more_lines` before its end.
 std::string small_deck(std::string_view more_lines = {});
@@ -81,6 +95,10 @@ std::string small_deck(std::string_view more_lines = {});
 std::string read_file(const std::string& path);
 /// The same of a text that the tool wrote, with the line ends that texts have in memory.
 std::string read_text(const std::string& path);
+
+std::vector<std::string> lines_of(const std::string& text);
+/// The words of a line.
+std::vector<std::string> words_of(const std::string& line);
 
 bool contains(std::string_view text, std::string_view part);
 /// True if one of the lines of `text` is exactly `line`.

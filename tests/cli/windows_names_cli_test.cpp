@@ -46,7 +46,7 @@ TEST_F(ChineseNames, AreReadAndShown)
     EXPECT_TRUE(contains(result.out, '/' + std::string(tower_in_utf8) + '\\' + floor_in_utf8 + ".std\n")) << result.out;
 }
 
-TEST_F(ChineseNames, AreToldWhereTheFileIsMissing)
+TEST_F(ChineseNames, AreReportedWhereTheFileIsMissing)
 {
     const tool_result result = tool_({"info", tool_.missing(tower) + ".std"});
     EXPECT_EQ(result.exit_code, 3);

@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <functional>
 #include <new>
 #include <string>
 #include <system_error>
@@ -125,6 +126,12 @@ struct reported_model {
     ReadReport report;
 };
 
+void expect_same(const reported_model& one, const reported_model& want)
+{
+    EXPECT_EQ(model_differences(one.model, want.model), differences{});
+    EXPECT_EQ(one.report.findings.size(), want.report.findings.size());
+}
+
 class Exhaustion : public testing::TestWithParam<const char*> {
 protected:
     std::string name() const { return GetParam(); }
@@ -132,32 +139,26 @@ protected:
     const SdReader whole_ = read_text(text_);
 };
 
+using reading = std::function<void(reported_model&)>;
+
 TEST_P(Exhaustion, OfAReadingLeavesAModelThatCanBeReadInto)
 {
-    fail_each_allocation([] { return SdReader(); }, [&](SdReader& model) { model.ReadSDDataFromText(text_); },
-                         [&](SdReader& model, outcome end) {
-                             if (end == outcome::finished) {
-                                 EXPECT_EQ(model_differences(model, whole_), differences{});
-                             }
-                             expect_reads_again(model, text_, whole_);
-                         });
-}
-
-TEST_P(Exhaustion, OfAReadingFromAFileWithAReport)
-{
     const std::string path = examples::path(name() + ".std");
-    ReadReport whole_report;
-    SdReader().ReadSDDataFromText(text_, whole_report);
-    fail_each_allocation(
-        [] { return reported_model(); },
-        [&](reported_model& result) { result.model.ReadSDDataFromStdFile(path.c_str(), result.report); },
-        [&](reported_model& result, outcome end) {
-            if (end == outcome::finished) {
-                EXPECT_EQ(model_differences(result.model, whole_), differences{});
-                EXPECT_EQ(result.report.findings.size(), whole_report.findings.size());
-            }
-            expect_reads_again(result.model, text_, whole_);
-        });
+    const reading readings[] = {
+        [&](reported_model& one) { one.model.ReadSDDataFromText(text_); },
+        [&](reported_model& one) { one.model.ReadSDDataFromStdFile(path.c_str(), one.report); },
+    };
+    for (const reading& read : readings) {
+        reported_model whole;
+        read(whole);
+        EXPECT_EQ(model_differences(whole.model, whole_), differences{});
+        fail_each_allocation([] { return reported_model(); }, read,
+                             [&](reported_model& result, outcome end) {
+                                 if (end == outcome::finished)
+                                     expect_same(result, whole);
+                                 expect_reads_again(result.model, text_, whole_);
+                             });
+    }
 }
 
 TEST_P(Exhaustion, OfAWritingToMemory)
@@ -268,40 +269,24 @@ protected:
 
 TEST_P(ExhaustionOfForces, LeavesAModelThatCanBeReadInto)
 {
-    SdReader whole = whole_;
-    whole.ReadForceMomentFromText(listing_);
-    ASSERT_FALSE(whole.beam_forces.empty());
     const std::string path = examples::path(name() + ".txt");
-    fail_each_allocation([&] { return whole_; },
-                         [&](SdReader& model) { model.ReadForceMomentFromTxtFile(path.c_str()); },
-                         [&](SdReader& model, outcome end) {
-                             if (end == outcome::finished) {
-                                 EXPECT_EQ(model_differences(model, whole), differences{});
-                             }
-                             model.ReadForceMomentFromText(listing_);
-                             EXPECT_EQ(model_differences(model, whole), differences{});
-                             expect_reads_again(model, text_, whole_);
-                         });
-}
-
-TEST_P(ExhaustionOfForces, WithAReport)
-{
-    SdReader whole = whole_;
-    ReadReport whole_report;
-    whole.ReadForceMomentFromText(listing_, whole_report);
-    fail_each_allocation(
-        [&] {
-            return reported_model{whole_, {}};
-        },
-        [&](reported_model& result) { result.model.ReadForceMomentFromText(listing_, result.report); },
-        [&](reported_model& result, outcome end) {
-            if (end == outcome::finished) {
-                EXPECT_EQ(model_differences(result.model, whole), differences{});
-                EXPECT_EQ(result.report.findings.size(), whole_report.findings.size());
-            }
-            result.model.ReadForceMomentFromText(listing_, result.report);
-            EXPECT_EQ(model_differences(result.model, whole), differences{});
+    const reading readings[] = {
+        [&](reported_model& one) { one.model.ReadForceMomentFromTxtFile(path.c_str()); },
+        [&](reported_model& one) { one.model.ReadForceMomentFromText(listing_, one.report); },
+    };
+    for (const reading& read : readings) {
+        const auto before = [&] { return reported_model{whole_, {}}; };
+        reported_model whole = before();
+        read(whole);
+        ASSERT_FALSE(whole.model.beam_forces.empty());
+        fail_each_allocation(before, read, [&](reported_model& result, outcome end) {
+            if (end == outcome::finished)
+                expect_same(result, whole);
+            read(result);
+            expect_same(result, whole);
+            expect_reads_again(result.model, text_, whole_);
         });
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Examples, ExhaustionOfForces, testing::Values("concrete-frame", "steel-portal"), name_of_test);

@@ -1,55 +1,16 @@
-/// The lines in Chinese that explain the generated wind and seismic data, in GBK, and the texts that
-/// the seismic parameters are told apart by.
+/// The lines in Chinese that explain the generated seismic data, in GBK, and the texts that the seismic parameters may
+/// have.
 #ifndef STAAD_TESTS_SUPPORT_CHINESE_TEXTS_H
 #define STAAD_TESTS_SUPPORT_CHINESE_TEXTS_H
 
 namespace STAAD::chinese {
 
-// ---- wind, in the order written -----------------------------------------------------------------
-
-inline constexpr const char* wind_types = // type numbers of the automatically defined wind loads
-    "*{ \xD7\xD4\xB6\xAF\xB6\xA8\xD2\xE5\xB5\xC4\xB7\xE7\xBA\xC9\xD4\xD8\xB5\xC4\xC0\xE0"
-    "\xD0\xCD\xBA\xC5";
-inline constexpr const char* structure_high = // total height of the building
-    "*{ \xBD\xA8\xD6\xFE\xBD\xE1\xB9\xB9\xB5\xC4\xD7\xDC\xB8\xDF\xB6\xC8";
-inline constexpr const char* is_betaz = // whether the gust factor is considered
-    "*{ \xCA\xC7\xB7\xF1\xBF\xBC\xC2\xC7\xB7\xE7\xD5\xF1\xCF\xB5\xCA\xFD\xB5\xC4\xD3\xB0"
-    "\xCF\xEC";
-inline constexpr const char* base_period = // fundamental period of the building
-    "*{ \xBD\xA8\xD6\xFE\xBD\xE1\xB9\xB9\xBB\xF9\xB1\xBE\xD7\xD4\xD5\xF1\xD6\xDC\xC6\xDA";
-inline constexpr const char* base_press = // basic wind pressure
-    "*{ \xBB\xF9\xB1\xBE\xB7\xE7\xD1\xB9\xD6\xB5";
-inline constexpr const char* soil_type = // site terrain roughness category, one character misspelt
-    "*{ \xB3\xA1\xB5\xD8\xCD\xC1\xB4\xD6\xD4\xEC\xB6\xC8\xC0\xE0\xB1\xF0";
-inline constexpr const char* aweather_width = // windward width for the four wind directions
-    "*{ \xCB\xC4\xB8\xF6\xB7\xE7\xCF\xF2\xB5\xC4\xD3\xAD\xB7\xE7\xC3\xE6\xBF\xED\xB6\xC8";
-inline constexpr const char* structure_type = // structure type (space or plane)
-    "*{ \xBD\xE1\xB9\xB9\xC0\xE0\xD0\xCD\xA3\xA8\xBF\xD5\xBC\xE4\xBB\xF2\xC6\xBD\xC3\xE6"
-    "\xA3\xA9";
-inline constexpr const char* mius = // shape coefficients, four winds, four faces; a blank at the end
-    "*{ \xB7\xE7\xBA\xC9\xD4\xD8\xCC\xE5\xD0\xCD\xCF\xB5\xCA\xFD\xA3\xAC\xCB\xC4\xB8\xF6"
-    "\xB7\xE7\xCF\xF2\xA3\xAC\xCB\xC4\xB8\xF6\xC3\xE6 ";
-inline constexpr const char* intensity_flag = // method of computing the pressure intensity over the height
-    "*{ \xBC\xC6\xCB\xE3\xB7\xE7\xD1\xB9\xC7\xBF\xB6\xC8/\xB8\xDF\xB6\xC8\xC7\xFA\xCF"
-    "\xDF\xB5\xC4\xB7\xBD\xCA\xBD";
-inline constexpr const char* intensity_number = // points, given by the user, at which the intensity is computed
-    "*{ \xD3\xC3\xBB\xA7\xD6\xB8\xB6\xA8\xD0\xE8\xD2\xAA\xBC\xC6\xCB\xE3\xB7\xE7\xD1\xB9"
-    "\xC7\xBF\xB6\xC8\xB5\xC4\xB5\xE3\xCA\xFD";
-inline constexpr const char* intensity_isometry = // spacing of the intensity at equal distances
-    "*{ \xB5\xC8\xBE\xE0\xC0\xEB\xBC\xC6\xCB\xE3\xB7\xE7\xD1\xB9\xC7\xBF\xB6\xC8\xCA\xB1"
-    "\xB5\xC4\xBE\xE0\xC0\xEB\xD6\xB5";
-inline constexpr const char* intensity_floor = // storey height of the intensity storey by storey
-    "*{ \xB0\xB4\xD5\xD5\xB2\xE3\xB8\xDF\xBC\xC6\xCB\xE3\xB8\xF7\xB5\xE3\xB7\xE7\xD1\xB9"
-    "\xC7\xBF\xB6\xC8\xCA\xB1\xB5\xC4\xB2\xE3\xB8\xDF\xB6\xC8";
-
-// ---- seismic, in the order written ----------------------------------------------------------------
+// ---- lines, in the order written -------------------------------------------------------------------
 
 inline constexpr const char* direction_factor = // direction and factor of the force
     "*{ \xC1\xA6\xD7\xF7\xD3\xC3\xB5\xC4\xB7\xBD\xCF\xF2\xD3\xEB\xCF\xB5\xCA\xFD";
 inline constexpr const char* y_freedom = // whether the freedom along Y is considered
     "*{ \xCA\xC7\xB7\xF1\xBF\xBC\xC2\xC7 Y \xCF\xF2\xD7\xD4\xD3\xC9\xB6\xC8";
-inline constexpr const char* code_type = // code type
-    "*{ \xB9\xE6\xB7\xB6\xC0\xE0\xD0\xCD";
 inline constexpr const char* eq_type = // earthquake type (far, near, or frequent, rare)
     "*{ \xB5\xD8\xD5\xF0\xC0\xE0\xD0\xCD(\xD4\xB6\xA1\xA2\xBD\xFC\xBB\xF2\xD5\xDF\xB6"
     "\xE0\xD3\xF6\xA1\xA2\xBA\xB1\xD3\xF6)";

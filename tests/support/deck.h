@@ -3,6 +3,7 @@
 #define STAAD_TESTS_SUPPORT_DECK_H
 
 #include "staad/model/sd_reader.h"
+#include "staad/report/read_limit.h"
 
 #include <gtest/gtest.h>
 
@@ -23,13 +24,22 @@ struct frame {
 /// Physical line of the first line under test in `frame_deck` and `open_frame_deck`.
 inline constexpr std::size_t first_line_under_test = 7;
 
-/// Every line with a line feed behind it.
+/// Every line with a line feed after it.
 inline std::string joined(const lines& parts)
 {
     std::string text;
     for (const std::string& part : parts)
         text.append(part).push_back('\n');
     return text;
+}
+
+/// The same text with CR LF for every line feed.
+inline std::string with_cr(const std::string& text)
+{
+    std::string changed;
+    for (const char character : text)
+        changed += character == '\n' ? std::string("\r\n") : std::string(1, character);
+    return changed;
 }
 
 /// Unit line, joints, members and `parts`, which the text ends with. Member n runs from joint n to joint
@@ -65,10 +75,40 @@ inline SdReader read_frame(const lines& parts, const frame& shape = {})
     return read(frame_deck(parts, shape));
 }
 
+/// A row of a table of cases: lines of a deck, and what a model read from it holds.
+struct row {
+    const char* why;
+    std::string lines;
+    std::string want;
+};
+
+/// Reads the lines of each row after the members of a frame and the line `block`; `see` puts what the table is about
+/// in one line.
+template<class See>
+void expect_read(const std::vector<row>& rows, See see, const frame& shape = {}, const std::string& block = "")
+{
+    for (const row& one : rows)
+        EXPECT_EQ(see(read_frame({block, one.lines}, shape)), one.want) << one.lines << ": " << one.why;
+}
+
 /// The record of member `number` in a model read from one of the decks above.
 inline const SdBeam& member(const SdReader& model, int number)
 {
     return model.beams.at(static_cast<std::size_t>(number - 1));
+}
+
+/// Calls `take`, which must pass a limit of a reading at physical lines `first` to `last`.
+template<class Take>
+void expect_limit(Take take, std::size_t first, std::size_t last, std::size_t limit)
+{
+    try {
+        take();
+        ADD_FAILURE() << "no exception";
+    } catch (const ReadLimitError& error) {
+        EXPECT_EQ(error.first_line(), first);
+        EXPECT_EQ(error.last_line(), last);
+        EXPECT_EQ(error.limit(), limit);
+    }
 }
 
 } // namespace STAAD::decks

@@ -1,26 +1,20 @@
 #include "tests/support/force_listing.h"
 
+#include "tests/support/shown.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <iterator>
 
 namespace STAAD::listings {
 namespace {
 
-std::string to_text(double value)
-{
-    char text[32];
-    std::snprintf(text, sizeof text, "%g", value);
-    return text;
-}
-
 std::string summary(const BeamLoadCaseRecord& record, int number)
 {
     std::string text = " " + std::to_string(number) + (record.load_case == number ? "(" : "!(");
     for (const ForcePoint& point : record.points)
-        text += (text.back() == '(' ? "" : " ") + to_text(point.position);
+        text += (text.back() == '(' ? "" : " ") + shown(point.position);
     return text + ")";
 }
 

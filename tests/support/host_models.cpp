@@ -1,6 +1,7 @@
 #include "tests/support/host_models.h"
 
 #include "tests/support/chinese_texts.h"
+#include "tests/support/placed_models.h"
 #include "tests/support/written_text.h"
 
 #include <cstddef>
@@ -58,12 +59,8 @@ private:
         for (const double level : shape_.levels) {
             for (int row = 0; row <= shape_.bays_z; ++row) {
                 for (int column = 0; column <= shape_.bays_x; ++column) {
-                    SdNode joint;
-                    joint.id = 10 * static_cast<int>(model_.nodes.size() + 1);
-                    joint.x = 5000.0 * row;
-                    joint.y = 6000.0 * column;
-                    joint.z = level;
-                    model_.nodes.push_back(joint);
+                    const int number = 10 * static_cast<int>(model_.nodes.size() + 1);
+                    model_.nodes.push_back(placed::joint(number, {5000.0 * row, 6000.0 * column, level}));
                 }
             }
         }
@@ -71,10 +68,7 @@ private:
 
     void add_member(int start, int end, BeamType kind, const char* material)
     {
-        SdBeam member;
-        member.id = 101 + static_cast<int>(model_.beams.size());
-        member.node_start = start;
-        member.node_end = end;
+        SdBeam member = placed::member(101 + static_cast<int>(model_.beams.size()), start, end);
         member.kind_code = kind;
         member.material = material;
         member.sect_country = "CHINESE";
@@ -105,10 +99,7 @@ private:
 
 void add_brace(SdReader& model, int start, int end, BeamType kind, const std::string& section)
 {
-    SdBeam brace;
-    brace.id = 501 + static_cast<int>(model.beams.size());
-    brace.node_start = start;
-    brace.node_end = end;
+    SdBeam brace = placed::member(501 + static_cast<int>(model.beams.size()), start, end);
     brace.kind_code = kind;
     brace.beta = -12.5;
     brace.material = "STEEL";
@@ -116,11 +107,9 @@ void add_brace(SdReader& model, int start, int end, BeamType kind, const std::st
     model.beams.push_back(brace);
 }
 
-void add_shell(SdReader& model, std::vector<int> corners, int thickness, const std::string& material)
+void add_shell(SdReader& model, const std::vector<int>& corners, int thickness, const std::string& material)
 {
-    SdShell shell;
-    shell.id = 1 + static_cast<int>(model.shells.size());
-    shell.node_ids = std::move(corners);
+    SdShell shell = placed::shell(1 + static_cast<int>(model.shells.size()), corners);
     shell.thickness = thickness;
     shell.material = material;
     model.shells.push_back(shell);

@@ -6,28 +6,16 @@
 
 #include <cstddef>
 #include <cstdio>
+#include <utility>
 
 namespace STAAD::layered {
 namespace {
-
-using texts = std::vector<std::string>;
 
 std::string to_text(double value)
 {
     char text[32];
     std::snprintf(text, sizeof text, "%.17g", value);
     return text;
-}
-
-/// Adds where two lists of records differ.
-template<class Record>
-void compare(texts& found, const std::string& name, const std::vector<Record>& a, const std::vector<Record>& b)
-{
-    if (a.size() != b.size())
-        found.push_back(name + ": " + std::to_string(a.size()) + " and " + std::to_string(b.size()) + " entries");
-    for (std::size_t i = 0; i < a.size() && i < b.size(); ++i)
-        for (const std::string& difference : record_differences(a[i], b[i]))
-            found.push_back(name + '[' + std::to_string(i) + "]." + difference);
 }
 
 } // namespace
@@ -117,15 +105,12 @@ LayerMember member(const StaadProProject_layered& project, int number)
 
 std::vector<std::string> differences(const StaadProProject_layered& a, const StaadProProject_layered& b)
 {
-    SdReader cases_of_a;
-    SdReader cases_of_b;
-    cases_of_a.load_cases = a.load_cases;
-    cases_of_b.load_cases = b.load_cases;
-    texts found = model_differences(cases_of_a, cases_of_b);
-    compare(found, "layers", a.layers, b.layers);
-    compare(found, "node_levels", a.node_levels, b.node_levels);
-    compare(found, "sections", a.sections, b.sections);
-    return found;
+    comparison walk;
+    walk.compare("load_cases", a.load_cases, b.load_cases);
+    walk.compare("layers", a.layers, b.layers);
+    walk.compare("node_levels", a.node_levels, b.node_levels);
+    walk.compare("sections", a.sections, b.sections);
+    return std::move(walk).take();
 }
 
 } // namespace STAAD::layered

@@ -1,13 +1,14 @@
 #include "tests/support/random_deck.h"
 
+#include "tests/support/placed_models.h"
 #include "tests/support/random_loads.h"
 #include "tests/support/random_sections.h"
 #include "tests/support/random_text.h"
 #include "tests/support/random_units.h"
 
-#include <algorithm>
-#include <functional>
+#include <iterator>
 #include <map>
+#include <sstream>
 #include <vector>
 
 namespace STAAD::decks {
@@ -84,12 +85,7 @@ private:
             const decimal x = random_decimal(random_, -60, 60);
             const decimal y = random_decimal(random_, 0, 90);
             const decimal z = random_decimal(random_, -60, 60);
-            SdNode joint;
-            joint.id = number;
-            joint.x = length(z);
-            joint.y = length(x);
-            joint.z = length(y);
-            model_.nodes.push_back(joint);
+            model_.nodes.push_back(placed::joint(number, {length(z), length(x), length(y)}));
             model_.node_index[number] = static_cast<int>(model_.nodes.size());
             joint_items_.push_back({std::to_string(number), spelled(x), spelled(y), spelled(z)});
             add_ignored_word(joint_items_.back());
@@ -113,11 +109,7 @@ private:
         for (const int number : member_ids_) {
             const int start = any_joint();
             const int end = any_joint();
-            SdBeam member;
-            member.id = number;
-            member.node_start = named_position(start);
-            member.node_end = named_position(end);
-            model_.beams.push_back(member);
+            model_.beams.push_back(placed::member(number, named_position(start), named_position(end)));
             model_.beam_index[number] = static_cast<int>(model_.beams.size());
             member_items_.push_back({std::to_string(number), std::to_string(start), std::to_string(end)});
             add_ignored_word(member_items_.back());
@@ -168,20 +160,20 @@ private:
 
     // ---- blocks: each decides, enters the model and lays out its lines --------------------------
 
-    using block = std::function<void()>;
+    using block = void (deck_maker::*)();
 
     /// A block in its place, or not at all.
-    void add_maybe(std::vector<block>& blocks, void (deck_maker::*write_block)())
+    void add_maybe(std::vector<block>& blocks, block write_block)
     {
         if (random_.one_in(2))
-            blocks.emplace_back([this, write_block] { (this->*write_block)(); });
+            blocks.push_back(write_block);
     }
 
     void write(const std::vector<block>& blocks)
     {
-        for (const block& write_block : blocks) {
+        for (const block write_block : blocks) {
             out_.noise();
-            write_block();
+            (this->*write_block)();
         }
         out_.noise();
     }
@@ -197,14 +189,14 @@ private:
         add_maybe(anywhere, &deck_maker::write_offsets);
         add_maybe(anywhere, &deck_maker::write_braces);
         if (!surface_ids_.empty())
-            anywhere.emplace_back([this] { write_surfaces(); });
+            anywhere.push_back(&deck_maker::write_surfaces);
         random_.shuffle(anywhere);
         const auto some = random_.one_in(4) ? random_.between(0, static_cast<int>(anywhere.size())) : 0;
         std::vector<block> before(anywhere.begin(), anywhere.begin() + some);
         std::vector<block> after(anywhere.begin() + some, anywhere.end());
         add_maybe(after, &deck_maker::write_groups);
         if (!shell_ids_.empty())
-            after.emplace_back([this] { write_shells(); });
+            after.push_back(&deck_maker::write_shells);
         random_.shuffle(after);
 
         write_head();
@@ -380,7 +372,7 @@ private:
         if (random_.one_in(3)) {
             out_.line("ISOTROPIC BRICK");
         } else {
-            // the first line that is no DENSITY line gives the density: what stands behind its seventh column
+            // the first line that is no DENSITY line gives the density: what stands after its seventh column
             const decimal density = random_decimal(random_, 0, 30);
             model_.concrete_density = density.value();
             out_.line(random_.any_of({"ISOTROPIC CONCRETE", "  ISOTROPIC CONCRETE C30"}));
@@ -402,13 +394,8 @@ private:
             std::vector<unsigned>& ids = target[description];
             for (const int number : list.ids())
                 ids.push_back(static_cast<unsigned>(number));
-            words line_words = list.words;
-            for (std::size_t at = 0; at < description.size();) {
-                const std::size_t end = std::min(description.find(' ', at), description.size());
-                line_words.push_back(description.substr(at, end - at));
-                at = end + 1;
-            }
-            out_.words(line_words);
+            std::istringstream text(description);
+            out_.words(together(list.words, {std::istream_iterator<std::string>(text), {}}));
         }
     }
 
@@ -470,7 +457,7 @@ private:
         const int property_blocks = random_.between(0, 2);
         for (int count = property_blocks; count > 0; --count)
             write_properties();
-        // without CONSTANTS the property lines run on to the end of the file, past nothing that looks like one
+        // without CONSTANTS the property lines run on to the end of the file, over nothing that looks like one
         if (random_.one_in(2))
             out_.line("CONSTANTS");
         for (int line = random_.between(0, 4); line > 0; --line)
@@ -559,7 +546,7 @@ private:
         if (random_.one_in(2)) {
             out_.line("LOAD COMB 77 ALL OF THEM TOGETHER");
             out_.line("MEMBER LOAD");
-            out_.line("1 UNI GY -1"); // behind the first combination nothing is read
+            out_.line("1 UNI GY -1"); // after the first combination nothing is read
         } else if (cases > 0 && random_.one_in(2)) {
             out_.line(std::to_string(member_ids_.front()) + " UNI GY -1"); // nor is the last line of a file
             return;
@@ -639,7 +626,7 @@ private:
         const bool on_joints = load_block_ == "JOINT LOAD";
         const id_list list = random_list(random_, on_joints ? joint_ids_ : member_ids_, list_kind::general);
         if (random_.one_in(12)) {
-            out_.words(together(list.words, {"FY"})); // one word behind the list: nothing is stored
+            out_.words(together(list.words, {"FY"})); // one word after the list: nothing is stored
             return;
         }
         if (random_.one_in(12)) {

@@ -10,7 +10,7 @@
 
 namespace STAAD::decks {
 
-/// A load definition: the words behind its list, and what they mean.
+/// A load definition: the words after its list, and what they mean.
 struct written_load {
     std::vector<std::string> words;
     std::string kind;

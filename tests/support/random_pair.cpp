@@ -39,14 +39,8 @@ double chain(chance& random, double step)
 double border(chance& random, double)
 {
     const double line = random.any_of<double>({0.05, 0.1, 0.125, 0.2, 0.25, 0.5, 1}) * random.between(-4, 8);
-    switch (random.between(0, 5)) {
-    case 0:
-        return std::nextafter(line, limits::infinity());
-    case 1:
-        return std::nextafter(line, -limits::infinity());
-    default:
-        return line;
-    }
+    const double beside = random.any_of<double>({limits::infinity(), -limits::infinity()});
+    return random.one_in(3) ? std::nextafter(line, beside) : line;
 }
 
 /// Where doubles lie about as far apart as the tolerance, or much farther, or are no places at all.
@@ -74,30 +68,17 @@ struct axes {
     coordinate across;
 };
 
-axes axes_of(place_kind kind)
-{
-    switch (kind) {
-    case place_kind::building:
-        return {building, building};
-    case place_kind::clusters_in_line:
-        return {cluster, building};
-    case place_kind::clusters:
-        return {cluster, cluster};
-    case place_kind::chains:
-        return {chain, building};
-    case place_kind::crossing_chains:
-        return {chain, chain};
-    case place_kind::borders_in_line:
-        return {border, building};
-    case place_kind::borders:
-        return {border, border};
-    case place_kind::far_out_in_line:
-        return {far_out, building};
-    case place_kind::far_out:
-        break;
-    }
-    return {far_out, far_out};
-}
+constexpr axes axes_of_kind[] = {
+    {building, building}, // building
+    {cluster, building},  // clusters_in_line
+    {cluster, cluster},   // clusters
+    {chain, building},    // chains
+    {chain, chain},       // crossing_chains
+    {border, building},   // borders_in_line
+    {border, border},     // borders
+    {far_out, building},  // far_out_in_line
+    {far_out, far_out},   // far_out
+};
 
 /// Where the joints of a pair of models may be.
 struct places {
@@ -131,16 +112,7 @@ placed::point random_place(chance& random, const places& where)
     place.x = where.of.along(random, where.step);
     place.y = where.of.across(random, where.step);
     place.z = where.of.across(random, where.step);
-    switch (random.between(0, 2)) {
-    case 0:
-        std::swap(place.x, place.y);
-        break;
-    case 1:
-        std::swap(place.x, place.z);
-        break;
-    default:
-        break;
-    }
+    std::swap(place.x, *random.any_of({&place.y, &place.z, &place.x}));
     return place;
 }
 
@@ -239,7 +211,8 @@ SdReader rearranged(chance& random, const SdReader& model)
 model_pair make_random_pair(std::uint64_t seed, place_kind kind, int joints)
 {
     chance random(seed);
-    const places where{axes_of(kind), random.any_of<double>({0.04, 0.05, 0.06, 0.0625, 0.075, 0.09, 0.099})};
+    const places where{axes_of_kind[static_cast<std::size_t>(kind)],
+                       random.any_of<double>({0.04, 0.05, 0.06, 0.0625, 0.075, 0.09, 0.099})};
     model_pair made;
     made.now = random_model(random, where, joints);
     made.earlier = random.one_in(3) ? random_model(random, where, joints) : rearranged(random, made.now);

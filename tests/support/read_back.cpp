@@ -1,5 +1,8 @@
 #include "tests/support/read_back.h"
 
+#include "staad/text/words.h"
+#include "tests/support/placed_models.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -47,13 +50,9 @@ void read_joints(const SdReader& from, SdReader& to)
 {
     const auto rounded = [](double length) { return printed("%g", length / mm_per_metre) * mm_per_metre; };
     for (const SdNode& joint : from.nodes) {
-        SdNode back;
-        back.id = position(to.nodes.size());
-        back.x = rounded(joint.x);
-        back.y = rounded(joint.y);
-        back.z = rounded(joint.z);
-        to.node_index[back.id] = back.id;
-        to.nodes.push_back(back);
+        const int number = position(to.nodes.size());
+        to.node_index[number] = number;
+        to.nodes.push_back(placed::joint(number, {rounded(joint.x), rounded(joint.y), rounded(joint.z)}));
     }
 }
 
@@ -69,10 +68,8 @@ int reference(int joint, SdReader& to)
 void read_members(const SdReader& from, SdReader& to)
 {
     for (const SdBeam& member : from.beams) {
-        SdBeam back;
-        back.id = position(to.beams.size());
-        back.node_start = reference(member.node_start, to);
-        back.node_end = reference(member.node_end, to);
+        const int number = position(to.beams.size());
+        SdBeam back = placed::member(number, reference(member.node_start, to), reference(member.node_end, to));
         if (std::fabs(member.beta) >= 0.001)
             back.beta = printed("%g", member.beta);
         to.beam_index[back.id] = back.id;
@@ -85,8 +82,7 @@ void read_members(const SdReader& from, SdReader& to)
 void read_shells(const SdReader& from, SdReader& to)
 {
     for (const SdShell& shell : from.shells) {
-        SdShell back;
-        back.id = position(from.beams.size() + to.shells.size());
+        SdShell back = placed::shell(position(from.beams.size() + to.shells.size()), {});
         for (const int joint : shell.node_ids)
             back.node_ids.push_back(reference(joint, to));
         back.thickness = static_cast<int>(std::trunc(printed("%g", shell.thickness / mm_per_metre) * mm_per_metre));
@@ -185,14 +181,6 @@ read_section section_of(const std::string& text)
     return {};
 }
 
-std::size_t words_in(const std::string& text)
-{
-    std::size_t count = 0;
-    for (std::size_t i = 0; i < text.size(); ++i)
-        count += text[i] != ' ' && (i == 0 || text[i - 1] == ' ') ? 1U : 0U;
-    return count;
-}
-
 /// The members that a property line names: the last three words of the line are never taken for members, so
 /// that before a text of one word the list loses two words. A TO whose bound is lost ends it.
 std::vector<int> named_members(const std::vector<int>& members, std::size_t words_of_text)
@@ -248,7 +236,7 @@ void read_sections(const SdReader& from, SdReader& to)
         const read_section section = section_of(key.second);
         if (!section.is_read)
             continue;
-        for (const int number : named_members(numbers, words_in(key.second))) {
+        for (const int number : named_members(numbers, SplitString(key.second, " ").size())) {
             SdBeam& member = to.beams[static_cast<std::size_t>(number - 1)];
             member.material = "STEEL";
             member.sect_country = key.first;
@@ -282,11 +270,8 @@ constexpr std::size_t member_load_words = 12; ///< characters of "MEMBER LOAD "
 std::string load_text(const LoadDefination& load)
 {
     std::string text = load.kind.substr(member_load_words) + ' ' + load.direction;
-    for (const double value : load.values) {
-        char number[512];
-        std::snprintf(number, sizeof number, " %f", value);
-        text += number;
-    }
+    for (const double value : load.values)
+        text += ' ' + std::to_string(value);
     return text;
 }
 

@@ -1,4 +1,4 @@
-/// A desktop that writes down what it is asked and answers as it was told to.
+/// A desktop that writes down what it is asked and gives the answers that the test has set.
 #ifndef STAAD_TESTS_SUPPORT_SCRIPTED_SERVICES_H
 #define STAAD_TESTS_SUPPORT_SCRIPTED_SERVICES_H
 

@@ -14,8 +14,8 @@ namespace STAAD::detail {
 struct sd_reader_access {
     static line_list get_all_lines_from_file(SdReader& model, const char* path, const std::string& skip_prefix)
     {
-        reading run(nullptr);
-        return model.get_all_lines_from_file(path, skip_prefix, run);
+        reading context(nullptr);
+        return model.get_all_lines_from_file(path, skip_prefix, context);
     }
     static std::vector<unsigned> extract_id_from_items(SdReader& model, const std::vector<std::string>& tokens,
                                                        unsigned start)

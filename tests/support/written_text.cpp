@@ -1,6 +1,7 @@
 #include "tests/support/written_text.h"
 
 #include "staad/writer/normalised_text.h"
+#include "tests/support/placed_models.h"
 
 #include <gtest/gtest.h>
 
@@ -122,38 +123,19 @@ std::vector<std::string> lines_of(const std::string& text)
 SdReader row_of_members(int members)
 {
     SdReader model;
-    for (int number = 1; number <= members + 1; ++number) {
-        SdNode joint;
-        joint.id = number;
-        joint.y = 1000.0 * (number - 1);
-        model.nodes.push_back(joint);
-    }
-    for (int number = 1; number <= members; ++number) {
-        SdBeam member;
-        member.id = number;
-        member.node_start = number;
-        member.node_end = number + 1;
-        member.material = one_material;
-        model.beams.push_back(member);
-    }
+    for (int number = 1; number <= members + 1; ++number)
+        model.nodes.push_back(placed::joint(number, {0, 1000.0 * (number - 1), 0}));
+    for (int number = 1; number <= members; ++number)
+        model.beams.emplace_back(placed::member(number, number, number + 1)).material = one_material;
     return model;
 }
 
 SdShell shell(int thickness)
 {
-    SdShell element;
-    element.node_ids = {1, 2, 3};
+    SdShell element = placed::shell(0, {1, 2, 3});
     element.thickness = thickness;
     element.material = one_material;
     return element;
-}
-
-std::vector<int> every_second(int first, int count)
-{
-    std::vector<int> numbers;
-    for (int i = 0; i < count; ++i)
-        numbers.push_back(first + 2 * i);
-    return numbers;
 }
 
 void add_case(SdReader& model, int number, const std::string& type)

@@ -43,9 +43,6 @@ SdReader row_of_members(int members);
 /// A shell of `thickness` mm with the corners 1, 2 and 3.
 SdShell shell(int thickness);
 
-/// The numbers first, first + 2, first + 4, ..., `count` of them: a range each.
-std::vector<int> every_second(int first, int count);
-
 /// Adds a load case with a title, which is not written.
 void add_case(SdReader& model, int number, const std::string& type = "Dead");
 

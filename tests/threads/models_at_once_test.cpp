@@ -2,10 +2,10 @@
 /// ThreadSanitizer these tests also fail on anything that the threads share without a lock.
 
 #include "tests/support/example_files.h"
+#include "tests/support/host_models.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/random_deck.h"
 #include "tests/support/temporary_file.h"
-#include "tests/threads/full_row.h"
 
 #include "staad/report/read_report.h"
 #include "staad/storeys/layered_project.h"
@@ -62,57 +62,23 @@ std::string written_file(SdReader model)
     return model.WriteDataToFile(file.path(), error) ? file.content() : error.message();
 }
 
-/// Two models whose texts differ in load numbers, running load number and lists.
-struct two_rows {
-    SdReader small = make_full_row(150, 3);
-    SdReader large = make_full_row(400, 21);
-};
+/// Two models with everything that is written, whose texts differ in load numbers, running load number and lists.
+const SdReader small = host_models::every_block();
+const SdReader large = host_models::tower();
 
-TEST(TwoModels, RowsHaveEveryBlock)
+TEST(TwoModels, AreWrittenAtOnceAsOneAfterTheOther)
 {
-    const two_rows rows;
-    const std::string small = written_text(rows.small);
-    const std::string large = written_text(rows.large);
-    for (const std::string& text : {small, large}) {
-        for (const char* line : {"TABLE 2", "START GROUP DEFINITION", "ELEMENT PROPERTY", "MEMBER TRUSS ",
-                                 "MEMBER PROPERTY SJIJOIST", "CONSTANTS", "SUPPORTS", "MEMBER RELEASE", "MEMBER LOAD",
-                                 "DEFINE WIND LOAD", "SPECTRUM CQC X", "SPECTRUM CQC Y", "SPECTRUM CQC Z"})
-            EXPECT_NE(text.find('\n' + std::string(line) + '\n'), std::string::npos) << line;
-    }
-    // The generated cases take the numbers 4 and 5 past the last one: 6 and 24.
-    EXPECT_NE(small.find("\nLOAD 10 WL AUTO WIND LOAD\n"), std::string::npos);
-    EXPECT_NE(small.find("\nLOAD 11 EX AUTO RESPONSE SPECTRUM\n"), std::string::npos);
-    EXPECT_NE(large.find("\nLOAD 28 WL AUTO WIND LOAD\n"), std::string::npos);
-    EXPECT_NE(large.find("\nLOAD 29 EX AUTO RESPONSE SPECTRUM\n"), std::string::npos);
-    EXPECT_NE(small.find("\n*{ 0.2500 * LOAD 3\n"), std::string::npos);
-    EXPECT_NE(large.find("\n*{ 0.2500 * LOAD 21\n"), std::string::npos);
-}
-
-TEST(TwoModels, WriteTheSameTextsAtOnceAsOneAfterTheOther)
-{
-    const two_rows rows;
-    const std::string small = written_text(rows.small);
-    const std::string large = written_text(rows.large);
-    for (int round = 0; round < rounds; ++round) {
-        std::string small_at_once;
-        std::string large_at_once;
-        at_once([&] { small_at_once = written_text(rows.small); }, [&] { large_at_once = written_text(rows.large); });
-        EXPECT_EQ(small_at_once, small);
-        EXPECT_EQ(large_at_once, large);
-    }
-}
-
-TEST(TwoModels, WriteTheSameFilesAtOnceAsOneAfterTheOther)
-{
-    const two_rows rows;
-    const std::string small = written_file(rows.small);
-    const std::string large = written_file(rows.large);
-    for (int round = 0; round < rounds; ++round) {
-        std::string small_at_once;
-        std::string large_at_once;
-        at_once([&] { small_at_once = written_file(rows.small); }, [&] { large_at_once = written_file(rows.large); });
-        EXPECT_EQ(small_at_once, small);
-        EXPECT_EQ(large_at_once, large);
+    for (const auto write : {written_text, written_file}) {
+        const std::string small_alone = write(small);
+        const std::string large_alone = write(large);
+        EXPECT_NE(small_alone, large_alone);
+        for (int round = 0; round < rounds; ++round) {
+            std::string small_at_once;
+            std::string large_at_once;
+            at_once([&] { small_at_once = write(small); }, [&] { large_at_once = write(large); });
+            EXPECT_EQ(small_at_once, small_alone);
+            EXPECT_EQ(large_at_once, large_alone);
+        }
     }
 }
 
@@ -158,50 +124,25 @@ void expect_reading(const reading_result& result, const decks::random_deck& deck
 constexpr std::uint64_t decks_of_a_test = 20; // with every block in one or another of them
 constexpr int members_of_a_deck = 120;
 
-/// Two decks at a time by `read`.
-template<class Read>
-void expect_same_at_once(Read read)
-{
-    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
-        const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
-        const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
-        reading_result first_read;
-        reading_result second_read;
-        at_once([&] { first_read = read(first.text); }, [&] { second_read = read(second.text); });
-        expect_reading(first_read, first, seed);
-        expect_reading(second_read, second, seed + 100);
-    }
-}
-
 TEST(TwoModels, AreReadAtOnceAsOneAfterTheOther)
 {
-    expect_same_at_once(read_text);
-}
-
-TEST(TwoModels, AreReadFromFilesAtOnceAsOneAfterTheOther)
-{
-    expect_same_at_once(read_file);
-}
-
-TEST(TwoModels, OneIsReadWhileTheOtherIsWritten)
-{
-    const SdReader row = make_full_row(400, 21);
-    const std::string text = written_text(row);
-    for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
-        const decks::random_deck deck = decks::make_random_deck(seed, members_of_a_deck);
-        std::string written;
-        reading_result result;
-        at_once([&] { written = written_text(row); }, [&] { result = read_text(deck.text); });
-        EXPECT_EQ(written, text);
-        expect_reading(result, deck, seed);
+    for (const auto read : {read_text, read_file}) {
+        for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
+            const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
+            const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
+            reading_result first_read;
+            reading_result second_read;
+            at_once([&] { first_read = read(first.text); }, [&] { second_read = read(second.text); });
+            expect_reading(first_read, first, seed);
+            expect_reading(second_read, second, seed + 100);
+        }
     }
 }
 
 TEST(FourModels, TwoAreReadWhileTwoAreWritten)
 {
-    const two_rows rows;
-    const std::string small = written_text(rows.small);
-    const std::string large = written_file(rows.large);
+    const std::string small_alone = written_text(small);
+    const std::string large_alone = written_file(large);
     for (std::uint64_t seed = 1; seed <= decks_of_a_test; ++seed) {
         const decks::random_deck first = decks::make_random_deck(seed, members_of_a_deck);
         const decks::random_deck second = decks::make_random_deck(seed + 100, members_of_a_deck);
@@ -209,12 +150,12 @@ TEST(FourModels, TwoAreReadWhileTwoAreWritten)
         reading_result second_read;
         std::string small_at_once;
         std::string large_at_once;
-        at_once([&] { first_read = read_text(first.text); }, [&] { small_at_once = written_text(rows.small); },
-                [&] { second_read = read_file(second.text); }, [&] { large_at_once = written_file(rows.large); });
+        at_once([&] { first_read = read_text(first.text); }, [&] { small_at_once = written_text(small); },
+                [&] { second_read = read_file(second.text); }, [&] { large_at_once = written_file(large); });
         expect_reading(first_read, first, seed);
         expect_reading(second_read, second, seed + 100);
-        EXPECT_EQ(small_at_once, small);
-        EXPECT_EQ(large_at_once, large);
+        EXPECT_EQ(small_at_once, small_alone);
+        EXPECT_EQ(large_at_once, large_alone);
     }
 }
 

@@ -8,7 +8,7 @@
 namespace pages {
 namespace {
 
-/// The value of an option as the help shows it, without the brackets around one that may be left out.
+/// The value of an option as the help shows it, without the brackets of an optional value.
 std::string placeholder_of(const CLI::Option& option)
 {
     std::string text = option.get_option_text();
@@ -18,7 +18,7 @@ std::string placeholder_of(const CLI::Option& option)
     return text;
 }
 
-/// "wind|seismic" names the only two values there are.
+/// A placeholder such as "wind|seismic" lists all values.
 words choices_in(const std::string& placeholder)
 {
     words choices;
@@ -71,7 +71,7 @@ command_outline outline_of(const CLI::App& app)
         (option->get_positional() ? outline.arguments : outline.options).push_back(outline_of(*option));
     for (const CLI::App* verb : app.get_subcommands({}))
         outline.verbs.push_back(outline_of(*verb));
-    // An argument of that name is one of the verbs.
+    // The argument with this name is one of the verbs.
     for (command_outline& verb : outline.verbs) {
         for (option_outline& argument : verb.arguments) {
             if (argument.names.front() != "VERB")

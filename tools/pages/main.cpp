@@ -1,4 +1,4 @@
-// staadkit_pages FOLDER: writes the manual page and the completions below the folder, as they lie below share/.
+// staadkit_pages FOLDER: writes the manual page and the completions into FOLDER, laid out as in share/.
 
 #include "command_line.h"
 #include "pages.h"

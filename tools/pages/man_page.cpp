@@ -1,4 +1,4 @@
-// The manual page: man(7) macros that every roff since the seventies understands.
+// The manual page, in the classic man(7) macros.
 
 #include "cli/verbs.h"
 #include "pages.h"
@@ -11,7 +11,7 @@
 namespace pages {
 namespace {
 
-/// Text as roff takes it: every hyphen may be copied into a shell, and no line is taken for a request.
+/// Text for roff: hyphens are escaped so that they can be copied into a shell, and no line is a request.
 std::string escaped(std::string_view text)
 {
     std::string result;
@@ -36,7 +36,7 @@ std::string italic(std::string_view text)
     return "\\fI" + escaped(text) + "\\fR";
 }
 
-/// A term, and indented below it what it means.
+/// A term, and its meaning indented below it.
 std::string item(const std::string& term, std::string_view meaning)
 {
     return ".TP\n" + term + '\n' + escaped(meaning) + '\n';
@@ -92,7 +92,7 @@ std::string verb_part(const command_outline& app, const command_outline& verb)
     return text + option_items(verb);
 }
 
-/// "name - what it is", in the form that whatis(1) and apropos(1) index.
+/// "name - description", the form that whatis(1) and apropos(1) index.
 std::string name_line(const command_outline& app)
 {
     std::string what = app.help.substr(0, app.help.find_last_not_of('.') + 1);
@@ -109,7 +109,7 @@ std::string man_page(const command_outline& app)
                        ".TH STAADKIT 1 \"\" \"staadkit " STAADKIT_VERSION "\" \"User Commands\"\n";
     text += ".SH NAME\n" + name_line(app) + ".SH SYNOPSIS\n" + synopsis(app);
     text += ".SH DESCRIPTION\n"
-            "Models are shown in mm, kN and kN*mm, z up, whatever the units of the file.\n"
+            "Models are shown in mm, kN and kN*mm, z up, in whatever units the file is.\n"
             ".PP\n"
             "Results go to standard output, messages to standard error.\n";
     text += ".SH OPTIONS\n" + option_items(app) + ".SH VERBS\n";

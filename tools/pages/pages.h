@@ -1,4 +1,4 @@
-/// The files under share/ that packages put beside the tool, made from its command line as data.
+/// The files under share/ that are installed with the tool, made from a description of its command line.
 #ifndef TOOLS_PAGES_PAGES_H
 #define TOOLS_PAGES_PAGES_H
 
@@ -16,18 +16,18 @@ using words = std::vector<std::string>;
 
 /// The value of an option, or an argument, as the help names it: FILE, N, "wind|seismic".
 enum class value_kind {
-    none,   ///< of an option that takes no value
+    none,   ///< an option without a value
     word,   ///< one of a few
-    number, ///< N in the help, or LIST, of several
+    number, ///< N in the help, or LIST for several
     file
 };
 
 struct option_outline {
-    words names; ///< with their dashes, short ones first; of an argument its only name
+    words names; ///< with their dashes, short ones first; an argument has one name only
     value_kind kind = value_kind::none;
     bool value_may_lack = false;
     bool repeats = false;
-    std::string placeholder; ///< what stands for the value in the help
+    std::string placeholder; ///< the word for the value in the help
     words choices;           ///< all that the value can be, of kind word
     std::string help;
 };
@@ -40,13 +40,13 @@ struct command_outline {
     std::vector<command_outline> verbs;
 };
 
-/// What `app` has been set up to understand, in the order of its help.
+/// The verbs and options of `app`, in the order of its help.
 command_outline outline_of(const CLI::App& app);
 
 words verb_names(const command_outline& app);
 words option_names(const command_outline& command);
 
-/// The words in one line with `between` between them.
+/// The words joined by `between`.
 std::string joined(const words& list, std::string_view between = " ");
 
 /// The manual page, for section 1.

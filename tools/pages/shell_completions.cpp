@@ -1,4 +1,4 @@
-// Completions: what the shells offer after "staadkit". Each shell completes the names of files itself.
+// Completions: what the shells offer after "staadkit". Shells complete names of files by themselves.
 
 #include "pages.h"
 
@@ -10,7 +10,7 @@
 namespace pages {
 namespace {
 
-/// The text with a backslash before each character that is one of `special`.
+/// The text with a backslash before each of the `special` characters.
 std::string escaped(std::string_view text, std::string_view special)
 {
     std::string result;
@@ -33,7 +33,7 @@ std::string in_quotes(std::string_view text)
 
 // ---- bash ----
 
-/// What is offered as the value of the options of a verb; of no verb, of those before it.
+/// The values offered for the options of a verb; with an empty `verb` for options before the verb.
 std::string bash_values(const command_outline& command, const std::string& verb)
 {
     std::string cases;
@@ -41,7 +41,7 @@ std::string bash_values(const command_outline& command, const std::string& verb)
         std::string head = "    ";
         for (const std::string& name : option.names)
             head.append(&name == &option.names.front() ? "" : " | ").append(verb).append(":").append(name);
-        // Files are what readline offers where nothing is offered here.
+        // Where nothing is offered here, readline offers files.
         if (option.kind == value_kind::word)
             cases += head + ") words='" + joined(option.choices) + "' ;;\n";
         else if (option.kind == value_kind::number)
@@ -57,7 +57,7 @@ std::string bash_case(const std::string& pattern, const words& offered)
     return "        " + pattern + ") words='" + joined(offered) + "' ;;\n";
 }
 
-/// The names of the options of a verb, and the words that its arguments can be.
+/// The names of a verb's options, and the words possible as its arguments.
 std::string bash_words(const command_outline& verb)
 {
     std::string cases = bash_case(verb.name + ":-*", option_names(verb));
@@ -70,7 +70,7 @@ std::string bash_words(const command_outline& verb)
 
 // ---- zsh ----
 
-/// What zsh is to offer for a value, after its name.
+/// What zsh offers for a value, after the option's name.
 std::string zsh_value(const option_outline& option)
 {
     switch (option.kind) {
@@ -86,7 +86,7 @@ std::string zsh_value(const option_outline& option)
     return (option.value_may_lack ? "::" : ":") + option.placeholder + ":_files";
 }
 
-/// A value may follow a long name after "=", too.
+/// After a long name the value may also follow "=".
 std::string zsh_name(const option_outline& option, const std::string& name)
 {
     const bool takes_value = option.kind != value_kind::none && !option.value_may_lack;
@@ -143,7 +143,7 @@ std::string fish_value(const option_outline& option)
     return option.value_may_lack ? "" : " -r -F";
 }
 
-/// The lines of the options of a command, and of the words that its arguments can be.
+/// The lines of a command's options, and of the words possible as its arguments.
 std::string fish_options(const command_outline& command, const std::string& condition)
 {
     const std::string head = "complete -c staadkit -n " + fish_quoted(condition);
@@ -163,7 +163,8 @@ std::string fish_options(const command_outline& command, const std::string& cond
 
 } // namespace
 
-// The first word that is a verb is the verb: options before it may have values. "--option=value" comes as three words.
+// The first word that is a verb's name is the verb: options before it may have values. bash splits
+// "--option=value" into three words.
 std::string bash_completion(const command_outline& app)
 {
     const words verbs = verb_names(app);

@@ -24,11 +24,11 @@ verb_action set_up_help(CLI::App& command)
 }
 
 constexpr verb verbs[] = {
-    {"info", "Show what files hold: joints, members, storeys, sections, supports, loads", set_up_info},
+    {"info", "Show the contents of files: joints, members, storeys, sections, supports, loads", set_up_info},
     {"dump", "Print every field of a model as JSON, numbers exact to the last bit", set_up_dump},
     {"convert", "Write a model as normalised .std, with generated wind and seismic loads", set_up_convert},
     {"forces", "Show the internal forces of members that the analysis printed", set_up_forces},
-    {"storeys", "Show what stands in which storey: joints, members, shells, sections", set_up_storeys},
+    {"storeys", "Show the contents of each storey: joints, members, shells, sections", set_up_storeys},
     {"compare", "Show how a model differs from an earlier one, and take definitions over from it", set_up_compare},
     {help_verb, "Print this help, or that of a verb", set_up_help},
 };
@@ -46,7 +46,7 @@ constexpr struct {
     color_choice choice;
 } color_words[] = {{"auto", color_choice::automatic}, {"never", color_choice::never}, {"always", color_choice::always}};
 
-/// Sets display().color; why it cannot, or nothing.
+/// Sets display().color; returns an error message, empty if there is none.
 std::string choose_color(const std::string& word)
 {
     for (const auto& each : color_words) {
@@ -58,7 +58,7 @@ std::string choose_color(const std::string& word)
     return '\'' + word + "' is none of auto, never and always";
 }
 
-/// What every verb understands; it may also stand before the verb.
+/// The options of every verb; they may also stand before the verb.
 void add_display_options(CLI::App& command)
 {
     command.add_option("--color", "Show colours; auto, the default: on a terminal, unless NO_COLOR is set")
@@ -82,14 +82,14 @@ std::vector<std::string> verb_names()
 
 void set_up_command_line(CLI::App& app, verb_action& action)
 {
-    app.name("staadkit")->description("Reads STAAD .std files, shows what they hold and writes them anew.");
+    app.name("staadkit")->description("Reads STAAD .std files, shows their contents and converts them.");
     app.set_version_flag("--version", "staadkit " STAADKIT_VERSION, "Print the version and exit");
     app.set_help_flag("-h,--help", "Print this help and exit");
     add_display_options(app);
     app.require_subcommand(1);
     app.allow_windows_style_options(false); // "/" begins a path
     app.footer("Results go to standard output, messages to standard error.\n"
-               "staadkit help VERB says more about a verb.\n\n" +
+               "staadkit help VERB explains a verb.\n\n" +
                exit_code_help());
     app.get_formatter()->label("SUBCOMMAND", "VERB");
     app.get_formatter()->label("Positionals", "Arguments");

@@ -1,4 +1,4 @@
-// staadkit: shows what .std files hold, and writes them anew.
+// staadkit: shows the contents of .std files, and converts them.
 
 #include "cli/messages.h"
 #include "cli/suggest.h"
@@ -24,7 +24,7 @@
 namespace tool {
 namespace {
 
-/// What was wrong, the word that may have been meant, and where to find help: with `command`.
+/// Prints what is wrong, the word probably meant, and where to find help: with `command`.
 exit_code refuse(const CLI::App& command, const std::string& message, const std::string& nearest = {})
 {
     const std::string meant = nearest.empty() ? "" : fmt::format("; did you mean '{}'?", nearest);
@@ -39,7 +39,7 @@ bool takes_value(const CLI::App& app, const std::string& word)
     return option != nullptr && option->get_items_expected_min() > 0;
 }
 
-/// The first word that is no option, nor the value of one, must be a verb; after "help" the next one as well.
+/// The first word that is neither an option nor its value must be a verb; after "help" so must the next one.
 const std::string* unknown_verb(const CLI::App& app, const std::vector<std::string>& arguments)
 {
     const std::vector<std::string> verbs = verb_names();
@@ -104,7 +104,7 @@ exit_code run(int argc, const char* const* argv)
 } // namespace
 } // namespace tool
 
-/// A limit on the size of files is to show as a failed write, not to end the process halfway.
+/// A limit on the size of files must show as a failed write, not end the process halfway.
 static void ignore_size_signal()
 {
 #ifdef SIGXFSZ
@@ -113,7 +113,7 @@ static void ignore_size_signal()
 }
 
 #ifdef _WIN32
-/// Shows UTF-8, which all output is in, on the console for as long as it lives.
+/// Makes the console show UTF-8, in which all output is, for as long as it lives.
 class utf8_console {
 public:
     utf8_console() : before_(GetConsoleOutputCP()) { SetConsoleOutputCP(CP_UTF8); }
@@ -126,7 +126,7 @@ private:
 };
 #endif
 
-// What is left to throw here is a message that memory does not suffice for: the run ends all the same.
+// Only a message for which there is no memory can throw here, and the process ends anyway.
 int main(int argc, char** argv) // NOLINT(bugprone-exception-escape)
 {
     ignore_size_signal();

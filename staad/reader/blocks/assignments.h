@@ -1,5 +1,4 @@
-/// Lists of numbers that give a value to records: kept as ranges while a block is read, handed out at its
-/// end.
+/// Lists of numbers that give a value to records: kept as ranges while a block is read, assigned at its end.
 #ifndef STAAD_READER_BLOCKS_ASSIGNMENTS_H
 #define STAAD_READER_BLOCKS_ASSIGNMENTS_H
 
@@ -16,8 +15,8 @@
 
 namespace STAAD::detail {
 
-/// Lists as they were read, each under a value. One int for a number that stands alone, two for a range: lists make up
-/// most of a large deck.
+/// Lists as they were read, each with a value. One int for a number that stands alone, two for a range: lists
+/// make up most of a large deck.
 class listed_values {
 public:
     void add(int value, const id_range& range)
@@ -78,14 +77,14 @@ private:
     std::vector<int> words_; // a number alone as it is, a range as -first and last
 };
 
-/// Gathers "value v to the records of this range" and hands the values out from the last line to the
-/// first, passing over what has one already. Every record is visited once, so that thousands of lines
-/// that each name all members cost no more than their text.
+/// Gathers "value v to the records of this range" and assigns the values from the last line to the first,
+/// skipping records that have one already. Every record is visited once, so that thousands of lines that each
+/// name all members cost no more than their text.
 class last_assignments {
 public:
     explicit last_assignments(const number_lookup& numbers) : numbers_(numbers) {}
 
-    /// Notes the range if it names any record; false if it names none.
+    /// Keeps the range if it names any record; false if it names none.
     bool add(int value, const id_range& range)
     {
         const bool names_any = numbers_.knows_any_in(range.first, range.last);
@@ -119,7 +118,7 @@ private:
             if (place == no_value)
                 place = value;
         };
-        std::vector<std::uint32_t> next; // for every entry the first one from there on that may lack a value
+        std::vector<std::uint32_t> next; // for every entry the first one, itself or later, that may lack a value
         lists_.for_each_backwards([&](int value, const id_range& range) {
             if (!range.is_range) {
                 give(numbers_.position(range.first), value);
@@ -139,7 +138,7 @@ private:
         return values;
     }
 
-    /// Follows `next` to its end and shortens the way for later calls.
+    /// Follows `next` to its end and shortens the chain for later calls.
     static std::size_t first_free(std::vector<std::uint32_t>& next, std::size_t i) noexcept
     {
         while (next[i] != i) {
@@ -159,7 +158,8 @@ struct list_end {
     std::string_view stopped_at; ///< first word after the list; empty at the end of the line
 };
 
-/// Calls `take(range)` for every range of the list; it returns whether any record has a number of it.
+/// Calls `take(range)` for every range of the list; `take` returns whether any record has a number of the
+/// range.
 template<class Take>
 list_end walk_list(word_cursor list, const id_list_rule& rule, Take take)
 {
@@ -172,8 +172,8 @@ list_end walk_list(word_cursor list, const id_list_rule& rule, Take take)
     return end;
 }
 
-/// Gives `value` to the records that the list names, and calls `miss(number)` for every number that
-/// stands alone and that no record has.
+/// Gives `value` to the records that the list names, and calls `miss(number)` for every single number that no
+/// record has.
 template<class Miss>
 list_end assign_to_list(last_assignments& assignments, int value, word_cursor list, Miss miss)
 {
@@ -185,8 +185,8 @@ list_end assign_to_list(last_assignments& assignments, int value, word_cursor li
     });
 }
 
-/// Reports a list of which no record exists, and one that ended at a word that is no part of such a line.
-/// `what` it was read for: "section", "beta angle".
+/// Reports a list of which no record exists, and one that ended at a word that does not belong to such a line.
+/// `what` names the value: "section", "beta angle".
 inline void check_list_end(std::string_view what, const list_end& end, bool ended_well, const text_line& line,
                            reading& context)
 {

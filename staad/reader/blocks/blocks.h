@@ -13,17 +13,17 @@
 
 namespace STAAD::detail {
 
-/// Joints in model units, `node_index` and the look-up of the reading.
+/// Fills the joints in model units, `node_index` and the joint look-up of the reading.
 void read_joints(SdReader& model, const line_list& lines, line_range block, reading& context);
-/// Members with joint positions, `beam_index` and the look-up of the reading. Gives the first line
-/// after the block, which begins at `begin`.
+/// Fills the members with joint positions, `beam_index` and the member look-up of the reading. Returns the
+/// first line after the block, which begins at `begin`.
 std::size_t read_members(SdReader& model, const line_list& lines, std::size_t begin, reading& context);
-/// Shell elements with joint positions, `shell_index` and the look-up of the reading. Gives the first
-/// line after the block, which begins at `begin`.
+/// Fills the shell elements with joint positions, `shell_index` and the element look-up of the reading. Returns
+/// the first line after the block, which begins at `begin`.
 std::size_t read_elements(SdReader& model, const line_list& lines, std::size_t begin, reading& context);
-/// Thicknesses of the first ELEMENT PROPERTY block from line `from` on.
+/// Reads the thicknesses of the first ELEMENT PROPERTY block from line `from` on.
 void read_thicknesses(SdReader& model, const line_list& lines, std::size_t from, reading& context);
-/// A copy of every surface among the shells, its corners as positions.
+/// Appends a copy of every surface to the shells, its corners as positions.
 void append_surfaces_to_shells(SdReader& model, const reading& context);
 
 /// Reads from the first "MEMBER PROPERTY" line to the "CONSTANTS" line, both looked for from line
@@ -38,7 +38,7 @@ struct property_text {
 
 property_text property_of_line(std::string_view line, double length_factor);
 
-/// Every line of the text that begins with "MATERIAL", wherever it stands.
+/// Reads every line of the text that begins with "MATERIAL", in any block.
 void assign_materials(SdReader& model, const line_list& lines, reading& context);
 
 } // namespace STAAD::detail

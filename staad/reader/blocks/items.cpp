@@ -63,7 +63,7 @@ void check_item(std::string_view item, std::size_t words, int number, const item
     if (words < kind.fewest_words)
         findings.add(FindingCode::item_short, place, [&] {
             return std::string(kind.name) + " " + quote(item) + " has " + std::to_string(words) + " of at least " +
-                   std::to_string(kind.fewest_words) + " words; what is missing counts as 0";
+                   std::to_string(kind.fewest_words) + " words; missing ones count as 0";
         });
     else if (number < 1)
         findings.add(FindingCode::item_number, place, [&] {

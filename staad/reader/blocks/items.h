@@ -14,8 +14,8 @@
 
 namespace STAAD::detail {
 
-// Each sets the fields that the item carries on a fresh record, as the record's constructor does, and
-// gives the number of words, so that the caller can report an item that is too short.
+// Each fills a fresh record from an item, as the record's constructor does, and returns the number of words, so
+// that the caller can report an item that is too short.
 
 std::size_t read_item(std::string_view item, SdNode& node);
 std::size_t read_item(std::string_view item, SdBeam& member);
@@ -37,7 +37,7 @@ inline line_range lines_of_data(const line_list& lines, std::size_t begin)
     return {begin, end};
 }
 
-/// The next item that holds a word at all; false at the end of the line.
+/// The next item that is not blank; false at the end of the line.
 inline bool next_item(word_cursor& items, std::string_view& item) noexcept
 {
     while (items.next(item))
@@ -80,7 +80,7 @@ void read_items(std::vector<Record>& records, const line_list& lines, line_range
     std::size_t count = records.size();
     for (std::size_t i = block.begin; i < block.end; ++i)
         count += is_skipped(lines[i].text) ? 0 : count_items(lines[i].text);
-    records.reserve(count); // exactly: members are large, and doubling would cost a second model
+    records.reserve(count); // exact: members are large, and a list that doubles would take the memory of a second model
 
     for (std::size_t i = block.begin; i < block.end; ++i) {
         context.used.mark(i);

@@ -10,12 +10,12 @@
 namespace STAAD {
 namespace {
 
-/// The words of an upper-cased definition text; words that are not there are empty.
+/// The words of an upper-cased definition text; missing words are empty.
 class definition_words {
 public:
     explicit definition_words(std::string_view text)
     {
-        words_.reserve(8); // as many as most definitions have
+        words_.reserve(8); // most definitions have no more
         detail::word_cursor cursor(text);
         for (std::string_view word; cursor.next(word);)
             words_.push_back(word);
@@ -33,7 +33,7 @@ private:
     std::vector<std::string_view> words_;
 };
 
-/// A direction word in the model's axes: its last letter goes X to Y, Y to Z, Z to X.
+/// A direction word in the model's axes: its last letter X becomes Y, Y becomes Z, Z becomes X.
 std::string turned(std::string_view word)
 {
     std::string direction(word);

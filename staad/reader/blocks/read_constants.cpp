@@ -31,7 +31,7 @@ void for_each_brace_list(std::size_t line_count, TextAt text_at, TakeList take_l
             take_list(++i);
 }
 
-/// Gives the word at which the list ended; empty at the end of the line.
+/// Returns the word at which the list ended; empty at the end of the line.
 std::string_view insert_braces(std::set<int>& braces, std::string_view line, detail::id_budget& budget)
 {
     detail::id_list_walker walker(detail::word_cursor(line), detail::general_id_list);
@@ -41,7 +41,7 @@ std::string_view insert_braces(std::set<int>& braces, std::string_view line, det
 }
 
 /// The material block: the last line that contains its first words, and the last that contains its
-/// closing ones. Both are size() where there is none.
+/// closing ones. Both are size() if there is none.
 struct material_block {
     std::size_t start;
     std::size_t end;
@@ -111,8 +111,8 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& co
     const std::size_t concrete = find_containing(lines, start, end, "ISOTROPIC CONCRETE");
     if (concrete == end)
         return;
-    // The first line that does *not* begin with DENSITY is taken, in most files the one of E. Earlier
-    // projects were converted so, and the density must come out as it did for them.
+    // The first line that does *not* begin with DENSITY is taken, in most files the one of E. Earlier projects
+    // were converted with this value, and hosts need the same one.
     std::size_t chosen = concrete + 1;
     while (chosen < end && detail::starts_with(lines[chosen].text, "DENSITY"))
         ++chosen;
@@ -121,7 +121,7 @@ void SdReader::read_material(const detail::line_list& lines, detail::reading& co
     context.used.mark(concrete);
     context.used.mark(chosen);
     const std::string_view line = lines[chosen].text;
-    constexpr std::size_t keyword_size = 7; // of DENSITY
+    constexpr std::size_t keyword_size = 7; // DENSITY
     concrete_density = line.size() <= keyword_size ? 0.0 : detail::to_real(line.substr(keyword_size));
     context.findings.density_from(lines[chosen].place);
     context.findings.add(FindingCode::density, lines[chosen].place, [&] {

@@ -12,8 +12,8 @@ constexpr item_kind element_item{"element", 4};
 
 constexpr const char* default_shell_material = "C1";
 
-/// Replaces the joint number of the file by the joint's position. A number that the file does not
-/// define enters `node_index` with 0, the position of no joint.
+/// Replaces the joint number of the file by the joint's position. A number that the file does not define gets
+/// 0, the position of no joint, and an entry in `node_index`.
 void resolve_joint(int& joint, SdReader& model, const char* what, int id, line_place place, reading& context)
 {
     const int number = joint;
@@ -24,7 +24,7 @@ void resolve_joint(int& joint, SdReader& model, const char* what, int id, line_p
     report_unknown_joint(what, id, number, place, context);
 }
 
-/// A leading blank does not end the member block, as it does the blocks of shells and thicknesses.
+/// A leading blank does not end the member block; it does end those of shells and thicknesses.
 std::size_t end_of_members(const line_list& lines, std::size_t begin)
 {
     while (begin < lines.size() && (lines[begin].text.front() == ' ' || starts_with_digit_1_to_9(lines[begin].text)))
@@ -32,8 +32,8 @@ std::size_t end_of_members(const line_list& lines, std::size_t begin)
     return begin;
 }
 
-/// "1 TO 3 THICKNESS 0.2": the last two words are the word and the value. Of four corner thicknesses
-/// the last one counts.
+/// "1 TO 3 THICKNESS 0.2": the last two words are the word and the value. Of four corner thicknesses the last
+/// one is taken.
 void note_thickness(last_assignments& elements, SdReader& model, const text_line& line, reading& context)
 {
     const int thickness = truncate_to_int(to_real(last_word(line.text)) * model.length_factor);

@@ -1,4 +1,4 @@
-// START GROUP DEFINITION: named groups; and lists of numbers for themselves.
+// START GROUP DEFINITION: named groups; and the calls that read a list of numbers alone.
 
 #include "staad/model/sd_reader.h"
 #include "staad/reader/findings.h"
@@ -27,7 +27,7 @@ SdGroup group_of_line(const detail::text_line& line, std::string_view kind, deta
     return group;
 }
 
-/// The words of a list that was split before.
+/// A cursor over the words of a list that is already split.
 class word_list_cursor {
 public:
     word_list_cursor(const std::vector<std::string>& words, std::size_t start) : words_(&words), next_(start) {}

@@ -13,8 +13,8 @@
 namespace STAAD {
 namespace {
 
-/// "LOAD 1 LOADTYPE Dead TITLE DL". A header of fewer words, such as "LOAD 1" or "LOAD 1 DEAD LOAD",
-/// names its case in another way.
+/// "LOAD 1 LOADTYPE Dead TITLE DL". A header with fewer words, such as "LOAD 1" or "LOAD 1 DEAD LOAD", has
+/// another form.
 constexpr std::size_t words_of_full_load_header = 6;
 
 void append_word(std::string& text, std::string_view word)
@@ -24,7 +24,7 @@ void append_word(std::string& text, std::string_view word)
     text += word;
 }
 
-/// The one block whose numbers are joints. Every other one, "ELEMENT LOAD" too, lists members.
+/// The only block whose numbers are joints. All others, "ELEMENT LOAD" too, list members.
 constexpr std::string_view joint_load = "JOINT LOAD";
 
 bool is_understood(std::string_view block) noexcept
@@ -33,7 +33,7 @@ bool is_understood(std::string_view block) noexcept
            detail::starts_with(block, "FLOOR LOAD");
 }
 
-/// A short header carries nothing but its number.
+/// A short header gives the number only.
 LoadCase case_of_header(std::string_view line)
 {
     LoadCase header{std::string(line)};
@@ -44,13 +44,13 @@ LoadCase case_of_header(std::string_view line)
     return header;
 }
 
-/// Which record carries which definition, gathered first and handed out at the end: every record's list then
+/// The definitions that each record carries, gathered first and assigned at the end: every record's list then
 /// takes its memory once, and no more than it needs.
 class load_references {
 public:
     explicit load_references(const detail::number_lookup& numbers) : numbers_(numbers) {}
 
-    /// Notes that every record of the list `ranges` carries `definition`. False if there is none.
+    /// Every record of the list `ranges` carries `definition`. False if there is no such record.
     bool add(int definition, const std::vector<detail::id_range>& ranges, detail::id_budget& budget)
     {
         bool found = false;
@@ -65,8 +65,8 @@ public:
         return found;
     }
 
-    /// Appends the definitions to the lists. A pointer per record is all that is touched beside the
-    /// numbers themselves: the records are large, and a deck names each of them many times.
+    /// Appends the definitions to the lists. Walks over a pointer per record instead of the records: these are
+    /// large, and a deck names each of them many times.
     template<class Record>
     void hand_out(std::vector<Record>& records, std::vector<int> Record::*list) const
     {
@@ -96,7 +96,7 @@ private:
     }
 
     const detail::number_lookup& numbers_;
-    std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list where its end carries nothing
+    std::vector<std::uint32_t> counts_; // by position - 1; shorter than the list if the last records carry nothing
     detail::listed_values ranges_;
 };
 
@@ -116,7 +116,7 @@ public:
             context_.used.mark(index);
     }
 
-    /// Once all lines are read: the definitions to the records that carry them.
+    /// Call when all lines are read: assigns the definitions to the records that carry them.
     void hand_out_references()
     {
         joint_references_.hand_out(model_.nodes, &SdNode::extra_ids);
@@ -129,7 +129,7 @@ private:
         return detail::contains(line, ";") || detail::is_comment(line) || detail::last_word(line).empty();
     }
 
-    /// False if the line means nothing here.
+    /// False if the line is none of the section.
     bool read_line_of_section(const detail::text_line& line)
     {
         if (detail::starts_with(line.text, "LOAD"))
@@ -162,7 +162,7 @@ private:
         if (model_.load_cases.count(header.id) != 0)
             context_.findings.add(FindingCode::load_again, line.place, [&] {
                 return "load case " + std::to_string(header.id) + " was there before; " + detail::quote(line.text) +
-                       " takes the place of its header, loads of both stay";
+                       " replaces its header; the loads of both stay";
             });
     }
 
@@ -196,8 +196,8 @@ private:
         attach(member_references_, line);
     }
 
-    /// "1 TO 10 UNI GY -5" under the current block. False if the line is none: no list in front, or a
-    /// single word after it.
+    /// "1 TO 10 UNI GY -5" under the current block. False if the line is no definition: it has no list in
+    /// front, or a single word after it.
     bool read_definition(const detail::text_line& line)
     {
         detail::id_list_walker walker(detail::word_cursor(line.text), detail::general_id_list);
@@ -237,7 +237,7 @@ private:
         return !ranges_.empty();
     }
 
-    /// The last definition goes to the records of the list at hand.
+    /// Gives the last definition to the records of the current list.
     void attach(load_references& references, const detail::text_line& line)
     {
         if (!references.add(counter_, ranges_, context_.budget) && !ranges_.empty())
@@ -251,7 +251,7 @@ private:
     int current_case_ = 1;
     std::string_view block_;               // the last line whose last word is LOAD
     int counter_ = 0;                      // of definitions
-    std::vector<detail::id_range> ranges_; // of the line at hand; kept for its memory
+    std::vector<detail::id_range> ranges_; // of the current line; a member to reuse its memory
 };
 
 } // namespace
@@ -276,8 +276,8 @@ void SdReader::read_load(const detail::line_list& lines, detail::reading& contex
     const std::size_t begin = lines.find_start("LOAD");
     if (begin == lines.size())
         return;
-    // Combinations are not read. Without them the last line of the text, in a whole file FINISH, is
-    // not looked at either.
+    // Reading stops at the combinations. Without them it stops before the last line of the text, which is
+    // FINISH in a complete file.
     const std::size_t end = std::min(lines.find_start("LOAD COMB", begin), lines.size() - 1);
     load_section section(*this, context);
     for (std::size_t i = begin; i < end; ++i)

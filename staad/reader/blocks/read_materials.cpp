@@ -19,7 +19,7 @@ public:
     {
     }
 
-    /// Every record takes the name, whatever came before.
+    /// Gives the name to every record, replacing earlier ones.
     void add_all(std::string_view name, line_place place)
     {
         members_.clear();
@@ -30,7 +30,7 @@ public:
 
     void add_name(std::string_view name, line_place place) { names_.push_back({std::string(name), place}); }
 
-    /// The last name goes to the records of the range; false if there are none.
+    /// Gives the last name to the records of the range; false if there are none.
     bool add(const id_range& ids)
     {
         const int value = static_cast<int>(names_.size()) - 1;
@@ -74,8 +74,8 @@ private:
     std::size_t name_of_all_ = std::string::npos;
 };
 
-/// Words at blanks and hyphens alike, so that a continuation mark inside the list does no harm; a
-/// hyphen in the name shifts the list by a word.
+/// Splits at blanks and at hyphens, so that a continuation mark inside the list is skipped; a hyphen in the
+/// name shifts the list by a word.
 word_cursor list_of_material_line(std::string_view line)
 {
     word_cursor words(line, "- ");
@@ -103,7 +103,7 @@ void assign_materials(SdReader& model, const line_list& lines, reading& context)
         const list_end list = walk_list(list_of_material_line(line), general_id_list, [&](const id_range& ids) {
             const bool found = materials.add(ids);
             if (!found && !ids.is_range)
-                model.shell_index.emplace(ids.first, 0); // a number that nothing has
+                model.shell_index.emplace(ids.first, 0); // a number that no member or element has
             return found;
         });
         check_list_end("material", list, list.stopped_at.empty(), lines[i], context);

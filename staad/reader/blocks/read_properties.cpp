@@ -57,7 +57,7 @@ std::string joined_dimensions(std::string head, std::string_view words, std::siz
     return head;
 }
 
-/// "PRIS YD 0.5 ZD 0.3" in metres is "PRIS500X300". Anything but one to four pairs of name and value
+/// "PRIS YD 0.5 ZD 0.3" in metres is "PRIS500X300". A text of anything but one to four pairs of name and value
 /// stays as written.
 std::string prismatic_text(std::string_view after_keyword, double length_factor)
 {
@@ -67,13 +67,13 @@ std::string prismatic_text(std::string_view after_keyword, double length_factor)
     return joined_dimensions("PRIS", after_keyword, 1, 2, length_factor);
 }
 
-/// The code of a "MEMBER PROPERTY" line: all of what follows the keyword's length, ends trimmed.
+/// The code of a "MEMBER PROPERTY" line: everything after the keyword, ends trimmed.
 std::string_view code_of(std::string_view line) noexcept
 {
     return trim_blanks(from_position(line, property_keyword.size()));
 }
 
-/// The sections of a text and the members they go to.
+/// The sections of a text and the members that they are assigned to.
 class section_assignments {
 public:
     section_assignments(const line_list& lines, double length_factor, reading& context)
@@ -83,7 +83,7 @@ public:
 
     void set_code(std::string_view code) { codes_.emplace_back(code); }
 
-    /// One property line to the members it names.
+    /// Assigns one property line to the members that it names.
     void add_line(std::size_t index)
     {
         const text_line& line = lines_[index];
@@ -119,7 +119,7 @@ public:
 private:
     struct assigned_property {
         property_text property;
-        std::size_t code; ///< its place in codes_
+        std::size_t code; ///< index in codes_
         line_place place;
     };
 

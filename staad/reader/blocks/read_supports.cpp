@@ -14,8 +14,8 @@ using detail::line_range;
 using detail::reading;
 using detail::text_line;
 
-/// The words of a line after its leading numbers and "TO"s. This is a rule of its own: "5 0 FIXED"
-/// lists joint 5 and describes it as "0 FIXED".
+/// The words of a line after its leading numbers and "TO"s: "5 0 FIXED" lists joint 5 and describes it as "0
+/// FIXED".
 detail::word_cursor description_of(std::string_view line)
 {
     detail::word_cursor words(line);
@@ -64,14 +64,14 @@ void check_description(const detail::id_list_walker<>& walker, detail::word_curs
         detail::report_list_word(word, line, context);
 }
 
-/// What the numbers of a block are numbers of.
+/// The records that the numbers of a block belong to.
 struct listed_records {
     FindingCode code;
     const char* name;
     const detail::number_lookup& numbers;
 };
 
-/// Reports numbers that stand alone and that no record has. The lists keep them all the same.
+/// Reports single numbers that no record has. The lists keep them.
 void check_numbers(const listed_records& records, const text_line& line, reading& context)
 {
     if (!context.findings.listening())
@@ -104,15 +104,15 @@ void read_described(std::map<std::string, std::vector<unsigned>>& described, con
     }
 }
 
-/// Words where a number was due ("7 START LOCAL 0.1 0 0" moves the numbers by one place), and numbers
-/// that are not there.
+/// Reports a word where a number should be ("7 START LOCAL 0.1 0 0" moves the numbers by one place), and a
+/// missing number.
 void check_number(std::string_view word, const text_line& line, reading& context)
 {
-    if (!context.findings.listening() || detail::parse_real(word).is_number())
+    if (!context.findings.listening() || parse_real(word).is_number())
         return;
     context.findings.add(FindingCode::number_word, line.place, [&] {
         return detail::quote(line.text) + ": " +
-               (word.empty() ? "a number is missing" : detail::quote(word) + " stands where a number is due") +
+               (word.empty() ? "a number is missing" : detail::quote(word) + " is in the place of a number") +
                " and counts as 0";
     });
 }

@@ -15,12 +15,12 @@
 namespace STAAD {
 namespace {
 
-// A table without a UNIT line gets these. The "00" is what distinguishes it from one that says so itself; no
-// family has such a word, so the look-up answers UnknownSection for it.
+// A table without a UNIT line gets this. The "00" tells it apart from a table with that very line; no family
+// has such a word, so that the look-up returns UnknownSection for it.
 constexpr const char* unit_of_bare_table = "00UNIT METER KN";
 constexpr const char* type_of_bare_table = "00WIDE FLANGE";
 
-/// Reads the UNIT line and the family line after a TABLE line. Gives the last line it took.
+/// Reads the UNIT line and the family line after a TABLE line. Returns the last line it took.
 std::size_t read_table_head(SdUserSectionTable& table, const detail::line_list& lines, std::size_t line,
                             std::size_t end)
 {
@@ -60,7 +60,7 @@ void SdReader::read_user_table(const detail::line_list& lines, detail::reading& 
             number = detail::to_int(detail::word_at(line, 1));
             i = read_table_head(usr_tables[number], lines, i, end);
         } else {
-            // Every line is a name once, dimension lines too: look-ups go by section name.
+            // Every line becomes a name, dimension lines too: look-ups search for the section's name.
             usr_tables[number].AddRecord(std::string(line), std::string(lines.text(i + 1)));
         }
     }

@@ -1,4 +1,4 @@
-/// The Chinese texts of written files: GBK bytes, the meaning beside each.
+/// The Chinese texts of written files: GBK bytes, each with its meaning in English.
 #ifndef STAAD_WRITER_GENERATED_GBK_TEXTS_H
 #define STAAD_WRITER_GENERATED_GBK_TEXTS_H
 
@@ -23,7 +23,7 @@ inline constexpr std::string_view base_period =
     "\xBD\xA8\xD6\xFE\xBD\xE1\xB9\xB9\xBB\xF9\xB1\xBE\xD7\xD4\xD5\xF1\xD6\xDC\xC6\xDA";
 // basic wind pressure
 inline constexpr std::string_view base_pressure = "\xBB\xF9\xB1\xBE\xB7\xE7\xD1\xB9\xD6\xB5";
-// site terrain roughness category; one character is misspelt, and stays so
+// site terrain roughness category; one character is misspelt, and must stay so
 inline constexpr std::string_view terrain_roughness =
     "\xB3\xA1\xB5\xD8\xCD\xC1\xB4\xD6\xD4\xEC\xB6\xC8\xC0\xE0\xB1\xF0";
 // windward width for the four wind directions

@@ -94,7 +94,7 @@ void write_parameters(detail::text_output& out, const SeismicParam& seismic)
     out.put('\n');
 }
 
-/// The member loads of the basic cases, level, as the masses that the earthquake moves.
+/// The member loads of the basic cases, in X and Z: the masses that the earthquake moves.
 void write_equivalent_gravity(detail::text_output& out, const SeismicParam& seismic, const detail::written_loads& loads)
 {
     for (const auto& [load_case, factor] : gravity_cases(seismic)) {
@@ -134,7 +134,7 @@ void write_spectrum(detail::text_output& out, const std::string& title, const st
     }
 }
 
-/// The line feed after X and Z stands there without a spectrum, too; that after Y does not.
+/// The line feed after X and Z is written even without a spectrum; the one after Y is not.
 void write_spectra(detail::text_output& out, const SeismicParam& seismic)
 {
     if (has_spectrum(seismic, seismic.spectrum_title_x, seismic.spectrum_x))

@@ -20,7 +20,7 @@ public:
     id_groups(const id_groups&) = delete; // would share `latest_`
     id_groups& operator=(const id_groups&) = delete;
 
-    /// What stands under `key`, made empty if there is nothing yet.
+    /// The ids of `key`; a new key has none.
     Ids& at(const Key& key)
     {
         // Neighbours in a list mostly share their key.

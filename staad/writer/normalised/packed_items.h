@@ -9,12 +9,12 @@
 
 namespace STAAD::detail {
 
-/// Items of the form "number number ... ;". An item that no line holds gets one of its own.
+/// Items of the form "number number ... ;". An item longer than a line gets a line of its own.
 class packed_items {
 public:
     explicit packed_items(text_output& out) : out_(out), lines_(out, {}) {}
 
-    /// One item of these numbers.
+    /// Adds one item of these numbers.
     template<class... Numbers>
     void add(Numbers... numbers)
     {

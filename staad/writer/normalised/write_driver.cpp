@@ -1,4 +1,4 @@
-/// What writing changes in a model, the order of the blocks, and the places that a written model goes to.
+/// The changes that writing makes to a model, the order of the blocks, and writing to files and texts.
 #include "staad/io/output_file.h"
 #include "staad/text/text_output.h"
 #include "staad/writer/normalised/written_loads.h"
@@ -41,8 +41,8 @@ private:
     static void write_blocks(const SdReader& model, text_output& out);
 };
 
-/// Gives the model what its text will say: numbers, families of user tables, braces. The text does not depend
-/// on it.
+/// Changes the model to what its text will say: numbers, families of user tables, braces. The text itself does
+/// not depend on it.
 void model_writer::take_over_written(SdReader& model)
 {
     model.reset_member_id();

@@ -11,7 +11,7 @@
 namespace STAAD {
 namespace {
 
-/// "UNI GZ -5.000000": the load as its line has it, in the model's direction and units.
+/// "UNI GZ -5.000000": the load as it is written, in the model's direction and units.
 std::string load_text(const LoadDefination& definition)
 {
     std::string text(detail::member_load_word(definition));

@@ -10,7 +10,7 @@
 namespace STAAD {
 namespace {
 
-// The library is the same in every file but for one density. C1 is a concrete without weight.
+// The library is the same in every file except for one density. C1 is a concrete without weight.
 constexpr std::string_view before_concrete_density = "DEFINE MATERIAL START\n"
                                                      "ISOTROPIC STEEL\n"
                                                      "E 1.99947e+008\n"

@@ -18,10 +18,10 @@ std::string_view detail::family_word(int number, const SdUserSectionTable& table
 
 namespace {
 
-/// A key above this gets no empty tables before it: they would make a file of any size.
+/// A key above this gets no empty tables before it: they could make a file of any size.
 constexpr int last_key_with_placeholders = 10000;
 
-/// The word of the block that a member's property stands in. Joist girders have a block of their own.
+/// The word of the block in which a member's property is written. Joist girders have a block of their own.
 std::string_view block_key(const SdBeam& member)
 {
     if (member.sect_country == "AMERICAN" && member.sect_name == "SJIJOIST")
@@ -38,7 +38,7 @@ void SdReader::write_std_usrSectTable(detail::text_output& out) const
     out.line("START USER TABLE");
     int next = 1;
     for (const auto& [key, table] : usr_tables) {
-        // Empty tables keep the numbers without a gap.
+        // Empty tables fill the gaps between the numbers.
         for (; next < key && key <= last_key_with_placeholders; ++next)
             out.line("TABLE ", next);
         out.line("TABLE ", key);

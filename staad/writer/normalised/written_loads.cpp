@@ -11,7 +11,7 @@
 namespace STAAD::detail {
 namespace {
 
-/// Below 0, 0 or above 0, as `left` sorts before, with or after `right`.
+/// Negative, 0 or positive, as `left` sorts before, with or after `right`.
 int compare(double left, double right)
 {
     if (std::isnan(left) || std::isnan(right))
@@ -52,7 +52,8 @@ loaded_members::loaded_members(const SdReader& model, const written_numbers& num
             }
         }
     };
-    // Counted one place on, the sums say where each list starts; filling moves that to where it ends.
+    // Counts are stored one place later, so that their sums are where each list starts; filling moves these to
+    // where it ends.
     for_each_reference([this](std::size_t position, int) { ++ends_[position + 1]; });
     std::partial_sum(ends_.begin(), ends_.end(), ends_.begin());
     ids_.resize(ends_.back());

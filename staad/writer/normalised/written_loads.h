@@ -1,4 +1,4 @@
-/// What the load cases of one written file leave to the wind and seismic blocks after them.
+/// What the wind and seismic blocks of a written file need of the load cases before them.
 #ifndef STAAD_WRITER_NORMALISED_WRITTEN_LOADS_H
 #define STAAD_WRITER_NORMALISED_WRITTEN_LOADS_H
 
@@ -28,8 +28,8 @@ public:
     loaded_members() = default;
     loaded_members(const SdReader& model, const written_numbers& numbers);
 
-    /// Numbers of the members that refer to the definition, in list order; one that refers to it
-    /// twice stands there twice.
+    /// Numbers of the members that refer to the definition, in list order; one that refers to it twice is
+    /// listed twice.
     std::span<const int> of(int definition) const noexcept;
 
 private:
@@ -54,7 +54,7 @@ struct written_loads {
     written_loads(const written_loads&) = delete; // `collected` views `members`
     written_loads& operator=(const written_loads&) = delete;
 
-    /// `last_number` raised by `count`; past the 32-bit limit it goes on from the other one.
+    /// `last_number` raised by `count`; past the 32-bit limit it wraps to the lowest number.
     int next_number(int count) noexcept;
 
     /// Fills `members` and `collected` with the member loads of the model's load cases that act on any

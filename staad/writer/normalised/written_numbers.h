@@ -1,4 +1,4 @@
-/// What a written file calls the members and elements of a model.
+/// The numbers of members and elements in a written file.
 #ifndef STAAD_WRITER_NORMALISED_WRITTEN_NUMBERS_H
 #define STAAD_WRITER_NORMALISED_WRITTEN_NUMBERS_H
 
@@ -9,8 +9,8 @@
 
 namespace STAAD::detail {
 
-/// The numbers follow from the places in the lists of the model, whatever numbers the records have: members
-/// are 1 to M, elements M + 1 and on. Valid as long as these lists are not changed.
+/// Numbers by position in the lists of the model, not by the records' own: members are 1 to M, elements M + 1
+/// and on. Valid as long as these lists are not changed.
 class written_numbers {
 public:
     explicit written_numbers(const SdReader& model) noexcept
@@ -30,10 +30,10 @@ private:
 };
 
 /// Numbers of the members that are written as truss members, ascending: those whose `kind_code`, which the
-/// host sets, is Brace or HorizontalBrace. What a file declared does not count.
+/// host sets, is Brace or HorizontalBrace. The declarations of the file that was read do not matter.
 std::vector<int> brace_numbers(const SdReader& model, const written_numbers& numbers);
 
-/// The family word of the user table `number`: that of the number, its own word past the families.
+/// The family word of the user table `number`: that of the family with this number, else the table's own.
 std::string_view family_word(int number, const SdUserSectionTable& table);
 
 } // namespace STAAD::detail

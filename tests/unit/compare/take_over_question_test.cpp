@@ -44,66 +44,64 @@ SdReader model_with_definitions()
     return model;
 }
 
-/// Whether the comparison with `path` changed anything.
-bool changes(scripted_services& desktop, Answer answer, const char* path)
-{
-    desktop.answer = answer;
-    SdReader model = model_with_definitions();
-    model.compWithOldProj(path);
-    EXPECT_TRUE(desktop.questions.empty());
-    return !model_differences(model, model_with_definitions()).empty();
-}
+class TakeOverQuestion : public testing::Test {
+protected:
+    /// Whether the comparison with `path` changed anything.
+    static bool changes(scripted_services& desktop, Answer answer, const char* path)
+    {
+        desktop.answer = answer;
+        SdReader model = model_with_definitions();
+        model.compWithOldProj(path);
+        EXPECT_TRUE(desktop.questions.empty());
+        return !model_differences(model, model_with_definitions()).empty();
+    }
 
-TEST(TakeOverQuestion, IsAYesNoQuestionWithoutCaptionAndIcon)
+    const temporary_file file_{earlier_deck};
+    scripted_services desktop_;
+};
+
+TEST_F(TakeOverQuestion, IsAYesNoQuestionWithoutCaptionAndIcon)
 {
-    const temporary_file file(earlier_deck);
-    scripted_services desktop;
-    EXPECT_FALSE(changes(desktop, Answer::No, file.path()));
-    ASSERT_EQ(desktop.messages.size(), 1U);
-    const PlatformServices::Message& message = desktop.messages.front();
+    EXPECT_FALSE(changes(desktop_, Answer::No, file_.path()));
+    ASSERT_EQ(desktop_.messages.size(), 1U);
+    const PlatformServices::Message& message = desktop_.messages.front();
     EXPECT_TRUE(message.text == question);
     EXPECT_TRUE(message.caption.empty());
     EXPECT_EQ(message.buttons, PlatformServices::Buttons::YesNo);
     EXPECT_EQ(message.icon, PlatformServices::Icon::None);
-    EXPECT_EQ(desktop.tested_paths, texts{file.path()}) << "the name is passed on as it is";
+    EXPECT_EQ(desktop_.tested_paths, texts{file_.path()}) << "the name is passed on as it is";
 }
 
-TEST(TakeOverQuestion, AnsweredYesDoesWhatTheCallWithoutQuestionDoes)
+TEST_F(TakeOverQuestion, AnsweredYesDoesWhatTheCallWithoutQuestionDoes)
 {
-    const temporary_file file(earlier_deck);
-    scripted_services desktop;
-    desktop.answer = Answer::Yes;
+    desktop_.answer = Answer::Yes;
     SdReader asked = model_with_definitions();
-    asked.compWithOldProj(file.path());
+    asked.compWithOldProj(file_.path());
     SdReader unasked = model_with_definitions();
     unasked.TakeOverFrom(decks::read(earlier_deck));
     EXPECT_EQ(model_differences(asked, unasked), texts());
-    EXPECT_EQ(desktop.messages.size(), 1U) << "the other call asks nothing";
+    EXPECT_EQ(desktop_.messages.size(), 1U) << "the other call asks nothing";
     using by_description = std::map<std::string, std::vector<unsigned>>;
     EXPECT_EQ(asked.supports, (by_description{{"FIXED", {51, 52}}, {"PINNED", {}}}));
-    asked.compWithOldProj(file.path());
-    EXPECT_EQ(desktop.messages.size(), 2U) << "each call asks";
-    EXPECT_EQ(file.content(), earlier_deck) << "the earlier file is only read";
+    asked.compWithOldProj(file_.path());
+    EXPECT_EQ(desktop_.messages.size(), 2U) << "each call asks";
+    EXPECT_EQ(file_.content(), earlier_deck) << "the earlier file is only read";
 }
 
-TEST(TakeOverQuestion, AnsweredWithAnythingButYesChangesNothing)
+TEST_F(TakeOverQuestion, AnsweredWithAnythingButYesChangesNothing)
 {
-    const temporary_file file(earlier_deck);
-    scripted_services desktop;
-    EXPECT_FALSE(changes(desktop, Answer::Ok, file.path()));
-    EXPECT_EQ(desktop.messages.size(), 1U);
+    EXPECT_FALSE(changes(desktop_, Answer::Ok, file_.path()));
+    EXPECT_EQ(desktop_.messages.size(), 1U);
 }
 
-TEST(TakeOverQuestion, IsNotAskedIfTheFileCannotBeReadOrHasNoName)
+TEST_F(TakeOverQuestion, IsNotAskedIfTheFileCannotBeReadOrHasNoName)
 {
-    const temporary_file file(earlier_deck);
-    scripted_services desktop;
-    EXPECT_FALSE(changes(desktop, Answer::Yes, nullptr));
-    EXPECT_TRUE(desktop.tested_paths.empty());
-    desktop.readable = false;
-    EXPECT_FALSE(changes(desktop, Answer::Yes, file.path()));
-    EXPECT_EQ(desktop.tested_paths, texts{file.path()}) << "the services say what can be read";
-    EXPECT_TRUE(desktop.messages.empty());
+    EXPECT_FALSE(changes(desktop_, Answer::Yes, nullptr));
+    EXPECT_TRUE(desktop_.tested_paths.empty());
+    desktop_.readable = false;
+    EXPECT_FALSE(changes(desktop_, Answer::Yes, file_.path()));
+    EXPECT_EQ(desktop_.tested_paths, texts{file_.path()}) << "the services say what can be read";
+    EXPECT_TRUE(desktop_.messages.empty());
 }
 
 /// Scripted answers, and the usual test of files.
@@ -116,17 +114,17 @@ private:
     PlatformServices& usual_;
 };
 
-TEST(TakeOverQuestion, IsNotAskedAboutAMissingFile)
+TEST_F(TakeOverQuestion, IsNotAskedAboutAMissingFile)
 {
-    const temporary_file file(earlier_deck);
+    SetPlatformServices(nullptr); // the usual ones
     real_files desktop(GetPlatformServices());
-    EXPECT_FALSE(changes(desktop, Answer::Yes, (std::string(file.path()) + ".missing").c_str()));
+    EXPECT_FALSE(changes(desktop, Answer::Yes, (std::string(file_.path()) + ".missing").c_str()));
     EXPECT_FALSE(changes(desktop, Answer::Yes, ""));
     EXPECT_TRUE(desktop.messages.empty());
-    EXPECT_TRUE(changes(desktop, Answer::Yes, file.path()));
+    EXPECT_TRUE(changes(desktop, Answer::Yes, file_.path()));
 }
 
-TEST(TakeOverQuestion, AnsweredYesAboutWhatGivesNoModelChangesNothing)
+TEST_F(TakeOverQuestion, AnsweredYesAboutWhatGivesNoModelChangesNothing)
 {
     const temporary_file empty("");
     const temporary_file no_members("UNIT METER KN\nJOINT COORDINATES\n10 0 0 0; 20 0 0 1\nSUPPORTS\n10 FIXED\n");

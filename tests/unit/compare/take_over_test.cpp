@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <map>
 #include <string>
 #include <vector>
@@ -92,18 +93,6 @@ const description_row support_rows[] = {
     {"numbers are no positions and no numbers of this model", {}, {{"FIXED", {1, 2, 51}}}, {{"FIXED", {}}}},
 };
 
-TEST(TakeOver, BringsTheSupportsInThePlaceOfThisModels)
-{
-    for (const description_row& c : support_rows) {
-        SdReader old = take_over_models::earlier();
-        old.supports = c.earlier;
-        SdReader model = take_over_models::now();
-        model.supports = c.own;
-        model.TakeOverFrom(old);
-        EXPECT_EQ(model.supports, c.want) << c.why;
-    }
-}
-
 const description_row release_rows[] = {
     {"none", {}, {}, {}},
     {"this model's stay", {{"START MZ", {203}}}, {}, {{"START MZ", {203}}}},
@@ -121,16 +110,23 @@ const description_row release_rows[] = {
     {"a description stays though all its members are gone", {}, {{"END MZ", {9, 9}}}, {{"END MZ", {}}}},
 };
 
-TEST(TakeOver, AddsTheReleasesToThisModels)
+template<std::size_t Count>
+void expect_taken_over(by_description SdReader::*list, const description_row (&rows)[Count])
 {
-    for (const description_row& c : release_rows) {
+    for (const description_row& c : rows) {
         SdReader old = take_over_models::earlier();
-        old.releases = c.earlier;
+        old.*list = c.earlier;
         SdReader model = take_over_models::now();
-        model.releases = c.own;
+        model.*list = c.own;
         model.TakeOverFrom(old);
-        EXPECT_EQ(model.releases, c.want) << c.why;
+        EXPECT_EQ(model.*list, c.want) << c.why;
     }
+}
+
+TEST(TakeOver, PutsSupportsInThePlaceOfThisModelsAndAddsReleases)
+{
+    expect_taken_over(&SdReader::supports, support_rows);
+    expect_taken_over(&SdReader::releases, release_rows);
 }
 
 TEST(TakeOver, MeansTheFirstOfSeveralRecordsOfANumber)

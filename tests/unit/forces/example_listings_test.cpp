@@ -56,14 +56,12 @@ void expect_point(const ForcePoint& point, const values& want)
         EXPECT_NEAR(got[i], want[i], 1e-8) << "value " << i << " of " << testing::PrintToString(got);
 }
 
-struct printed_case {
+const struct {
     const char* name;
     std::vector<int> members;
     std::vector<std::pair<int, std::vector<int>>> cases; ///< of some members
     std::map<std::string, std::size_t> findings;         ///< all there are, by code
-};
-
-const printed_case printed_cases[] = {
+} printed_cases[] = {
     {"concrete-frame",
      {1, 2, 5, 201, 202, 203, 205, 208, 401, 402},
      {{202, {1, 2, 3, 4, 6, 8, 101}},
@@ -83,7 +81,7 @@ const printed_case printed_cases[] = {
 
 TEST(ExampleListings, HaveTheMembersAndCasesPrinted)
 {
-    for (const printed_case& c : printed_cases) {
+    for (const auto& c : printed_cases) {
         ReadReport report;
         const SdReader model = example(c.name, report);
         EXPECT_EQ(members(model), c.members) << c.name;
@@ -124,6 +122,8 @@ TEST(ExampleListings, HaveTheForcesOfTheConcreteFrame)
     const char* const beam = "24 kN/m, 6 m, fixed ends: 72 kN, -24 x 36 / 12 = -72 and 24 x 36 / 24 = 36 kNm";
     const char* const column = "64 t at the base, 6.25 kN/m of its own weight: the mean of 64000 and 63362 kg";
     const char* const wind = "500 kg of wind, held at the base and 4 m higher up";
+    const char* const parabola = "-42 + 42 x - 7 x2 at 13 stations: the mean of -22.75 and -7";
+    const char* const combination = "1.3 x 24 + 1.05 x 5 = 36.45 kN/m; 1.5 x 6 kN and 1.5 x 18 kNm of wind";
     expect_stations(
         "concrete-frame",
         {
@@ -138,19 +138,9 @@ TEST(ExampleListings, HaveTheForcesOfTheConcreteFrame)
             {wind, 1, 4, printed, 0, {0, 0, 4.9, 0, 0, 0, -11760}},
             {wind, 1, 4, resampled, 1, {500, 0, 4.9, 0, 0, 0, -9310}},
             {wind, 1, 4, resampled, 8, {4000, 0, 4.9, 0, 0, 0, 7840}},
-            {"-42 + 42 x - 7 x2 at 13 stations: the mean of -22.75 and -7",
-             401,
-             1,
-             resampled,
-             1,
-             {750, 0, 31.5, 0, 0, 0, -14875}},
+            {parabola, 401, 1, resampled, 1, {750, 0, 31.5, 0, 0, 0, -14875}},
             {"the same at midspan", 401, 1, resampled, 4, {3000, 0, 0, 0, 0, 0, 21000}},
-            {"1.3 x 24 + 1.05 x 5 = 36.45 kN/m; 1.5 x 6 kN and 1.5 x 18 kNm of wind",
-             201,
-             102,
-             printed,
-             0,
-             {0, 0, 118.35, 0, 4680, 0, -136350}},
+            {combination, 201, 102, printed, 0, {0, 0, 118.35, 0, 4680, 0, -136350}},
         });
 }
 

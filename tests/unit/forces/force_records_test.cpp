@@ -1,6 +1,7 @@
 /// Records of one member put together.
 
 #include "tests/support/force_listing.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
@@ -32,36 +33,36 @@ BeamForceAndMOM forces(int beam, const case_positions& cases)
     return made;
 }
 
-case_positions stations_of(const BeamForceAndMOM& member)
+/// "5: 2 1; 6: 3" for load cases 5 and 6 with stations at 2 and 1 and at 3.
+std::string stations_of(const BeamForceAndMOM& member)
 {
     case_positions found;
     for (const auto& [load_case, kept] : member.records) {
         EXPECT_EQ(kept.load_case, load_case);
+        found[load_case];
         for (const ForcePoint& point : kept.points) {
             EXPECT_EQ(listings::values_of(point), (listings::values{point.position, 1, 2, 3, 4, 5, 6}));
             found[load_case].push_back(point.position);
         }
-        found[load_case];
     }
-    return found;
+    return shown(found);
 }
 
 TEST(AddLoadCaseRecord, StoresANewOneAndAppendsToOneThatIsThere)
 {
-    struct add_case {
+    const struct {
         const char* why;
         case_positions before;
         BeamLoadCaseRecord added;
-        case_positions want;
+        const char* want;
+    } cases[] = {
+        {"a new one, in the order given", {}, record(5, {2, 1}), "5: 2 1"},
+        {"one that is there: appended", {{5, {1}}, {6, {3}}}, record(5, {3, 2, 1}), "5: 1 3 2 1; 6: 3"},
+        {"an empty one is stored", {}, record(0, {}), "0: -"},
+        {"and appended to", {{0, {}}}, record(0, {1}), "0: 1"},
+        {"nothing appended to one", {{0, {1}}}, record(0, {}), "0: 1"},
     };
-    const add_case cases[] = {
-        {"a new one, in the order given", {}, record(5, {2, 1}), {{5, {2, 1}}}},
-        {"one that is there: appended", {{5, {1}}, {6, {3}}}, record(5, {3, 2, 1}), {{5, {1, 3, 2, 1}}, {6, {3}}}},
-        {"an empty one is stored", {}, record(0, {}), {{0, {}}}},
-        {"and appended to", {{0, {}}}, record(0, {1}), {{0, {1}}}},
-        {"nothing appended to one", {{0, {1}}}, record(0, {}), {{0, {1}}}},
-    };
-    for (const add_case& c : cases) {
+    for (const auto& c : cases) {
         BeamForceAndMOM member = forces(1, c.before);
         member.add_loadCase_record(c.added);
         EXPECT_EQ(stations_of(member), c.want) << c.why;
@@ -88,27 +89,24 @@ TEST(AddLoadCaseRecord, DoublesARecordOfItsOwn)
     std::vector<double> want;
     for (int i = 0; i < 16; ++i)
         want.insert(want.end(), {1, 2, 3});
-    EXPECT_EQ(stations_of(member), (case_positions{{5, want}}));
+    EXPECT_EQ(stations_of(member), shown(case_positions{{5, want}}));
 }
 
 TEST(MergeForces, AddsTheRecordsOfTheSameMember)
 {
-    struct merge_case {
+    const struct {
         const char* why;
         BeamForceAndMOM member;
         BeamForceAndMOM other;
-        case_positions want;
+        const char* want;
+    } cases[] = {
+        {"new cases are added, old ones appended to", forces(7, {{1, {1}}, {3, {2}}}),
+         forces(7, {{2, {3}}, {3, {1, 3}}, {-1, {2}}}), "-1: 2; 1: 1; 2: 3; 3: 2 1 3"},
+        {"nothing of another member", forces(7, {{1, {1}}}), forces(8, {{1, {2}}, {2, {3}}}), "1: 1"},
+        {"members without numbers are the same", forces(0, {}), forces(0, {{1, {1}}}), "1: 1"},
+        {"nothing to add", forces(0, {{1, {1}}}), forces(0, {}), "1: 1"},
     };
-    const merge_case cases[] = {
-        {"new cases are added, old ones appended to",
-         forces(7, {{1, {1}}, {3, {2}}}),
-         forces(7, {{2, {3}}, {3, {1, 3}}, {-1, {2}}}),
-         {{-1, {2}}, {1, {1}}, {2, {3}}, {3, {2, 1, 3}}}},
-        {"nothing of another member", forces(7, {{1, {1}}}), forces(8, {{1, {2}}, {2, {3}}}), {{1, {1}}}},
-        {"members without numbers are the same", forces(0, {}), forces(0, {{1, {1}}}), {{1, {1}}}},
-        {"nothing to add", forces(0, {{1, {1}}}), forces(0, {}), {{1, {1}}}},
-    };
-    for (const merge_case& c : cases) {
+    for (const auto& c : cases) {
         BeamForceAndMOM member = c.member;
         member.merge(c.other);
         EXPECT_EQ(stations_of(member), c.want) << c.why;
@@ -120,7 +118,7 @@ TEST(MergeForces, WithItselfDoublesEveryRecord)
 {
     BeamForceAndMOM member = forces(7, {{1, {1, 2}}, {2, {}}, {3, {3}}});
     member.merge(member);
-    EXPECT_EQ(stations_of(member), (case_positions{{1, {1, 2, 1, 2}}, {2, {}}, {3, {3, 3}}}));
+    EXPECT_EQ(stations_of(member), "1: 1 2 1 2; 2: -; 3: 3 3");
 }
 
 TEST(MergeForces, GoesByTheNumberInTheRecord)
@@ -129,7 +127,7 @@ TEST(MergeForces, GoesByTheNumberInTheRecord)
     other.records[9] = record(4, {1}); // a host may store a record anywhere
     BeamForceAndMOM member;
     member.merge(other);
-    EXPECT_EQ(stations_of(member), (case_positions{{4, {1}}}));
+    EXPECT_EQ(stations_of(member), "4: 1");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 /// Where a listing has its sections, where one begins and ends, and in which units its numbers are.
 
+#include "tests/support/deck.h"
 #include "tests/support/force_listing.h"
 
 #include <gtest/gtest.h>
@@ -73,17 +74,9 @@ TEST(ForceListing, KnowsItsTitles)
         EXPECT_EQ(read_stations(c.listing), c.want) << c.why;
 }
 
-std::string with_cr(const std::string& text)
-{
-    std::string changed;
-    for (const char character : text)
-        changed += character == '\n' ? std::string("\r\n") : std::string(1, character);
-    return changed;
-}
-
 TEST(ForceListing, TakesBothLineEnds)
 {
-    EXPECT_EQ(read_stations(with_cr(section_of_case(1, first_gbk))), "1: 1(0)");
+    EXPECT_EQ(read_stations(decks::with_cr(section_of_case(1, first_gbk))), "1: 1(0)");
     const std::string title_only = first_gbk + "\r\n" + section_of_case(1, "").substr(1);
     EXPECT_EQ(read_stations(title_only), "1: 1(0)") << "CR LF after the title alone";
     EXPECT_EQ(read_stations(section_of_case(1, first_gbk + "\r\r")), "") << "one CR goes with the line end, no more";

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -13,16 +14,19 @@ namespace {
 using listings::section;
 using listings::values;
 
-struct unit_case {
+std::array<double, 3> factors_of(const SdReader& model)
+{
+    return {model.length_factor, model.force_factor, model.force_length_factor};
+}
+
+const struct {
     const char* why;
     const char* line;
     const char* text;
     double length;
     double force;
     double moment;
-};
-
-const unit_case unit_cases[] = {
+} unit_cases[] = {
     {"first, second and last word count", "(m) (kN) (kN) (kN) (kN-m) (kN-m) (kN-m)", "UNIT m kN kN-m", 1000, 1, 1000},
     {"the words between may be anything", "(cm) (kN) x 7 (kN-m)", "UNIT cm kN kN-m", 10, 1, 1000},
     {"brackets of any kind: first and last character go unseen", "[m] <mton> {mton-m}", "UNIT m mton mton-m", 1000, 9.8,
@@ -47,12 +51,10 @@ const unit_case unit_cases[] = {
 
 TEST(ForceUnits, ComeFromTheUnitLine)
 {
-    for (const unit_case& c : unit_cases) {
+    for (const auto& c : unit_cases) {
         const SdReader model = listings::read(section({"101 1:A 2 3 5 7 11 13 17", "2:B @0"}, c.line));
         EXPECT_EQ(model.unit_text, c.text) << c.why;
-        EXPECT_EQ(model.length_factor, c.length) << c.why;
-        EXPECT_EQ(model.force_factor, c.force) << c.why;
-        EXPECT_EQ(model.force_length_factor, c.moment) << c.why;
+        EXPECT_EQ(factors_of(model), (std::array<double, 3>{c.length, c.force, c.moment})) << c.why;
         const std::vector<values> want = {
             {2 * c.length, 3 * c.force, 5 * c.force, 7 * c.force, 11 * c.moment, 13 * c.moment, 17 * c.moment}};
         EXPECT_EQ(listings::points(model, 1, 1), want) << c.why;
@@ -75,9 +77,7 @@ TEST(ForceUnits, AreInTheEndThoseOfTheLastSection)
     EXPECT_EQ(model.unit_text, "UNIT MMS KN");
     model.ReadForceMomentFromText(section({"101 1:A @2"}, "(m) (kN) (kN-m)") + section({}, "(cm) (MN) (mton-m)"));
     EXPECT_EQ(model.unit_text, "UNIT cm MN mton-m") << "of a section without data, too";
-    EXPECT_EQ(model.length_factor, 10.0);
-    EXPECT_EQ(model.force_factor, 1000.0);
-    EXPECT_EQ(model.force_length_factor, 9800.0);
+    EXPECT_EQ(factors_of(model), (std::array<double, 3>{10, 1000, 9800}));
 }
 
 TEST(ForceUnits, StayAsTheModelHadThemWithoutASection)
@@ -90,9 +90,7 @@ TEST(ForceUnits, StayAsTheModelHadThemWithoutASection)
         model.force_length_factor = 9;
         model.ReadForceMomentFromText(listing);
         EXPECT_EQ(model.unit_text, "UNIT MMS KN") << listing;
-        EXPECT_EQ(model.length_factor, 7.0) << listing;
-        EXPECT_EQ(model.force_factor, 8.0) << listing;
-        EXPECT_EQ(model.force_length_factor, 9.0) << listing;
+        EXPECT_EQ(factors_of(model), (std::array<double, 3>{7, 8, 9})) << listing;
     }
 }
 

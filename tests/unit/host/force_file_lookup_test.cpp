@@ -115,36 +115,35 @@ TEST(ForceFileDialog, GivesAnyPathAsItIs)
     EXPECT_EQ(desktop.questions.size(), 2U);
 }
 
-TEST(ForceFileDialog, IsNotShownForAModelThatCannotBeRead)
-{
-    scripted_services desktop;
-    StaadProProject_layered project;
-    EXPECT_FALSE(project.BuidFromFile("no such folder/tower.std", 1));
-    const project_folder folder("UNIT METER KN\n");
-    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
-    EXPECT_TRUE(desktop.questions.empty());
-}
+struct dialog_case {
+    const char* why;
+    const char* deck;
+    int with_forces;
+    std::size_t questions;
+    std::size_t messages;
+};
 
-TEST(ForceFileDialog, IsShownForAModelWithoutLevels)
-{
-    const project_folder folder(
-        "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 3000 2000 0;\nMEMBER INCIDENCES\n1 1 2;\nFINISH\n");
-    scripted_services desktop;
-    StaadProProject_layered project;
-    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
-    EXPECT_EQ(desktop.questions.size(), 1U);
-}
+const dialog_case dialog_cases[] = {
+    {"no model: no question", "UNIT METER KN\n", 1, 0, 0},
+    {"a model without levels",
+     "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0; 2 3000 2000 0;\nMEMBER INCIDENCES\n1 1 2;\nFINISH\n", 1, 1, 0},
+    {"without members: the question, then the word that there are none",
+     "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n", 1, 1, 1},
+    {"nothing to say without forces", "UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n", 0, 0, 0},
+};
 
-TEST(ForceFileDialog, ComesBeforeTheWordThatThereAreNoMembers)
+TEST(ForceFileDialog, IsShownForAnyModelThatIsRead)
 {
-    const project_folder folder("UNIT MMS KN\nJOINT COORDINATES\n1 0 0 0;\nMEMBER INCIDENCES\nFINISH\n");
-    scripted_services desktop;
-    StaadProProject_layered project;
-    EXPECT_FALSE(project.BuidFromFile(folder.model(), 1));
-    EXPECT_EQ(desktop.questions.size(), 1U);
-    EXPECT_EQ(desktop.messages.size(), 1U);
-    EXPECT_FALSE(project.BuidFromFile(folder.model(), 0));
-    EXPECT_EQ(desktop.messages.size(), 1U) << "nothing to say without forces";
+    for (const dialog_case& c : dialog_cases) {
+        const project_folder folder(c.deck);
+        scripted_services desktop;
+        StaadProProject_layered project;
+        EXPECT_FALSE(project.BuidFromFile(folder.model(), c.with_forces)) << c.why;
+        EXPECT_EQ(desktop.questions.size(), c.questions) << c.why;
+        EXPECT_EQ(desktop.messages.size(), c.messages) << c.why;
+        EXPECT_FALSE(project.BuidFromFile("no such folder/tower.std", c.with_forces));
+        EXPECT_EQ(desktop.questions.size(), c.questions) << "no file: no question";
+    }
 }
 
 } // namespace

@@ -35,30 +35,34 @@ std::string first_code(const ReadReport& report)
     return report.findings.empty() ? "" : report.findings.front().code;
 }
 
-TEST(PathForms, ReadAndWriteAsTheNarrowOnes)
+class PathForms : public testing::Test {
+protected:
+    scripted_services desktop_;
+    const project_folder folder_{deck};
+    const fs::path path_ = folder_.model();
+};
+
+TEST_F(PathForms, ReadAndWriteAsTheNarrowOnes)
 {
-    const project_folder folder(deck);
-    const fs::path path = folder.model();
     SdReader narrow;
     SdReader model;
-    ASSERT_TRUE(narrow.ReadSDDataFromStdFile(folder.model()));
-    ASSERT_TRUE(model.ReadSDDataFromStdFile(path));
+    ASSERT_TRUE(narrow.ReadSDDataFromStdFile(folder_.model()));
+    ASSERT_TRUE(model.ReadSDDataFromStdFile(path_));
     EXPECT_EQ(model_differences(model, narrow), texts());
 
-    const fs::path written = path.parent_path() / "written.std";
+    const fs::path written = path_.parent_path() / "written.std";
     std::error_code error = std::make_error_code(std::errc::io_error);
     ASSERT_TRUE(model.WriteDataToFile(written, error));
     EXPECT_FALSE(error);
     EXPECT_TRUE(narrow.ReadSDDataFromStdFile(written.string())) << "a std::string goes to the form of a path";
     EXPECT_EQ(narrow.beams.size(), 1U);
-    EXPECT_FALSE(model.WriteDataToFile(path.parent_path() / "no" / "folder", error));
+    EXPECT_FALSE(model.WriteDataToFile(path_.parent_path() / "no" / "folder", error));
     EXPECT_EQ(error, std::errc::no_such_file_or_directory);
 }
 
-TEST(PathForms, ReportAFileThatIsMissing)
+TEST_F(PathForms, ReportAFileThatIsMissing)
 {
-    const project_folder folder(deck);
-    const fs::path missing = fs::path(folder.model()).parent_path() / "missing";
+    const fs::path missing = path_.parent_path() / "missing";
     ReadReport report;
     SdReader model;
     EXPECT_FALSE(model.ReadSDDataFromStdFile(missing, report));
@@ -70,10 +74,9 @@ TEST(PathForms, ReportAFileThatIsMissing)
     EXPECT_TRUE(model.beam_forces.empty());
 }
 
-TEST(PathForms, OfForcesTellWhetherThereAreAny)
+TEST_F(PathForms, OfForcesReturnWhetherThereAreAny)
 {
-    scripted_services desktop;
-    const project_folder folder(deck);
+    const fs::path beside = folder_.path("deck.txt");
     SdReader model;
     struct forces_case {
         const char* why;
@@ -87,55 +90,48 @@ TEST(PathForms, OfForcesTellWhetherThereAreAny)
     };
     ASSERT_TRUE(model.ReadSDDataFromText(deck));
     for (const forces_case& c : cases) {
-        folder.write("deck.txt", c.listing);
-        const fs::path path = fs::path(folder.model()).replace_extension(".txt");
-        EXPECT_EQ(model.ReadForceMomentFromTxtFile(path), c.want) << c.why;
+        folder_.write("deck.txt", c.listing);
+        EXPECT_EQ(model.ReadForceMomentFromTxtFile(beside), c.want) << c.why;
         EXPECT_EQ(model.ReadForceMomentFromText(c.listing), c.want) << c.why;
         EXPECT_EQ(model.beam_forces.empty(), !c.want) << c.why;
     }
     model.Reset();
-    EXPECT_FALSE(model.ReadForceMomentFromTxtFile(fs::path(folder.model()).replace_extension(".txt")));
-    EXPECT_TRUE(desktop.messages.empty()) << "no box about a model without members";
+    EXPECT_FALSE(model.ReadForceMomentFromTxtFile(beside));
+    EXPECT_TRUE(desktop_.messages.empty()) << "no box about a model without members";
     EXPECT_FALSE(model.ReadForceMomentFromText(listing));
-    EXPECT_EQ(desktop.messages.size(), 1U) << "the form of a text shows it";
+    EXPECT_EQ(desktop_.messages.size(), 1U) << "the form of a text shows it";
 }
 
-TEST(PathForms, BuildProjectsWithTheListingBesideTheModelOrTheOneChosen)
+TEST_F(PathForms, BuildProjectsWithTheListingBesideTheModelOrTheOneChosen)
 {
-    scripted_services desktop;
-    const project_folder folder(deck);
-    const fs::path path = folder.model();
-    folder.write("deck.txt", listing);
+    folder_.write("deck.txt", listing);
     StaadProProject_layered project;
     ReadReport of_model;
     ReadReport of_forces;
-    ASSERT_TRUE(project.BuidFromFile(path, 1, of_model, of_forces));
+    ASSERT_TRUE(project.BuidFromFile(path_, 1, of_model, of_forces));
     EXPECT_EQ(project.layers.at(0).members.at(0).forces.records.size(), 1U);
-    EXPECT_TRUE(desktop.questions.empty());
-    ASSERT_TRUE(project.BuidFromFile(path, 0));
+    EXPECT_TRUE(desktop_.questions.empty());
+    ASSERT_TRUE(project.BuidFromFile(path_, 0));
     EXPECT_EQ(project.layers.at(0).members.at(0).forces.records.size(), 0U);
 
-    fs::rename(fs::path(path).replace_extension(".txt"), path.parent_path() / "other.lst");
-    desktop.chosen_file = (path.parent_path() / "other.lst").string();
-    ASSERT_TRUE(project.BuidFromFile(path, 1));
+    fs::rename(fs::path(path_).replace_extension(".txt"), path_.parent_path() / "other.lst");
+    desktop_.chosen_file = (path_.parent_path() / "other.lst").string();
+    ASSERT_TRUE(project.BuidFromFile(path_, 1));
     EXPECT_EQ(project.layers.at(0).members.at(0).forces.records.size(), 1U);
-    EXPECT_EQ(desktop.questions.size(), 1U);
+    EXPECT_EQ(desktop_.questions.size(), 1U);
 }
 
-TEST(PathForms, AskBeforeTheyTakeOver)
+TEST_F(PathForms, AskBeforeTheyTakeOver)
 {
-    scripted_services desktop;
-    desktop.readable = false; // is asked of names that are const char* only
-    const project_folder folder(deck);
-    const fs::path path = folder.model();
+    desktop_.readable = false; // is asked of names that are const char* only
     SdReader model = decks::read(deck);
     model.groups.clear();
-    model.compWithOldProj(path);
+    model.compWithOldProj(path_);
     EXPECT_TRUE(model.groups.empty()) << "answered no";
-    desktop.answer = PlatformServices::Answer::Yes;
-    model.compWithOldProj(path.parent_path() / "missing");
-    EXPECT_EQ(desktop.messages.size(), 1U) << "no question about a file that is not there";
-    model.compWithOldProj(path);
+    desktop_.answer = PlatformServices::Answer::Yes;
+    model.compWithOldProj(path_.parent_path() / "missing");
+    EXPECT_EQ(desktop_.messages.size(), 1U) << "no question about a file that is not there";
+    model.compWithOldProj(path_);
     ASSERT_EQ(model.groups.size(), 1U);
     EXPECT_EQ(model.groups[0].name, "_OLD");
 }
@@ -154,7 +150,7 @@ bool read_from_pipe(const std::string& text, Read read)
     return result;
 }
 
-TEST(PathForms, ReadPipes)
+TEST_F(PathForms, ReadPipes)
 {
     SdReader model;
     EXPECT_TRUE(read_from_pipe(deck, [&](const fs::path& pipe) { return model.ReadSDDataFromStdFile(pipe); }));

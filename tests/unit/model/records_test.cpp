@@ -204,25 +204,18 @@ texts fields_set_by_default()
     return filled_fields(*made);
 }
 
+template<class... Records>
+void expect_zero_and_empty()
+{
+    for (const texts& found : {fields_set_by_default<Records>()...})
+        EXPECT_EQ(found, texts());
+}
+
 TEST(Defaults, OfRecordsAreZeroAndEmpty)
 {
-    EXPECT_EQ(fields_set_by_default<SdNode>(), texts());
-    EXPECT_EQ(fields_set_by_default<SdOffset>(), texts());
-    EXPECT_EQ(fields_set_by_default<SdBeam>(), texts());
-    EXPECT_EQ(fields_set_by_default<SdShell>(), texts());
-    EXPECT_EQ(fields_set_by_default<SdSurface>(), texts());
-    EXPECT_EQ(fields_set_by_default<SdGroup>(), texts());
-    EXPECT_EQ(fields_set_by_default<Section>(), texts());
-    EXPECT_EQ(fields_set_by_default<LoadCase>(), texts());
-    EXPECT_EQ(fields_set_by_default<LoadDef_raw>(), texts());
-    EXPECT_EQ(fields_set_by_default<LoadDefination>(), texts());
-    EXPECT_EQ(fields_set_by_default<ForcePoint>(), texts());
-    EXPECT_EQ(fields_set_by_default<BeamLoadCaseRecord>(), texts());
-    EXPECT_EQ(fields_set_by_default<BeamForceAndMOM>(), texts());
-    EXPECT_EQ(fields_set_by_default<BeamLoadList>(), texts());
-    EXPECT_EQ(fields_set_by_default<WindLoadParam>(), texts());
-    EXPECT_EQ(fields_set_by_default<SeismicParam>(), texts());
-    EXPECT_EQ(fields_set_by_default<OldProjMaps>(), texts());
+    expect_zero_and_empty<SdNode, SdOffset, SdBeam, SdShell, SdSurface, SdGroup, Section, LoadCase, LoadDef_raw,
+                          LoadDefination, ForcePoint, BeamLoadCaseRecord, BeamForceAndMOM, BeamLoadList, WindLoadParam,
+                          SeismicParam, OldProjMaps>();
 }
 
 TEST(Defaults, OfTheModelAreOneDensityAndThreeFactors)

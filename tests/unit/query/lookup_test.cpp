@@ -67,7 +67,7 @@ const lookup_row lookups[] = {
     {"twice and far apart", {2000000000, 1, 2000000000}, 2000000000, 1, 3},
 };
 
-TEST(Locate, GivesTheFirstPositionOrMinusOne)
+TEST(Lookups, GiveTheFirstOrTheLastPosition)
 {
     for (const lookup_row& c : lookups) {
         SCOPED_TRACE(c.why);
@@ -79,7 +79,10 @@ TEST(Locate, GivesTheFirstPositionOrMinusOne)
         EXPECT_EQ(model.locateNodeIndex(c.number), want);
         EXPECT_EQ(model.locateBeamIndex(c.number), want);
         EXPECT_EQ(model.locateShellIndex(c.number), want);
+        EXPECT_EQ(number_lookup::of(model.nodes, same_number::first_counts).position(c.number), c.first);
+        EXPECT_EQ(number_lookup::of(model.nodes, same_number::last_counts).position(c.number), c.last);
     }
+    EXPECT_EQ(number_lookup().position(0), 0) << "made of nothing";
 }
 
 TEST(Locate, LooksAtItsOwnListAndAtNoIndex)
@@ -104,16 +107,6 @@ TEST(ElementCount, IsThatOfTheShellsBeforeTheCopiesOfSurfaces)
     EXPECT_EQ(element_count(model), 3U);
     model.surfaces.resize(9);
     EXPECT_EQ(element_count(model), 0U) << "a host's model may have more surfaces than shells";
-}
-
-TEST(NumberLookup, GivesTheFirstOrTheLastPosition)
-{
-    for (const lookup_row& c : lookups) {
-        const auto records = numbered<SdNode>(c.list);
-        EXPECT_EQ(number_lookup::of(records, same_number::first_counts).position(c.number), c.first) << c.why;
-        EXPECT_EQ(number_lookup::of(records, same_number::last_counts).position(c.number), c.last) << c.why;
-    }
-    EXPECT_EQ(number_lookup().position(0), 0) << "made of nothing";
 }
 
 struct walk_row {

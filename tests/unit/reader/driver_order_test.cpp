@@ -4,6 +4,7 @@
 #include "staad/model/sd_reader.h"
 #include "tests/support/deck.h"
 #include "tests/support/model_equal.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
@@ -44,39 +45,30 @@ TEST(DriverOrder, ATextWithoutMembersStopsBeforeGroupsDensityAndBraces)
                                           "MEMBER TRUSS\n1\nSUPPORTS\n1 FIXED\nLOAD 1\nSELFWEIGHT Y -1\nFINISH\n"));
     EXPECT_EQ(model.unit_text, "UNIT METER KN");
     EXPECT_EQ(model.length_factor, 1000.0);
-    EXPECT_TRUE(model.groups.empty());
     EXPECT_EQ(model.concrete_density, 1.0);
-    EXPECT_TRUE(model.brace_ids.empty());
-    EXPECT_TRUE(model.supports.empty());
-    EXPECT_TRUE(model.load_cases.empty());
+    EXPECT_EQ(filled_containers(model), std::vector<std::string>{"unit_text"});
 }
 
-/// A text with the given lines right after the members, and others before them.
-std::string around_members(const decks::lines& before, const decks::lines& after)
+/// A model with the given lines right after the members, and others before them.
+SdReader read_around_members(const std::string& before, const std::string& after)
 {
-    return decks::joined({"UNIT METER KN"}) + decks::joined(before) +
-           decks::joined({"JOINT COORDINATES", "1 0 0 0; 2 1 0 0", "MEMBER INCIDENCES", "1 1 2"}) +
-           decks::joined(after) + "FINISH\n";
+    return decks::read(decks::joined({"UNIT METER KN", before, "JOINT COORDINATES", "1 0 0 0; 2 1 0 0",
+                                      "MEMBER INCIDENCES", "1 1 2", after, "FINISH"}));
 }
 
-TEST(DriverOrder, GroupsAreSearchedFromTheLineAfterTheMembers)
+TEST(DriverOrder, GroupsAndPropertiesAreSearchedFromTheLineAfterTheMembers)
 {
-    const decks::lines groups = {"START GROUP DEFINITION", "MEMBER", "_A 1", "END GROUP DEFINITION"};
-    EXPECT_TRUE(decks::read(around_members(groups, {})).groups.empty());
-    EXPECT_EQ(decks::read(around_members({}, groups)).groups.size(), 1U) << "at once";
-    EXPECT_TRUE(
-        decks::read(around_members({"START GROUP DEFINITION"}, {"_A 1", "END GROUP DEFINITION"})).groups.empty());
-}
-
-TEST(DriverOrder, MemberPropertiesAreSearchedFromTheLineAfterTheMembers)
-{
-    const decks::lines properties = {"MEMBER PROPERTY", "1 TABLE ST A"};
-    EXPECT_EQ(decks::read(around_members(properties, {})).beams.at(0).sect_text, "");
-    EXPECT_EQ(decks::read(around_members({}, properties)).beams.at(0).sect_text, "TABLE ST A") << "at once";
-    EXPECT_EQ(decks::read(around_members({"CONSTANTS"}, {"MEMBER PROPERTY", "CONSTANTS", "1 TABLE ST A"}))
-                  .beams.at(0)
-                  .sect_text,
-              "")
+    const std::string start = "START GROUP DEFINITION";
+    const std::string rest = "MEMBER\n_A 1\nEND GROUP DEFINITION";
+    EXPECT_TRUE(read_around_members(start + "\n" + rest, "").groups.empty());
+    EXPECT_TRUE(read_around_members(start, rest).groups.empty());
+    EXPECT_EQ(read_around_members("", start + "\n" + rest).groups.size(), 1U) << "at once";
+    const auto section = [](const std::string& before, const std::string& after) {
+        return read_around_members(before, after).beams.at(0).sect_text;
+    };
+    EXPECT_EQ(section("MEMBER PROPERTY\n1 TABLE ST A", ""), "");
+    EXPECT_EQ(section("", "MEMBER PROPERTY\n1 TABLE ST A"), "TABLE ST A") << "at once";
+    EXPECT_EQ(section("CONSTANTS", "MEMBER PROPERTY\nCONSTANTS\n1 TABLE ST A"), "")
         << "a CONSTANTS line before the members does not hide the one that ends the block";
 }
 
@@ -85,20 +77,15 @@ TEST(DriverOrder, MaterialLinesOverrideThePropertyBlock)
     const SdReader model =
         decks::read("MATERIAL CONCRETE MEMB 1 2\n" +
                     decks::frame_deck({"MATERIAL Q345 MEMB 3", "MEMBER PROPERTY", "1 TO 4 TABLE ST A"}));
-    const char* const want[] = {"CONCRETE", "CONCRETE", "Q345", "STEEL", ""};
-    for (int number = 1; number <= 5; ++number)
-        EXPECT_EQ(decks::member(model, number).material, want[number - 1]) << number;
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::material), "CONCRETE CONCRETE Q345 STEEL -");
 }
 
 TEST(DriverOrder, MaterialAllReachesTheCopiesOfSurfaces)
 {
     const SdReader model = decks::read_frame({"MATERIAL C40 ALL", "ELEMENT INCIDENCES SHELL", "7 1 2 3",
                                               "SURFACE INCIDENCE", "1 2 3 SUR 9", "MEMBER PROPERTY", "1 TABLE ST A"});
-    for (const SdBeam& member : model.beams)
-        EXPECT_EQ(member.material, "C40") << member.id;
-    ASSERT_EQ(model.shells.size(), 2U);
-    EXPECT_EQ(model.shells[0].material, "C40");
-    EXPECT_EQ(model.shells[1].material, "C40");
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::material), "C40 C40 C40 C40 C40");
+    EXPECT_EQ(shown_fields(model.shells, &SdShell::material), "C40 C40");
     EXPECT_EQ(model.surfaces.at(0).material, "CONCRETE") << "the surface itself keeps its own";
 }
 
@@ -107,9 +94,7 @@ TEST(DriverOrder, ElementThicknessesComeBeforeTheCopiesOfSurfaces)
     const SdReader model =
         decks::read_frame({"ELEMENT INCIDENCES SHELL", "9 1 2 3", "ELEMENT PROPERTY", "9 THICKNESS 0.2",
                            "SURFACE INCIDENCE", "1 2 3 SUR 9", "SURFACE PROPERTY", "9 THICKNESS 0.3"});
-    ASSERT_EQ(model.shells.size(), 2U);
-    EXPECT_EQ(model.shells[0].thickness, 200);
-    EXPECT_EQ(model.shells[1].thickness, 300);
+    EXPECT_EQ(shown_fields(model.shells, &SdShell::thickness), "200 300");
 }
 
 /// Every block, each of one line or more, in the order in which they are taken.
@@ -150,9 +135,7 @@ TEST(DriverOrder, IsNotThatOfTheFile)
     EXPECT_EQ(model.groups.at(0).ids.size(), 2U);
     EXPECT_EQ(model.concrete_density, 20.0);
     EXPECT_EQ(model.brace_ids.size(), 2U);
-    ASSERT_EQ(model.shells.size(), 2U) << "an element and the copy of a surface";
-    EXPECT_EQ(model.shells[0].thickness, 200);
-    EXPECT_EQ(model.shells[1].thickness, 300);
+    EXPECT_EQ(shown_fields(model.shells, &SdShell::thickness), "200 300") << "an element and the copy of a surface";
     EXPECT_EQ(model.beams.at(0).sect_text, "TABLE ST A");
     EXPECT_EQ(model.beams.at(0).beta, 90.0);
     EXPECT_EQ(model.beams.at(0).material, "M") << "after the section, which gives STEEL";

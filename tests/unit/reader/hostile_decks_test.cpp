@@ -1,5 +1,5 @@
-/// Texts made to do harm come to an answer, and what they leave can be used. How time and memory grow with them is for
-/// benchmarks/bench_hostile.cpp to tell.
+/// Texts made to do harm come to an answer, and what they leave can be used. How time and memory grow with them is
+/// measured by benchmarks/bench_hostile.cpp.
 
 #include "staad/model/sd_reader.h"
 #include "staad/report/read_limit.h"

@@ -1,6 +1,7 @@
 /// How much the lists of one reading may hold, and the error that says where it was too much.
 
 #include "staad/report/id_budget.h"
+#include "tests/support/deck.h"
 #include "tests/support/sd_reader_access.h"
 
 #include <gtest/gtest.h>
@@ -46,20 +47,6 @@ TEST(ReadLimitError, IsCaughtAsExhaustedMemory)
     EXPECT_THROW(access::extract_id_from_line(model, "1 TO 16777217"), std::bad_alloc);
 }
 
-/// Calls `take`, which must pass a limit.
-template<class Take>
-void expect_limit(Take take, std::size_t first_line, std::size_t last_line, std::size_t limit)
-{
-    try {
-        take();
-        ADD_FAILURE() << "no exception";
-    } catch (const ReadLimitError& error) {
-        EXPECT_EQ(error.first_line(), first_line);
-        EXPECT_EQ(error.last_line(), last_line);
-        EXPECT_EQ(error.limit(), limit);
-    }
-}
-
 TEST(IdBudget, BoundsEveryList)
 {
     SdReader model;
@@ -81,7 +68,7 @@ TEST(IdBudget, BoundsAllListsTogether)
         ASSERT_NO_THROW(budget.take(most_numbers_per_list)) << list;
     }
     budget.start_list(9, 10);
-    expect_limit([&] { budget.take(1); }, 9, 10, most_numbers_per_reading);
+    decks::expect_limit([&] { budget.take(1); }, 9, 10, most_numbers_per_reading);
     EXPECT_NO_THROW(budget.take(0));
 }
 
@@ -117,7 +104,7 @@ TEST(IdBudget, CountsLongTextsApart)
     EXPECT_NO_THROW(budget.take_text(most_text_per_reading - 257));
     EXPECT_THROW(budget.take_text(258), ReadLimitError);
     EXPECT_NO_THROW(budget.take_text(257)) << "what was refused does not count";
-    expect_limit([&] { budget.take_text(257); }, 3, 4, most_text_per_reading);
+    decks::expect_limit([&] { budget.take_text(257); }, 3, 4, most_text_per_reading);
     EXPECT_NO_THROW(budget.take_text(256));
     EXPECT_NO_THROW(budget.take(most_numbers_per_list)) << "numbers have a limit of their own";
 }
@@ -128,7 +115,7 @@ TEST(AppendIds, TakesNothingOfAListThatIsTooLong)
     detail::id_budget budget;
     budget.start_list(7, 8);
     std::vector<int> ids = {99};
-    expect_limit([&] { detail::append_ids(ids, walker, budget); }, 7, 8, most_numbers_per_list);
+    decks::expect_limit([&] { detail::append_ids(ids, walker, budget); }, 7, 8, most_numbers_per_list);
     EXPECT_EQ(ids, std::vector<int>{99}) << "the list was refused as a whole";
     EXPECT_LT(ids.capacity(), 100u) << "before memory was taken for it";
 }

@@ -16,38 +16,32 @@ using STAAD::detail::number_lookup;
 using STAAD::detail::numbered_position;
 using STAAD::detail::same_number;
 
-using valued_run = std::pair<int, id_range>;
+using valued_range = std::pair<int, id_range>;
 
-std::vector<std::vector<int>> forwards(const listed_values& runs)
+TEST(ListedValues, ComeBackInBothDirections)
 {
+    listed_values lists;
     std::vector<std::vector<int>> seen;
-    runs.for_each([&](int value, const id_range& run) { seen.push_back({value, run.first, run.last, run.is_range}); });
-    return seen;
-}
-
-std::vector<std::vector<int>> backwards(const listed_values& runs)
-{
-    std::vector<std::vector<int>> seen;
-    runs.for_each_backwards([&](int value, const id_range& run) {
-        seen.push_back({value, run.first, run.last, run.is_range});
-    });
-    return seen;
-}
-
-TEST(NotedRuns, ComeBackInBothDirections)
-{
-    listed_values runs;
-    EXPECT_TRUE(forwards(runs).empty());
-    EXPECT_TRUE(backwards(runs).empty());
-    runs.add(7, {1, 1, false});
-    runs.add(7, {2, 5, true});
-    runs.add(0, {3, 3, true}); // a range of one number is still a range
-    runs.add(7, {9, 9, false});
+    const auto note = [&seen](int value, const id_range& range) {
+        seen.push_back({value, range.first, range.last, range.is_range});
+    };
+    lists.for_each(note);
+    lists.for_each_backwards(note);
+    EXPECT_TRUE(seen.empty());
+    lists.add(7, {1, 1, false});
+    lists.add(7, {2, 5, true});
+    lists.add(0, {3, 3, true}); // a range of one number is still a range
+    lists.add(7, {9, 9, false});
+    lists.for_each(note);
     const std::vector<std::vector<int>> noted = {{7, 1, 1, 0}, {7, 2, 5, 1}, {0, 3, 3, 1}, {7, 9, 9, 0}};
-    EXPECT_EQ(forwards(runs), noted);
-    EXPECT_EQ(backwards(runs), std::vector<std::vector<int>>(noted.rbegin(), noted.rend()));
-    runs.clear();
-    EXPECT_TRUE(forwards(runs).empty());
+    EXPECT_EQ(seen, noted);
+    seen.clear();
+    lists.for_each_backwards(note);
+    EXPECT_EQ(seen, std::vector<std::vector<int>>(noted.rbegin(), noted.rend()));
+    seen.clear();
+    lists.clear();
+    lists.for_each(note);
+    EXPECT_TRUE(seen.empty());
 }
 
 /// Value by position, from the assignments and from the plain walk that lets every line write.
@@ -56,11 +50,11 @@ struct handed_out {
     std::map<int, int> visits;
 };
 
-handed_out by_assignments(const number_lookup& numbers, const std::vector<valued_run>& runs)
+handed_out by_assignments(const number_lookup& numbers, const std::vector<valued_range>& ranges)
 {
     last_assignments assignments(numbers);
-    for (const auto& [value, run] : runs)
-        assignments.add(value, run);
+    for (const auto& [value, range] : ranges)
+        assignments.add(value, range);
     handed_out result;
     assignments.hand_out([&](std::size_t index, int value) {
         const int position = static_cast<int>(index) + 1;
@@ -70,15 +64,15 @@ handed_out by_assignments(const number_lookup& numbers, const std::vector<valued
     return result;
 }
 
-std::map<int, int> by_plain_walk(const std::vector<numbered_position>& entries, const std::vector<valued_run>& runs)
+std::map<int, int> by_plain_walk(const std::vector<numbered_position>& entries, const std::vector<valued_range>& ranges)
 {
     std::map<int, int> position_of; // the last record of each number
     for (const numbered_position& entry : entries)
         position_of[entry.number] = entry.position;
     std::map<int, int> values;
-    for (const auto& [value, run] : runs)
+    for (const auto& [value, range] : ranges)
         for (const auto& [number, position] : position_of)
-            if (number >= run.first && number <= run.last)
+            if (number >= range.first && number <= range.last)
                 values[position] = value;
     return values;
 }
@@ -92,7 +86,7 @@ TEST(LastAssignments, TheLastLineWins)
     EXPECT_EQ(result.values, (std::map<int, int>{{1, 1}, {2, 2}, {3, 3}}));
 }
 
-TEST(LastAssignments, TellWhetherARunNamesAnyone)
+TEST(LastAssignments, SayWhetherARangeNamesARecord)
 {
     const number_lookup numbers({{10, 1}, {900000, 2}}, same_number::last_counts);
     last_assignments assignments(numbers);
@@ -113,15 +107,15 @@ TEST(LastAssignments, DoWhatThePlainWalkDoesAndVisitEveryRecordOnce)
         for (int position = 1; position <= 30; ++position)
             entries.push_back({number(), position});
         const number_lookup numbers(entries, same_number::last_counts);
-        std::vector<valued_run> runs;
+        std::vector<valued_range> ranges;
         for (int i = 0; i < 20; ++i) {
             const int first = random() % 2 == 0 ? entries[random() % entries.size()].number : number();
             const bool is_range = random() % 2 == 0;
             const int last = is_range ? first + static_cast<int>(random() % static_cast<unsigned>(spread)) : first;
-            runs.push_back({static_cast<int>(random() % 5), {first, last, is_range}});
+            ranges.push_back({static_cast<int>(random() % 5), {first, last, is_range}});
         }
-        const handed_out result = by_assignments(numbers, runs);
-        ASSERT_EQ(result.values, by_plain_walk(entries, runs)) << "round " << round;
+        const handed_out result = by_assignments(numbers, ranges);
+        ASSERT_EQ(result.values, by_plain_walk(entries, ranges)) << "round " << round;
         for (const auto& [position, visits] : result.visits)
             ASSERT_EQ(visits, 1) << "round " << round << ", position " << position;
     }

@@ -9,15 +9,13 @@
 namespace STAAD {
 namespace {
 
-struct header_row {
+const struct {
     const char* why;
     const char* line;
     int id;
     const char* type_text;
     const char* title;
-};
-
-const header_row headers[] = {
+} headers[] = {
     {"one word each", "LOAD 1 LOADTYPE Dead TITLE DL", 1, "Dead", "DL"},
     {"a title of several words", "LOAD 3 LOADTYPE Seismic TITLE EQ X DIR", 3, "Seismic", "EQ X DIR"},
     {"a type of several words", "LOAD 4 LOADTYPE Roof Live TITLE RL", 4, "Roof Live", "RL"},
@@ -44,7 +42,7 @@ const header_row headers[] = {
 
 TEST(LoadCase, ReadsAHeaderLine)
 {
-    for (const header_row& c : headers) {
+    for (const auto& c : headers) {
         SCOPED_TRACE(c.why);
         const LoadCase load_case = std::string(c.line);
         EXPECT_EQ(load_case.id, c.id);
@@ -53,13 +51,11 @@ TEST(LoadCase, ReadsAHeaderLine)
     }
 }
 
-struct type_row {
+const struct {
     const char* why;
     const char* type_text;
     LoadCase::LoadType want;
-};
-
-const type_row types[] = {
+} types[] = {
     {"dead", "Dead", LoadCase::Dead},
     {"live", "Live", LoadCase::Live},
     {"wind", "Wind", LoadCase::Wind},
@@ -78,7 +74,7 @@ const type_row types[] = {
 
 TEST(LoadCase, KnowsItsTypeByTheBeginningOfItsText)
 {
-    for (const type_row& c : types) {
+    for (const auto& c : types) {
         LoadCase load_case;
         load_case.type_text = c.type_text;
         EXPECT_EQ(load_case.load_type(), c.want) << c.why;
@@ -93,12 +89,11 @@ LoadDefination definition()
 
 TEST(LoadDefinition, EqualsExactlyTheSame)
 {
-    struct row {
+    const struct {
         const char* why;
         LoadDefination other;
         bool want;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"the same", definition(), true},
         {"another kind", {"MEMBER LOAD CON", "GZ", {-0.005, 0.0, 3000.0}, 1}, false},
         {"another direction", {"MEMBER LOAD UNI", "GX", {-0.005, 0.0, 3000.0}, 1}, false},
@@ -110,7 +105,7 @@ TEST(LoadDefinition, EqualsExactlyTheSame)
          false},
         {"zeros of either sign are equal numbers", {"MEMBER LOAD UNI", "GZ", {-0.005, -0.0, 3000.0}, 1}, true},
     };
-    for (const row& c : rows) {
+    for (const auto& c : rows) {
         EXPECT_EQ(definition() == c.other, c.want) << c.why;
         EXPECT_EQ(c.other == definition(), c.want) << c.why;
     }

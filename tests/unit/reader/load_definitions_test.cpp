@@ -92,12 +92,11 @@ TEST(LoadDefinition, JoinsOnlyTheWordsThatAreThere)
 
 TEST(LoadDefinition, TurnsTheDirectionOfMemberLoads)
 {
-    struct direction {
+    const struct {
         const char* why;
         const char* word;
         const char* want;
-    };
-    const direction directions[] = {
+    } directions[] = {
         {"global", "GX", "GY"},
         {"global", "GY", "GZ"},
         {"global", "GZ", "GX"},
@@ -111,7 +110,7 @@ TEST(LoadDefinition, TurnsTheDirectionOfMemberLoads)
         {"a word without axis is no direction", "5", "Z"},
         {"nor are letters alone", "ALL", "Z"},
     };
-    for (const direction& one : directions)
+    for (const auto& one : directions)
         EXPECT_EQ(parsed(std::string("MEMBER LOAD UNI ") + one.word + " 1", 1.0, 1.0).direction, one.want)
             << one.word << ": " << one.why;
 }
@@ -162,14 +161,13 @@ TEST(LoadDefinition, ReadsJointLoadsIntoSixSlots)
 
 TEST(LoadDefinition, KeepsTheOrderOfOperationsToTheLastBit)
 {
-    struct scaled {
+    const struct {
         const char* why;
         const char* text;
         std::size_t place;
         double want;
         double other; ///< what another order gives: without a difference the row would prove nothing
-    };
-    const scaled rows[] = {
+    } rows[] = {
         {"by the force, then divided by the length", "MEMBER LOAD UNI GY -0.7", 0, -0.7 * kip / foot,
          -0.7 * (kip / foot)},
         {"the same for a linear load", "MEMBER LOAD LIN GY 1 -0.7", 1, -0.7 * kip / foot, -0.7 * (kip / foot)},
@@ -180,7 +178,7 @@ TEST(LoadDefinition, KeepsTheOrderOfOperationsToTheLastBit)
          -0.3 * (kip * foot)},
         {"a joint moment by one factor", "JOINT LOAD MX -0.3", 4, -0.3 * (kip * foot), -0.3 * kip * foot},
     };
-    for (const scaled& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.text) + ": " + row.why);
         EXPECT_NE(row.want, row.other);
         EXPECT_EQ(parsed(row.text, foot, kip).values.at(row.place), row.want);
@@ -189,12 +187,7 @@ TEST(LoadDefinition, KeepsTheOrderOfOperationsToTheLastBit)
 
 LoadDefination load(const std::string& kind, const doubles& values, int load_case)
 {
-    LoadDefination one;
-    one.kind = kind;
-    one.direction = "GZ";
-    one.values = values;
-    one.load_case = load_case;
-    return one;
+    return {kind, "GZ", values, load_case};
 }
 
 TEST(AddALoad, ReturnsTheNumberOfAnEqualDefinition)
@@ -225,14 +218,8 @@ TEST(AddALoad, LeavesTextsAndMembersAlone)
     ASSERT_TRUE(
         model.ReadSDDataFromText("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 1 0 0\nMEMBER INCIDENCES\n1 1 2\n"
                                  "LOAD 1\nMEMBER LOAD\n1 CON GY -5\nJOINT LOAD\n1 FY 1\nFINISH\n"));
-    LoadDefination same;
-    same.kind = "MEMBER LOAD CON";
-    same.direction = "GZ";
-    same.values = {-5};
-    same.load_case = 1;
-    EXPECT_EQ(model.add_a_load(same), 1) << "a definition that the file has";
-    same.load_case = 2;
-    EXPECT_EQ(model.add_a_load(same), 3);
+    EXPECT_EQ(model.add_a_load(load("MEMBER LOAD CON", {-5}, 1)), 1) << "a definition that the file has";
+    EXPECT_EQ(model.add_a_load(load("MEMBER LOAD CON", {-5}, 2)), 3);
     EXPECT_EQ(model.raw_load_defs.size(), 2U);
     EXPECT_EQ(model.load_cases.size(), 1U);
     EXPECT_EQ(model.beams.at(0).int_list, (std::vector<int>{1}));

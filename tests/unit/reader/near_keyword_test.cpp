@@ -8,13 +8,11 @@ namespace {
 
 using STAAD::detail::nearly_keyword;
 
-struct near_case {
+const struct {
     const char* why;
     const char* line;
     const char* meant; ///< "" if the line is a keyword, or like none
-};
-
-const near_case near_cases[] = {
+} near_cases[] = {
     {"a keyword is not nearly one", "MEMBER INCIDENCES", ""},
     {"nor is a line that begins with one where that is enough", "JOINT COORDINATES CYLINDRICAL", ""},
     {"words cut short, as the analysis allows them", "MEMB INCI", "MEMBER INCIDENCES"},
@@ -45,7 +43,7 @@ const near_case near_cases[] = {
 
 TEST(NearKeyword, TellsWhatWasMeant)
 {
-    for (const near_case& c : near_cases)
+    for (const auto& c : near_cases)
         EXPECT_EQ(nearly_keyword(c.line), c.meant) << "'" << c.line << "': " << c.why;
 }
 

@@ -25,25 +25,19 @@ int members_of(std::uint64_t seed)
     return 1 + static_cast<int>(299.0 * share * share * share);
 }
 
-std::string listed(const std::vector<std::string>& lines)
-{
-    std::string text;
-    for (const std::string& line : lines)
-        text += "  " + line + '\n';
-    return text;
-}
-
 std::string failure_text(std::uint64_t seed, const decks::random_deck& deck,
                          const std::vector<std::string>& differences)
 {
     return "make_random_deck(" + std::to_string(seed) + ", " + std::to_string(members_of(seed)) +
-           "), read and wanted:\n" + listed(differences) + deck.text.substr(0, 4000);
+           "), read and wanted: " + testing::PrintToString(differences) + "\n" + deck.text.substr(0, 4000);
 }
 
-/// Reads the decks of seeds first..last; stops at the first that reads as another model.
-void expect_decks_read(std::uint64_t first, std::uint64_t last)
+/// In four parts, so that a parallel run shares them out.
+class RandomDeckOf : public testing::TestWithParam<std::uint64_t> {};
+
+TEST_P(RandomDeckOf, TheNext750SeedsReadAsTheModelItWasMadeFrom)
 {
-    for (std::uint64_t seed = first; seed <= last; ++seed) {
+    for (std::uint64_t seed = GetParam(); seed < GetParam() + 750; ++seed) {
         const decks::random_deck deck = decks::make_random_deck(seed, members_of(seed));
         SdReader model;
         ReadReport report; // of every tenth; the model is the same
@@ -54,26 +48,7 @@ void expect_decks_read(std::uint64_t first, std::uint64_t last)
     }
 }
 
-// in four parts, so that a parallel run shares them out
-TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom1To750)
-{
-    expect_decks_read(1, 750);
-}
-
-TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom751To1500)
-{
-    expect_decks_read(751, 1500);
-}
-
-TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom1501To2250)
-{
-    expect_decks_read(1501, 2250);
-}
-
-TEST(RandomDeck, ReadsAsTheModelItWasMadeFrom2251To3000)
-{
-    expect_decks_read(2251, 3000);
-}
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomDeckOf, testing::Values(1U, 751U, 1501U, 2251U));
 
 /// A change anywhere in the text must show, or the comparison above would prove little.
 TEST(RandomDeck, AnotherDeckReadsAsAnotherModel)
@@ -87,12 +62,10 @@ TEST(RandomDeck, AnotherDeckReadsAsAnotherModel)
     }
 }
 
-struct block_case {
+const struct {
     const char* what;
     bool (*is_there)(const SdReader& model);
-};
-
-const block_case kBlocks[] = {
+} blocks[] = {
     {"surfaces", [](const SdReader& m) { return !m.surfaces.empty(); }},
     {"elements", [](const SdReader& m) { return !m.shell_index.empty(); }},
     {"an element number that no element has",
@@ -123,14 +96,14 @@ const block_case kBlocks[] = {
 /// Every block stands in many of the decks: the generator has not quietly stopped making one.
 TEST(RandomDeck, EveryBlockIsMetOften)
 {
-    std::array<int, std::size(kBlocks)> met{};
+    std::array<int, std::size(blocks)> met{};
     for (std::uint64_t seed = 1; seed <= 200; ++seed) {
         const decks::random_deck deck = decks::make_random_deck(seed, 12);
         for (std::size_t i = 0; i < met.size(); ++i)
-            met[i] += kBlocks[i].is_there(deck.model) ? 1 : 0;
+            met[i] += blocks[i].is_there(deck.model) ? 1 : 0;
     }
     for (std::size_t i = 0; i < met.size(); ++i)
-        EXPECT_GE(met[i], 5) << kBlocks[i].what;
+        EXPECT_GE(met[i], 5) << blocks[i].what;
 }
 
 } // namespace

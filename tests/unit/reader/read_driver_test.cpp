@@ -1,8 +1,10 @@
 /// When a text is a model and when not, what is left in the object, and the ways in.
 
 #include "staad/report/read_report.h"
+#include "tests/support/deck.h"
 #include "tests/support/filled_records.h"
 #include "tests/support/model_equal.h"
+#include "tests/support/shown.h"
 #include "tests/support/temporary_file.h"
 
 #include <gtest/gtest.h>
@@ -35,13 +37,11 @@ const char* const small_frame = "STAAD SPACE\n"
                                 "MATERIAL STEEL MEMB 1 TO 2\n"
                                 "FINISH\n";
 
-struct verdict_row {
+const struct {
     const char* why;
     const char* text;
     bool want;
-};
-
-const verdict_row verdicts[] = {
+} verdicts[] = {
     {"the least of all models", "UNIT METER KN\nJOINT COORDINATES\nMEMBER INCIDENCES", true},
     {"no text", "", false},
     {"blank lines only", "\n \n\t\n", false},
@@ -74,9 +74,9 @@ const verdict_row verdicts[] = {
      "* ---\nUNIT METER KN\n*--\nJOINT COORDINATES\n1 0 0 0\n* ------\nMEMBER INCIDENCES\n", true},
 };
 
-TEST(ReadText, TellsWhetherItFoundAModel)
+TEST(ReadText, ReturnsWhetherItFoundAModel)
 {
-    for (const verdict_row& c : verdicts)
+    for (const auto& c : verdicts)
         EXPECT_EQ(SdReader().ReadSDDataFromText(c.text), c.want) << c.why;
 }
 
@@ -92,10 +92,7 @@ TEST(ReadText, LeavesUnitAndFactorsAloneWhenThereIsNoUnitLine)
         EXPECT_EQ(model.length_factor, 12 * 25.4);
         EXPECT_EQ(model.force_factor, 4.445206);
         EXPECT_EQ(model.force_length_factor, 4.445206 * 25.4);
-        EXPECT_TRUE(model.nodes.empty());
-        EXPECT_TRUE(model.beams.empty());
-        EXPECT_TRUE(model.node_index.empty());
-        EXPECT_TRUE(model.beam_index.empty());
+        EXPECT_EQ(filled_containers(model), texts{"unit_text"});
     }
 }
 
@@ -110,20 +107,16 @@ TEST(ReadText, HasUnitAndFactorsButNoJointsWhenTheJointBlockIsIncomplete)
         EXPECT_EQ(model.length_factor, 10.0);
         EXPECT_EQ(model.force_factor, 9.8);
         EXPECT_EQ(model.force_length_factor, 1000.0);
-        EXPECT_TRUE(model.nodes.empty());
-        EXPECT_TRUE(model.node_index.empty());
-        EXPECT_TRUE(model.beams.empty());
+        EXPECT_EQ(filled_containers(model), texts{"unit_text"});
     }
 }
 
-struct unit_row {
+const struct {
     const char* why;
     const char* head;
     const char* unit_text;
     double length;
-};
-
-const unit_row unit_lines[] = {
+} unit_lines[] = {
     {"the line as it stands", "UNIT   CM  MTON \n", "UNIT   CM  MTON ", 10.0},
     {"the first one counts", "UNIT CM MTON\nUNIT METER KN\n", "UNIT CM MTON", 10.0},
     {"even one inside a user table",
@@ -137,7 +130,7 @@ const unit_row unit_lines[] = {
 
 TEST(ReadText, TakesTheFirstUnitLine)
 {
-    for (const unit_row& c : unit_lines) {
+    for (const auto& c : unit_lines) {
         SCOPED_TRACE(c.why);
         SdReader model;
         EXPECT_TRUE(model.ReadSDDataFromText(std::string(c.head) + "JOINT COORDINATES\nMEMBER INCIDENCES\nFINISH\n"));
@@ -209,10 +202,7 @@ TEST(ReadText, ReadsTheSameModelTwice)
 TEST(ReadFile, ReadsWhatTheTextHolds)
 {
     const std::string plain = small_frame;
-    std::string dos = "\xEF\xBB\xBF";
-    for (const char c : plain)
-        dos += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    dos += "\x1A";
+    const std::string dos = "\xEF\xBB\xBF" + decks::with_cr(plain) + "\x1A";
     for (const std::string& text :
          {plain, dos, std::string(), std::string("UNIT METER KN\nJOINT COORDINATES\n1 0 0 0")}) {
         SCOPED_TRACE(text);
@@ -248,18 +238,24 @@ TEST(ReadText, MayReadATextThatTheModelItselfHolds)
     EXPECT_EQ(model_differences(model, other), texts());
 }
 
+/// Codes of what is reported of a file that gives no model.
+std::string codes_of(const char* path)
+{
+    SdReader model;
+    ReadReport report;
+    EXPECT_FALSE(model.ReadSDDataFromStdFile(path, report));
+    EXPECT_EQ(report.worst(), Finding::Error);
+    return shown_fields(report.findings, &Finding::code);
+}
+
 #ifndef _WIN32
 TEST(ReadFile, RefusesAPipeThatWouldNeverEnd)
 {
     const temporary_file file("");
     const std::string pipe = std::string(file.path()) + ".pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    SdReader model;
-    ReadReport report;
-    EXPECT_FALSE(model.ReadSDDataFromStdFile(pipe.c_str(), report));
+    EXPECT_EQ(codes_of(pipe.c_str()), "file-access");
     std::filesystem::remove(pipe);
-    ASSERT_EQ(report.findings.size(), 1U);
-    EXPECT_EQ(report.findings[0].code, "file-access");
 }
 
 TEST(ReadFile, RefusesAWriteProtectedFile)
@@ -268,33 +264,23 @@ TEST(ReadFile, RefusesAWriteProtectedFile)
     std::filesystem::permissions(file.path(), std::filesystem::perms::owner_read);
     if (access(file.path(), W_OK) == 0)
         GTEST_SKIP() << "this user may write to everything";
-    SdReader model;
-    ReadReport report;
-    EXPECT_FALSE(model.ReadSDDataFromStdFile(file.path(), report));
-    ASSERT_EQ(report.findings.size(), 1U);
-    EXPECT_EQ(report.findings[0].code, "file-access");
+    EXPECT_EQ(codes_of(file.path()), "file-access");
 }
 #endif
 
 TEST(ReadFile, FindsNoModelInWhatCannotBeOpened)
 {
     const temporary_file file("");
-    const std::filesystem::path folder = std::filesystem::path(file.path()).parent_path();
-    const std::string missing = (folder / "missing.std").string();
-    const std::string directory = folder.string();
-    for (const char* path : {missing.c_str(), directory.c_str(), "", static_cast<const char*>(nullptr)}) {
+    const std::string folder = std::filesystem::path(file.path()).parent_path().string();
+    const std::string missing = folder + "/missing.std";
+    for (const char* path : {missing.c_str(), folder.c_str(), "", static_cast<const char*>(nullptr)}) {
         SCOPED_TRACE(path == nullptr ? "null" : path);
         SdReader model;
         ASSERT_TRUE(model.ReadSDDataFromText(small_frame));
         EXPECT_FALSE(model.ReadSDDataFromStdFile(path));
-        EXPECT_TRUE(model.nodes.empty());
-        EXPECT_TRUE(model.beams.empty());
-        EXPECT_TRUE(model.shells.empty());
+        EXPECT_TRUE(model.nodes.empty() && model.beams.empty() && model.shells.empty());
         EXPECT_EQ(model.unit_text, "UNIT METER KN");
-        ReadReport report;
-        EXPECT_FALSE(model.ReadSDDataFromStdFile(path, report));
-        EXPECT_FALSE(report.findings.empty()) << "the report says why";
-        EXPECT_EQ(report.worst(), Finding::Error);
+        EXPECT_EQ(codes_of(path), path == folder.c_str() ? "file-access" : "file-missing");
     }
     EXPECT_FALSE(std::filesystem::exists(missing)) << "nothing is made";
 }

@@ -1,6 +1,7 @@
 /// Joint, member and element blocks as the driver reads them.
 
 #include "tests/support/deck.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
@@ -131,10 +132,8 @@ TEST(MemberBlock, BuildsOneRecordPerItem)
 TEST(MemberBlock, TurnsJointNumbersToPositions)
 {
     const SdReader model = read_members("1 11 12; 2 14 13");
-    EXPECT_EQ(model.beams.at(0).node_start, 1);
-    EXPECT_EQ(model.beams.at(0).node_end, 2);
-    EXPECT_EQ(model.beams.at(1).node_start, 4);
-    EXPECT_EQ(model.beams.at(1).node_end, 3);
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::node_start), "1 4");
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::node_end), "2 3");
     EXPECT_EQ(model.beam_index, (index{{1, 1}, {2, 2}}));
     EXPECT_EQ(model.node_index, (index{{11, 1}, {12, 2}, {13, 3}, {14, 4}}));
 }
@@ -142,14 +141,10 @@ TEST(MemberBlock, TurnsJointNumbersToPositions)
 TEST(MemberBlock, EntersUnknownJointsWithPositionZero)
 {
     const SdReader model = read_members("1 11 77; 2 -5 12; 3 14; 4");
-    EXPECT_EQ(model.beams.at(0).node_start, 1);
-    EXPECT_EQ(model.beams.at(0).node_end, 0);
-    EXPECT_EQ(model.beams.at(1).node_start, 0);
-    EXPECT_EQ(model.beams.at(1).node_end, 2);
-    EXPECT_EQ(model.beams.at(2).node_end, 0);
-    EXPECT_EQ(model.beams.at(3).node_start, 0);
-    const index want = {{-5, 0}, {0, 0}, {11, 1}, {12, 2}, {13, 3}, {14, 4}, {77, 0}};
-    EXPECT_EQ(model.node_index, want) << "a missing number reads as joint 0";
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::node_start), "1 0 4 0");
+    EXPECT_EQ(shown_fields(model.beams, &SdBeam::node_end), "0 2 0 0");
+    EXPECT_EQ(shown(model.node_index), "-5: 0; 0: 0; 11: 1; 12: 2; 13: 3; 14: 4; 77: 0")
+        << "a missing number reads as joint 0";
     EXPECT_EQ(model.nodes.size(), 4u);
 }
 

@@ -2,6 +2,7 @@
 
 #include "staad/model/sd_reader.h"
 #include "tests/support/deck.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
@@ -11,18 +12,16 @@
 namespace STAAD {
 namespace {
 
-struct header {
-    const char* why;
-    const char* line;
-    int id;
-    const char* type_text;
-    const char* title;
-};
-
 TEST(ReadLoadCases, ReadsTheHeader)
 {
     // Those of six words and more are load_case_test's.
-    const header rows[] = {
+    const struct {
+        const char* why;
+        const char* line;
+        int id;
+        const char* type_text;
+        const char* title;
+    } rows[] = {
         {"six words and more", "LOAD 3 LOADTYPE Roof  Live TITLE EQ  X DIR ", 3, "Roof Live", "EQ X DIR"},
         {"six words, a signed number", "LOAD +5 LOADTYPE Dead TITLE DL", 5, "Dead", "DL"},
         {"five words: number only", "LOAD 6 LOADTYPE Dead TITLE", 6, "", ""},
@@ -35,7 +34,7 @@ TEST(ReadLoadCases, ReadsTheHeader)
         {"any word that begins so", "LOADING 8", 8, "", ""},
         {"a number past 32 bits", "LOAD 99999999999", 2147483647, "", ""},
     };
-    for (const header& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(std::string(row.line) + ": " + row.why);
         const SdReader model = decks::read_frame({row.line, "SELFWEIGHT Y -1"});
         ASSERT_EQ(model.load_cases.size(), 1U);
@@ -49,59 +48,49 @@ TEST(ReadLoadCases, ReadsTheHeader)
     }
 }
 
-struct section {
-    const char* why;
-    decks::lines lines; ///< the last lines of the file
-    std::vector<int> cases;
-    std::vector<int> cases_of_loads;
-};
-
 TEST(ReadLoadCases, ReadsFromTheFirstHeaderToTheCombinations)
 {
-    const section rows[] = {
-        {"no header, no loads", {"SELFWEIGHT Y -1", "FINISH"}, {}, {}},
-        {"loads before the first header are not read", {"SELFWEIGHT Y -1", "LOAD 2", "FINISH"}, {2}, {}},
-        {"a header begins its line", {" LOAD 2", "SELFWEIGHT Y -1", "FINISH"}, {}, {}},
-        {"the last line of the file is never read", {"LOAD 2", "SELFWEIGHT Y -1", "SELFWEIGHT X -1"}, {2}, {2}},
-        {"not even a header", {"LOAD 2", "SELFWEIGHT Y -1", "LOAD 3"}, {2}, {2}},
-        {"not even the only one", {"LOAD 2"}, {}, {}},
-        {"the line before the combinations is", {"LOAD 2", "SELFWEIGHT Y -1", "LOAD COMB 9 X"}, {2}, {2}},
-        {"what follows them is not", {"LOAD 2", "LOAD COMBINATION 9", "LOAD 3", "SELFWEIGHT Y -1", "FINISH"}, {2}, {}},
-        {"combinations before all cases hide them", {"LOAD COMB 9", "LOAD 2", "SELFWEIGHT Y -1", "FINISH"}, {}, {}},
+    const struct {
+        const char* why;
+        const char* lines; ///< the last of the file
+        const char* cases;
+        const char* cases_of_loads;
+    } rows[] = {
+        {"no header, no loads", "SELFWEIGHT Y -1\nFINISH", "-", "-"},
+        {"loads before the first header are not read", "SELFWEIGHT Y -1\nLOAD 2\nFINISH", "2", "-"},
+        {"a header begins its line", " LOAD 2\nSELFWEIGHT Y -1\nFINISH", "-", "-"},
+        {"the last line of the file is never read", "LOAD 2\nSELFWEIGHT Y -1\nSELFWEIGHT X -1", "2", "2"},
+        {"not even a header", "LOAD 2\nSELFWEIGHT Y -1\nLOAD 3", "2", "2"},
+        {"not even the only one", "LOAD 2", "-", "-"},
+        {"the line before the combinations is", "LOAD 2\nSELFWEIGHT Y -1\nLOAD COMB 9 X", "2", "2"},
+        {"what follows them is not", "LOAD 2\nLOAD COMBINATION 9\nLOAD 3\nSELFWEIGHT Y -1\nFINISH", "2", "-"},
+        {"combinations before all cases hide them", "LOAD COMB 9\nLOAD 2\nSELFWEIGHT Y -1\nFINISH", "-", "-"},
         {"a header with a semicolon opens the section but not its case, and case 1 has no header",
-         {"LOAD 2;", "SELFWEIGHT Y -1", "LOAD 3", "SELFWEIGHT Y -1", "FINISH"},
-         {3},
-         {1, 3}},
+         "LOAD 2;\nSELFWEIGHT Y -1\nLOAD 3\nSELFWEIGHT Y -1\nFINISH", "3", "1 3"},
         {"later headers of one number take the place of the earlier",
-         {"LOAD 2", "SELFWEIGHT Y -1", "LOAD 3", "LOAD 2", "SELFWEIGHT Y -1", "FINISH"},
-         {2, 3},
-         {2, 2}},
-        {"cases are kept without loads", {"LOAD 9", "LOAD 2", "LOAD 5", "FINISH"}, {2, 5, 9}, {}},
-        {"commands between do not matter",
-         {"LOAD 2", "PERFORM ANALYSIS", "* LOAD 4", "SELFWEIGHT Y -1", "FINISH"},
-         {2},
-         {2}},
+         "LOAD 2\nSELFWEIGHT Y -1\nLOAD 3\nLOAD 2\nSELFWEIGHT Y -1\nFINISH", "2 3", "2 2"},
+        {"cases are kept without loads", "LOAD 9\nLOAD 2\nLOAD 5\nFINISH", "2 5 9", "-"},
+        {"commands between do not matter", "LOAD 2\nPERFORM ANALYSIS\n* LOAD 4\nSELFWEIGHT Y -1\nFINISH", "2", "2"},
     };
-    for (const section& row : rows) {
+    for (const auto& row : rows) {
         SCOPED_TRACE(row.why);
-        const SdReader model = decks::read(decks::open_frame_deck(row.lines));
+        const SdReader model = decks::read(decks::open_frame_deck({row.lines}));
         std::vector<int> cases;
         for (const auto& entry : model.load_cases)
             cases.push_back(entry.first);
+        EXPECT_EQ(shown(cases), row.cases);
         std::vector<int> cases_of_loads;
         for (const auto& entry : model.raw_load_defs)
             cases_of_loads.push_back(entry.second.load_case);
-        EXPECT_EQ(cases, row.cases);
-        EXPECT_EQ(cases_of_loads, row.cases_of_loads);
-        EXPECT_EQ(model.load_defs.size(), row.cases_of_loads.size());
+        EXPECT_EQ(shown(cases_of_loads), row.cases_of_loads);
+        EXPECT_EQ(model.load_defs.size(), cases_of_loads.size());
     }
 }
 
 TEST(ReadLoadCases, ALaterHeaderReplacesTheTextsToo)
 {
-    const SdReader model = decks::read_frame({"LOAD 2 LOADTYPE Dead TITLE DL", "LOAD 2"});
-    EXPECT_EQ(model.load_cases.at(2).type_text, "");
-    EXPECT_EQ(model.load_cases.at(2).title, "");
+    const LoadCase later = decks::read_frame({"LOAD 2 LOADTYPE Dead TITLE DL", "LOAD 2"}).load_cases.at(2);
+    EXPECT_EQ(later.type_text + later.title, "");
 }
 
 TEST(ReadLoadCases, BeforeTheFirstBlockTheTextBeginsWithABlank)

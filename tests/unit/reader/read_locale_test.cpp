@@ -2,35 +2,18 @@
 
 #include "staad/text/number.h"
 #include "tests/support/model_equal.h"
+#include "tests/support/random_deck.h"
 
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdint>
 #include <locale>
 #include <string>
 #include <vector>
 
 namespace STAAD {
 namespace {
-
-const char* const deck = "UNIT METER KN KN-M\n"
-                         "JOINT COORDINATES\n"
-                         "1 0.125 0.5 0.25; 2 1000.5 1e1 12345678.75\n"
-                         "MEMBER INCIDENCES\n"
-                         "1 1 2; 1234567 2 1\n"
-                         "ELEMENT INCIDENCES SHELL\n"
-                         "3 1 2 1\n"
-                         "ELEMENT PROPERTY\n"
-                         "3 TH 0.1999\n"
-                         "START GROUP DEFINITION\nMEMBER\n_G 1 1234567\nEND GROUP DEFINITION\n"
-                         "MEMBER PROPERTY\n"
-                         "1 1234567 TABLE ST PIPE OD 0.2195 ID 0.2\n"
-                         "CONSTANTS\n"
-                         "MATERIAL STEEL ALL\n"
-                         "BETA 22.5 MEMB 1\n"
-                         "SUPPORTS\n1 FIXED BUT MX\n"
-                         "MEMBER OFFSET\n1 START 0.125 0.25 0.5\n"
-                         "LOAD 1 LOADTYPE Dead TITLE DL\nMEMBER LOAD\n1 UNI GY -2.5 0.125 1.5\nFINISH\n";
 
 /// Decimal comma, thousands in groups of three with points.
 class comma_numbers : public std::numpunct<char> {
@@ -54,69 +37,56 @@ protected:
     const char* do_tolower(char* begin, const char* end) const override { return do_toupper(begin, end); }
 };
 
-class global_locale {
+/// Brings back the locales that were there, of C++ and of C.
+class locales_kept {
 public:
-    explicit global_locale(const std::locale& wanted) : before_(std::locale::global(wanted)) {}
-    global_locale(const global_locale&) = delete;
-    global_locale& operator=(const global_locale&) = delete;
-    ~global_locale() { std::locale::global(before_); }
-
-private:
-    std::locale before_;
-};
-
-/// The first of these C locales that the machine has; set until the end of the object.
-class c_locale {
-public:
-    c_locale() : before_(std::setlocale(LC_ALL, nullptr))
+    locales_kept() : of_c_(std::setlocale(LC_ALL, nullptr)) {}
+    locales_kept(const locales_kept&) = delete;
+    locales_kept& operator=(const locales_kept&) = delete;
+    ~locales_kept()
     {
-        for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "fr_FR.utf8", "German_Germany"}) {
-            found_ = std::setlocale(LC_ALL, name) != nullptr && *std::localeconv()->decimal_point == ',';
-            if (found_)
-                return;
-        }
+        std::locale::global(of_cpp_);
+        std::setlocale(LC_ALL, of_c_.c_str());
     }
-    c_locale(const c_locale&) = delete;
-    c_locale& operator=(const c_locale&) = delete;
-    ~c_locale() { std::setlocale(LC_ALL, before_.c_str()); }
-
-    bool has_comma() const { return found_; }
 
 private:
-    std::string before_;
-    bool found_ = false;
+    std::locale of_cpp_;
+    std::string of_c_;
 };
 
-SdReader read_deck()
+/// Sets the first of these C locales that the machine has.
+bool set_c_locale_with_comma()
 {
-    SdReader model;
-    EXPECT_TRUE(model.ReadSDDataFromText(deck));
-    return model;
+    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "fr_FR.utf8", "German_Germany"})
+        if (std::setlocale(LC_ALL, name) != nullptr && *std::localeconv()->decimal_point == ',')
+            return true;
+    return false;
 }
 
-/// Under the locale of the moment.
-void expect_what_was_read_before(const SdReader& plain)
+/// Under the locale of the moment, decks read as the models they were made from.
+void expect_same_meaning(const std::vector<decks::random_deck>& all)
 {
     EXPECT_EQ(detail::to_real("1.5"), 1.5);
     EXPECT_EQ(detail::to_real("1,5"), 1.0);
     EXPECT_EQ(detail::to_int("1.234"), 1);
-    EXPECT_EQ(model_differences(read_deck(), plain), std::vector<std::string>());
+    for (const decks::random_deck& deck : all) {
+        SdReader model;
+        EXPECT_TRUE(model.ReadSDDataFromText(deck.text));
+        EXPECT_EQ(model_differences(model, deck.model), std::vector<std::string>());
+    }
 }
 
 TEST(Locale, ChangesNoModel)
 {
-    const SdReader plain = read_deck();
-    EXPECT_EQ(plain.nodes.at(0).y, 125.0);
-    EXPECT_EQ(plain.shells.at(0).thickness, 199);
-    {
-        const std::locale commas(std::locale::classic(), new comma_numbers);
-        const global_locale while_reading(std::locale(commas, new odd_letters));
-        expect_what_was_read_before(plain);
-    }
-    const c_locale while_reading;
-    if (!while_reading.has_comma())
+    std::vector<decks::random_deck> all;
+    for (std::uint64_t seed = 7001; seed <= 7040; ++seed)
+        all.push_back(decks::make_random_deck(seed, 20));
+    const locales_kept kept;
+    std::locale::global(std::locale(std::locale(std::locale::classic(), new comma_numbers), new odd_letters));
+    expect_same_meaning(all);
+    if (!set_c_locale_with_comma())
         GTEST_SKIP() << "this machine has no locale with a decimal comma";
-    expect_what_was_read_before(plain);
+    expect_same_meaning(all);
 }
 
 } // namespace

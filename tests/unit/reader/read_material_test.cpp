@@ -88,22 +88,14 @@ TEST(ReadMaterial, FindsTheBlock)
     });
 }
 
-TEST(ReadMaterial, FindsTheBlockBeforeTheMembers)
+TEST(ReadMaterial, IsReadInEveryReadingWhateverTheUnitsAndThePlace)
 {
-    EXPECT_EQ(decks::read(decks::joined(concrete({"LAMBDA 20"})) + decks::frame_deck({})).concrete_density, 20.0);
-}
-
-TEST(ReadMaterial, IsNotScaledByTheUnits)
-{
-    EXPECT_EQ(decks::read_frame(concrete({"LAMBDA 20"}), {"UNIT FEET KIP", 2}).concrete_density, 20.0);
-}
-
-TEST(ReadMaterial, EachReadingStartsFromTheUsualDensity)
-{
-    SdReader model = decks::read_frame(concrete({"LAMBDA 20"}));
-    ASSERT_EQ(model.concrete_density, 20.0);
+    const decks::lines block = concrete({"LAMBDA 20"});
+    EXPECT_EQ(decks::read(decks::joined(block) + decks::frame_deck({})).concrete_density, 20.0) << "before the members";
+    SdReader model = decks::read_frame(block, {"UNIT FEET KIP", 2});
+    EXPECT_EQ(model.concrete_density, 20.0) << "not scaled by the units";
     ASSERT_TRUE(model.ReadSDDataFromText(decks::frame_deck({})));
-    EXPECT_EQ(model.concrete_density, usual_density);
+    EXPECT_EQ(model.concrete_density, usual_density) << "each reading starts from it";
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "staad/model/sd_reader.h"
 #include "tests/support/deck.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
@@ -96,48 +97,40 @@ TEST(ReadProperties, WritesPrismaticSectionsByTheirValues)
     });
 }
 
-struct member_list {
-    const char* why;
-    const char* line;
-    std::vector<int> want;
-};
-
-std::vector<int> members_with_section(const SdReader& model)
+/// Their numbers.
+std::string members_with_section(const SdReader& model)
 {
     std::vector<int> found;
     for (const SdBeam& member : model.beams)
         if (!member.sect_name.empty())
             found.push_back(member.id);
-    return found;
+    return shown(found);
 }
 
+/// All of the rule of lists is id_list_test's.
 TEST(ReadProperties, GivesTheSectionToTheListedMembers)
 {
-    const member_list lists[] = {
-        {"range and number", "1 TO 4 7 TABLE ST W12X26", {1, 2, 3, 4, 7}},
-        {"the last three words name no members", "1 2 3 4 TABLE A", {1, 2, 3}},
-        {"not even if they are numbers", "1 2 3 PRIS", {1}},
-        {"a TO cut off from its bound ends the list", "1 TO 4 TABLE A", {1}},
-        {"a range begins after the last number that stands alone, not after a bound", "6 TO 3 TO 5 TABLE ST A", {6}},
-        {"a range without a number before it begins at 1", "TO 3 TABLE ST A", {1, 2, 3}},
-        {"0 ends the list", "1 0 2 TABLE ST A", {1}},
-        {"a word ends the list", "1 2 ALL 3 TABLE ST A", {1, 2}},
-        {"a bound below 1 ends the list", "1 TO 0 3 TABLE ST A", {1}},
-        {"a falling range lists no member", "5 TO 3 6 TABLE ST A", {5, 6}},
-        {"unknown numbers are passed over", "1 99 2 TO 3 TABLE ST A", {1, 2, 3}},
-        {"a word after TO is a bound of 0", "2 TO TABLE ST A B", {2}},
-        {"no list", "TABLE ST W12X26 1", {}},
-        {"three words are no property line", "1 PRIS YD", {}},
-        {"a line without keyword", "1 2 ST W12X26", {}},
-        {"TABLE as the last word is no keyword", "1 2 3 TABLE", {}},
-        {"TABLE at the end of a longer word neither", "1 XTABLE ST A", {}},
-        {"small letters neither", "1 table st w12x26", {}},
+    const std::vector<decks::row> lists = {
+        {"range and number", "1 TO 4 7 TABLE ST W12X26", "1 2 3 4 7"},
+        {"the last three words name no members", "1 2 3 4 TABLE A", "1 2 3"},
+        {"not even if they are numbers", "1 2 3 PRIS", "1"},
+        {"a TO cut off from its bound ends the list", "1 TO 4 TABLE A", "1"},
+        {"a range begins after the last number that stands alone, not after a bound", "6 TO 3 TO 5 TABLE ST A", "6"},
+        {"0 ends the list", "1 0 2 TABLE ST A", "1"},
+        {"unknown numbers are passed over", "1 99 2 TO 3 TABLE ST A", "1 2 3"},
+        {"a word after TO is a bound of 0", "2 TO TABLE ST A B", "2"},
+        {"no list", "TABLE ST W12X26 1", "-"},
+        {"three words are no property line", "1 PRIS YD", "-"},
+        {"a line without keyword", "1 2 ST W12X26", "-"},
+        {"TABLE as the last word is no keyword", "1 2 3 TABLE", "-"},
+        {"TABLE at the end of a longer word neither", "1 XTABLE ST A", "-"},
+        {"small letters neither", "1 table st w12x26", "-"},
     };
-    for (const member_list& row : lists) {
-        const SdReader model = decks::read_frame({"MEMBER PROPERTY", row.line}, {metres, 8});
-        EXPECT_EQ(members_with_section(model), row.want) << row.line << ": " << row.why;
-        EXPECT_EQ(model.beam_index.size(), 8U) << "no number enters the index: " << row.line;
-    }
+    const auto listed = [](const SdReader& model) {
+        EXPECT_EQ(model.beam_index.size(), 8U) << "no number enters the index";
+        return members_with_section(model);
+    };
+    decks::expect_read(lists, listed, {metres, 8}, "MEMBER PROPERTY");
 }
 
 TEST(ReadProperties, SetsFourFieldsAndLeavesOtherMembersEmpty)
@@ -172,69 +165,48 @@ TEST(ReadProperties, OfTwoMembersWithOneNumberTheLastGetsTheSection)
     EXPECT_EQ(model.beams.at(1).sect_text, "TABLE ST A");
 }
 
-struct code_line {
-    const char* why;
-    decks::lines lines;
-    const char* want;
-};
-
 TEST(ReadProperties, KeepsTheCodeOfTheLatestKeywordLine)
 {
-    const code_line rows[] = {
-        {"one word", {"MEMBER PROPERTY AMERICAN"}, "AMERICAN"},
-        {"a bare keyword empties it", {"MEMBER PROPERTY"}, ""},
-        {"a second line switches", {"MEMBER PROPERTY AMERICAN", "MEMBER PROPERTY INDIAN"}, "INDIAN"},
-        {"and a bare second line empties", {"MEMBER PROPERTY AMERICAN", "MEMBER PROPERTY "}, ""},
-        {"blanks and tabs are trimmed at both ends, nothing inside",
-         {"MEMBER PROPERTY \t \"GB 50017\" \t"},
+    const decks::row rows[] = {
+        {"one word", "MEMBER PROPERTY AMERICAN", "AMERICAN"},
+        {"a bare keyword empties it", "MEMBER PROPERTY", ""},
+        {"a second line switches", "MEMBER PROPERTY AMERICAN\nMEMBER PROPERTY INDIAN", "INDIAN"},
+        {"and a bare second line empties", "MEMBER PROPERTY AMERICAN\nMEMBER PROPERTY ", ""},
+        {"blanks and tabs are trimmed at both ends, nothing inside", "MEMBER PROPERTY \t \"GB 50017\" \t",
          "\"GB 50017\""},
-        {"no blank is needed", {"MEMBER PROPERTYX"}, "X"},
+        {"no blank is needed", "MEMBER PROPERTYX", "X"},
         {"the keyword may stand anywhere; the code still starts at the 16th character",
-         {"MEMBER PROPERTY", "* MEMBER PROPERTY INDIAN"},
-         "TY INDIAN"},
+         "MEMBER PROPERTY\n* MEMBER PROPERTY INDIAN", "TY INDIAN"},
         {"a keyword line assigns nothing, even with numbers",
-         {"MEMBER PROPERTY A", "1 TABLE ST B", "1 TABLE ST MEMBER PROPERTY"},
-         "ER PROPERTY"},
+         "MEMBER PROPERTY A\n1 TABLE ST B\n1 TABLE ST MEMBER PROPERTY", "ER PROPERTY"},
     };
-    for (const code_line& row : rows) {
-        decks::lines block = row.lines;
-        block.emplace_back("1 TABLE ST W12X26");
-        const SdReader model = decks::read_frame(block);
+    for (const decks::row& row : rows) {
+        const SdReader model = decks::read_frame({row.lines, "1 TABLE ST W12X26"});
         EXPECT_EQ(decks::member(model, 1).sect_country, row.want) << row.why;
         EXPECT_EQ(decks::member(model, 1).sect_text, "TABLE ST W12X26") << row.why;
     }
 }
 
-struct block_bounds {
-    const char* why;
-    decks::lines lines;
-    std::vector<int> want;
-};
-
 TEST(ReadProperties, ReadsFromTheKeywordToConstants)
 {
-    const block_bounds rows[] = {
-        {"no block", {"1 TABLE ST A"}, {}},
-        {"a block begins with its keyword", {"1 TABLE ST A", "MEMBER PROPERTY", "2 TABLE ST A"}, {2}},
-        {"which begins its line", {" MEMBER PROPERTY", "1 TABLE ST A"}, {}},
-        {"and ends at CONSTANTS", {"MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"}, {1}},
-        {"the whole line", {"MEMBER PROPERTY", "CONSTANTS ", "CONSTANTS 1", "1 TABLE ST A"}, {1}},
-        {"without CONSTANTS at the end of the file", {"MEMBER PROPERTY", "SUPPORTS", "1 FIXED", "2 TABLE ST A"}, {2}},
+    const std::vector<decks::row> rows = {
+        {"no block", "1 TABLE ST A", "-"},
+        {"a block begins with its keyword", "1 TABLE ST A\nMEMBER PROPERTY\n2 TABLE ST A", "2"},
+        {"which begins its line", " MEMBER PROPERTY\n1 TABLE ST A", "-"},
+        {"and ends at CONSTANTS", "MEMBER PROPERTY\n1 TABLE ST A\nCONSTANTS\n2 TABLE ST A", "1"},
+        {"the whole line", "MEMBER PROPERTY\nCONSTANTS \nCONSTANTS 1\n1 TABLE ST A", "1"},
+        {"without CONSTANTS at the end of the file", "MEMBER PROPERTY\nSUPPORTS\n1 FIXED\n2 TABLE ST A", "2"},
         {"if CONSTANTS stands before the block, too, even if there is one more after",
-         {"CONSTANTS", "MEMBER PROPERTY", "1 TABLE ST A", "CONSTANTS", "2 TABLE ST A"},
-         {1, 2}},
-        {"lines between that are no properties do not matter",
-         {"MEMBER PROPERTY", "* beams", "FLOOR", "3 TABLE ST A"},
-         {3}},
+         "CONSTANTS\nMEMBER PROPERTY\n1 TABLE ST A\nCONSTANTS\n2 TABLE ST A", "1 2"},
+        {"lines between that are no properties do not matter", "MEMBER PROPERTY\n* beams\nFLOOR\n3 TABLE ST A", "3"},
     };
-    for (const block_bounds& row : rows)
-        EXPECT_EQ(members_with_section(decks::read_frame(row.lines)), row.want) << row.why;
+    decks::expect_read(rows, members_with_section);
 }
 
 TEST(ReadProperties, ReadsContinuedLines)
 {
     const SdReader model = decks::read_frame({"MEMBER PROPERTY", "1 TO 2 -", "4 TABLE ST -", "W12X26"});
-    EXPECT_EQ(members_with_section(model), (std::vector<int>{1, 2, 4}));
+    EXPECT_EQ(members_with_section(model), "1 2 4");
     EXPECT_EQ(decks::member(model, 4).sect_text, "TABLE ST  W12X26");
 }
 

@@ -3,121 +3,84 @@
 #include "staad/model/sd_reader.h"
 #include "tests/support/deck.h"
 #include "tests/support/sd_reader_access.h"
+#include "tests/support/shown.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
-#include <ostream>
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace STAAD {
 namespace {
 
 using access = detail::sd_reader_access;
-using rows = std::map<std::string, std::string>;
 
-struct table {
-    std::string unit;
-    std::string type;
-    rows records;
-
-    friend bool operator==(const table&, const table&) = default;
-};
-
-std::map<int, table> tables_of(const SdReader& model)
+/// "1: UNIT METER KN, TEE | T1 = 1 | 1 = END" is table 1 with its unit line, its family and two rows.
+std::string tables_of(const SdReader& model)
 {
-    std::map<int, table> found;
-    for (const auto& [number, one] : model.usr_tables)
-        found[number] = {one.unit, one.type, one.records};
-    return found;
+    std::map<int, std::string> tables;
+    for (const auto& [number, table] : model.usr_tables) {
+        tables[number] = table.unit + ", " + table.type;
+        for (const auto& [name, text] : table.records)
+            tables[number] += " | " + name + " = " + text;
+    }
+    return shown(tables);
 }
-
-void PrintTo(const table& one, std::ostream* out)
-{
-    *out << "{" << one.unit << ", " << one.type << ", " << ::testing::PrintToString(one.records) << "}";
-}
-
-struct table_block {
-    const char* why;
-    decks::lines lines;
-    std::map<int, table> want;
-};
 
 TEST(ReadUserTable, KeepsEveryLineOfTheBlockUnderItsTable)
 {
-    const table_block blocks[] = {
-        {"no block, no tables", {"W1", "0.3 0.2"}, {}},
-        {"an empty block creates no table", {"START USER TABLE", "END"}, {}},
+    const std::vector<decks::row> blocks = {
+        {"no block, no tables", "W1\n0.3 0.2", "-"},
+        {"an empty block creates no table", "START USER TABLE\nEND", "-"},
         {"a row is a line and the line after it; the last line pairs with END",
-         {"START USER TABLE", "TABLE 1", "UNIT METER KN", "WIDE FLANGE", "W12X26", "0.3 0.15 0.0065 0.009", "END"},
-         {{1,
-           {"UNIT METER KN", "WIDE FLANGE", {{"W12X26", "0.3 0.15 0.0065 0.009"}, {"0.3 0.15 0.0065 0.009", "END"}}}}}},
+         "START USER TABLE\nTABLE 1\nUNIT METER KN\nWIDE FLANGE\nW12X26\n0.3 0.15 0.0065 0.009\nEND",
+         "1: UNIT METER KN, WIDE FLANGE | 0.3 0.15 0.0065 0.009 = END | W12X26 = 0.3 0.15 0.0065 0.009"},
         {"dimension lines are names of the next line, too",
-         {"START USER TABLE", "TABLE 3", "UNIT INCHES KIP", "PIPE", "P1", "1 2", "P2", "3 4", "END"},
-         {{3, {"UNIT INCHES KIP", "PIPE", {{"P1", "1 2"}, {"1 2", "P2"}, {"P2", "3 4"}, {"3 4", "END"}}}}}},
+         "START USER TABLE\nTABLE 3\nUNIT INCHES KIP\nPIPE\nP1\n1 2\nP2\n3 4\nEND",
+         "3: UNIT INCHES KIP, PIPE | 1 2 = P2 | 3 4 = END | P1 = 1 2 | P2 = 3 4"},
         {"a second table takes the rows after it",
-         {"START USER TABLE", "TABLE 1", "UNIT METER KN", "TEE", "T1", "1", "TABLE 2", "UNIT METER KN", "ANGLE", "A1",
-          "2", "END"},
-         {{1, {"UNIT METER KN", "TEE", {{"T1", "1"}, {"1", "TABLE 2"}}}},
-          {2, {"UNIT METER KN", "ANGLE", {{"A1", "2"}, {"2", "END"}}}}}},
+         "START USER TABLE\nTABLE 1\nUNIT METER KN\nTEE\nT1\n1\nTABLE 2\nUNIT METER KN\nANGLE\nA1\n2\nEND",
+         "1: UNIT METER KN, TEE | 1 = TABLE 2 | T1 = 1; 2: UNIT METER KN, ANGLE | 2 = END | A1 = 2"},
         {"a table named again goes on: new unit and family, rows kept",
-         {"START USER TABLE", "TABLE 1", "UNIT METER KN", "TEE", "T1", "TABLE 1", "UNIT MMS KN", "TUBE", "U1", "END"},
-         {{1, {"UNIT MMS KN", "TUBE", {{"T1", "TABLE 1"}, {"U1", "END"}}}}}},
-        {"a repeated row takes the later line",
-         {"START USER TABLE", "TABLE 1", "UNIT METER KN", "TEE", "T1", "1", "T1", "2", "END"},
-         {{1, {"UNIT METER KN", "TEE", {{"T1", "2"}, {"1", "T1"}, {"2", "END"}}}}}},
-        {"no UNIT line: marked defaults, and the next line is a row",
-         {"START USER TABLE", "TABLE 2", "W12X26", "0.3 0.2", "END"},
-         {{2, {"00UNIT METER KN", "00WIDE FLANGE", {{"W12X26", "0.3 0.2"}, {"0.3 0.2", "END"}}}}}},
-        {"TABLE as the last line of the block: marked defaults",
-         {"START USER TABLE", "TABLE 4", "END"},
-         {{4, {"00UNIT METER KN", "00WIDE FLANGE", {}}}}},
-        {"UNIT as the last line of the block: no family",
-         {"START USER TABLE", "TABLE 4", "UNIT FEET KIP", "END"},
-         {{4, {"UNIT FEET KIP", "", {}}}}},
+         "START USER TABLE\nTABLE 1\nUNIT METER KN\nTEE\nT1\nTABLE 1\nUNIT MMS KN\nTUBE\nU1\nEND",
+         "1: UNIT MMS KN, TUBE | T1 = TABLE 1 | U1 = END"},
+        {"a repeated row takes the later line", "START USER TABLE\nTABLE 1\nUNIT METER KN\nTEE\nT1\n1\nT1\n2\nEND",
+         "1: UNIT METER KN, TEE | 1 = T1 | 2 = END | T1 = 2"},
+        {"no UNIT line: marked defaults, and the next line is a row", "START USER TABLE\nTABLE 2\nW12X26\n0.3 0.2\nEND",
+         "2: 00UNIT METER KN, 00WIDE FLANGE | 0.3 0.2 = END | W12X26 = 0.3 0.2"},
+        {"TABLE as the last line of the block: marked defaults", "START USER TABLE\nTABLE 4\nEND",
+         "4: 00UNIT METER KN, 00WIDE FLANGE"},
+        {"UNIT as the last line of the block: no family", "START USER TABLE\nTABLE 4\nUNIT FEET KIP\nEND",
+         "4: UNIT FEET KIP, "},
         {"the line after UNIT is the family, whatever it says",
-         {"START USER TABLE", "TABLE 4", "UNIT FEET KIP", "TABLE 5", "END"},
-         {{4, {"UNIT FEET KIP", "TABLE 5", {}}}}},
-        {"TABLE without a number is table 0",
-         {"START USER TABLE", "TABLE", "UNIT METER KN", "TEE", "T1", "1", "END"},
-         {{0, {"UNIT METER KN", "TEE", {{"T1", "1"}, {"1", "END"}}}}}},
-        {"a word instead of the number reads as 0",
-         {"START USER TABLE", "TABLE A", "UNIT METER KN", "TEE", "END"},
-         {{0, {"UNIT METER KN", "TEE", {}}}}},
+         "START USER TABLE\nTABLE 4\nUNIT FEET KIP\nTABLE 5\nEND", "4: UNIT FEET KIP, TABLE 5"},
+        {"TABLE without a number is table 0", "START USER TABLE\nTABLE\nUNIT METER KN\nTEE\nT1\n1\nEND",
+         "0: UNIT METER KN, TEE | 1 = END | T1 = 1"},
+        {"a word instead of the number reads as 0", "START USER TABLE\nTABLE A\nUNIT METER KN\nTEE\nEND",
+         "0: UNIT METER KN, TEE"},
         {"TABLE is tested as the beginning of the line, not as a word",
-         {"START USER TABLE", "TABLES 5", "UNIT METER KN", "TEE", "END"},
-         {{5, {"UNIT METER KN", "TEE", {}}}}},
-        {"rows before the first TABLE line go to table 1, made with its defaults",
-         {"START USER TABLE", "W1", "0.3 0.2", "END"},
-         {{1, {"UNIT METER KN", "", {{"W1", "0.3 0.2"}, {"0.3 0.2", "END"}}}}}},
-        {"without TABLE line a UNIT line is a row",
-         {"START USER TABLE", "UNIT MMS KN", "END"},
-         {{1, {"UNIT METER KN", "", {{"UNIT MMS KN", "END"}}}}}},
-        {"the keyword is a whole line", {"START USER TABLE ", "W1", "0.3", "END"}, {}},
-        {"END is a whole line",
-         {"START USER TABLE", "W1", "END 1", "END"},
-         {{1, {"UNIT METER KN", "", {{"W1", "END 1"}, {"END 1", "END"}}}}}},
-        {"only the first block is read",
-         {"START USER TABLE", "W1", "END", "START USER TABLE", "W2", "END"},
-         {{1, {"UNIT METER KN", "", {{"W1", "END"}}}}}},
+         "START USER TABLE\nTABLES 5\nUNIT METER KN\nTEE\nEND", "5: UNIT METER KN, TEE"},
+        {"rows before the first TABLE line go to table 1, made with its defaults", "START USER TABLE\nW1\n0.3 0.2\nEND",
+         "1: UNIT METER KN,  | 0.3 0.2 = END | W1 = 0.3 0.2"},
+        {"without TABLE line a UNIT line is a row", "START USER TABLE\nUNIT MMS KN\nEND",
+         "1: UNIT METER KN,  | UNIT MMS KN = END"},
+        {"the keyword is a whole line", "START USER TABLE \nW1\n0.3\nEND", "-"},
+        {"END is a whole line", "START USER TABLE\nW1\nEND 1\nEND", "1: UNIT METER KN,  | END 1 = END | W1 = END 1"},
+        {"only the first block is read", "START USER TABLE\nW1\nEND\nSTART USER TABLE\nW2\nEND",
+         "1: UNIT METER KN,  | W1 = END"},
     };
-    for (const table_block& block : blocks)
-        EXPECT_EQ(tables_of(decks::read_frame(block.lines)), block.want) << block.why;
+    decks::expect_read(blocks, tables_of);
 }
 
 TEST(ReadUserTable, RunsToTheEndOfTheFileWithoutEnd)
 {
-    const SdReader rows_last = decks::read(decks::open_frame_deck({"START USER TABLE", "W1", "0.3 0.2"}));
-    EXPECT_EQ(tables_of(rows_last),
-              (std::map<int, table>{{1, {"UNIT METER KN", "", {{"W1", "0.3 0.2"}, {"0.3 0.2", ""}}}}}));
-
-    const SdReader table_last = decks::read(decks::open_frame_deck({"START USER TABLE", "TABLE 6"}));
-    EXPECT_EQ(tables_of(table_last), (std::map<int, table>{{6, {"00UNIT METER KN", "00WIDE FLANGE", {}}}}));
-
-    const SdReader keyword_last = decks::read(decks::open_frame_deck({"START USER TABLE"}));
-    EXPECT_TRUE(keyword_last.usr_tables.empty());
+    const auto tables = [](const decks::lines& lines) { return tables_of(decks::read(decks::open_frame_deck(lines))); };
+    EXPECT_EQ(tables({"START USER TABLE", "W1", "0.3 0.2"}), "1: UNIT METER KN,  | 0.3 0.2 =  | W1 = 0.3 0.2");
+    EXPECT_EQ(tables({"START USER TABLE", "TABLE 6"}), "6: 00UNIT METER KN, 00WIDE FLANGE");
+    EXPECT_EQ(tables({"START USER TABLE"}), "-");
 }
 
 TEST(ReadUserTable, ReplacesTheTablesOfAnEarlierReading)
@@ -128,7 +91,8 @@ TEST(ReadUserTable, ReplacesTheTablesOfAnEarlierReading)
     EXPECT_TRUE(model.usr_tables.empty());
 }
 
-SdReader model_with_table(int number, const std::string& type, const rows& records, double length_factor)
+SdReader model_with_table(int number, const std::string& type, const std::map<std::string, std::string>& records,
+                          double length_factor)
 {
     SdReader model;
     model.length_factor = length_factor;
@@ -139,12 +103,11 @@ SdReader model_with_table(int number, const std::string& type, const rows& recor
 
 TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
 {
-    struct family {
+    const struct {
         const char* why;
         const char* word;
         UsrDefineSectionType want;
-    };
-    const family families[] = {
+    } families[] = {
         {"family 1", "WIDE FLANGE", WideFlange},
         {"family 2", "CHANNEL", Channel},
         {"family 3", "ANGLE", Angle},
@@ -161,7 +124,7 @@ TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
         {"none outside", "TEE ", UnknownSection},
         {"nothing", "", UnknownSection},
     };
-    for (const family& one : families) {
+    for (const auto& one : families) {
         const SdReader model = model_with_table(1, one.word, {{"R", "1 2"}}, 1.0);
         const auto [number, dimensions] = model.GetSectionFromUsrTable("UPTABLE 1 R");
         EXPECT_EQ(number, one.want) << one.word << ": " << one.why;
@@ -171,12 +134,11 @@ TEST(GetSectionFromUsrTable, NamesTheFamilyByItsExactWord)
 
 TEST(GetSectionFromUsrTable, FindsTheRowAndInsertsNothing)
 {
-    struct query {
+    const struct {
         const char* why;
         const char* text;
         std::pair<UsrDefineSectionType, std::string> want;
-    };
-    const query queries[] = {
+    } queries[] = {
         {"whole mm, truncated", "UPTABLE 1 W12X26", {WideFlange, "300X150X6X9"}},
         {"words after the row's name do not matter", "UPTABLE 1 W12X26 BETA 90", {WideFlange, "300X150X6X9"}},
         {"nor does the first word", "X  1  W12X26", {WideFlange, "300X150X6X9"}},
@@ -189,7 +151,7 @@ TEST(GetSectionFromUsrTable, FindsTheRowAndInsertsNothing)
         {"empty text", "", {UnknownSection, ""}},
     };
     const SdReader model = model_with_table(1, "WIDE FLANGE", {{"W12X26", "0.3 0.15 0.0065 0.009"}}, 1000.0);
-    for (const query& one : queries)
+    for (const auto& one : queries)
         EXPECT_EQ(model.GetSectionFromUsrTable(one.text), one.want) << one.text << ": " << one.why;
     EXPECT_EQ(model.usr_tables.size(), 1U);
     EXPECT_EQ(model.usr_tables.at(1).records.size(), 1U);
@@ -217,13 +179,12 @@ TEST(GetSectionFromUsrTable, ThrowsOnARowWithoutNumbers)
 
 TEST(ConvertSectionParamByUnit, TurnsEveryNumberIntoWholeMillimetres)
 {
-    struct conversion {
+    const struct {
         const char* why;
         double length_factor;
         const char* text;
         const char* want;
-    };
-    const conversion conversions[] = {
+    } conversions[] = {
         {"metres", 1000.0, "0.3 0.15 0.0065 0.009", "300X150X6X9"},
         {"blanks and X separate, in runs and at the ends too", 1.0, " X300X 150 X6XX9X ", "300X150X6X9"},
         {"one number", 10.0, "12", "120"},
@@ -235,7 +196,7 @@ TEST(ConvertSectionParamByUnit, TurnsEveryNumberIntoWholeMillimetres)
         {"words count as 0", 1000.0, "W12 0.3", "0X300"},
         {"past 32 bits the nearest limit", 1000.0, "1E300 -1E300", "2147483647X-2147483648"},
     };
-    for (const conversion& one : conversions) {
+    for (const auto& one : conversions) {
         SdReader model;
         model.length_factor = one.length_factor;
         EXPECT_EQ(access::ConvertSectionParamByUnit(model, one.text), one.want) << one.text << ": " << one.why;

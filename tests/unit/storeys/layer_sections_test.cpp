@@ -102,14 +102,9 @@ TEST(ProjectSections, AreAllThatDifferInTheirPropertyTexts)
 
 TEST(ProjectSections, HaveTheirFamilies)
 {
-    const StaadProProject_layered project = project_of(stack({{1, 2, "st hn300x150x6x9", "Q345"},
-                                                              {1, 2, "TAPERED500X8X300X200X10", "Q345"},
-                                                              {1, 2, "PRIS500X300", "C30"},
-                                                              {1, 2, "TABLE ST W12X26", "Q345"}}));
-    ASSERT_EQ(project.sections.size(), 5U);
-    const texts families = {"", "ST", "TAPERED", "PRIS", ""};
-    for (std::size_t i = 0; i < families.size(); ++i)
-        EXPECT_EQ(project.sections[i].type, families[i]) << project.sections[i].property;
+    const StaadProProject_layered project = project_of(stack({{1, 2, "st hn300x150x6x9", "Q345"}}));
+    EXPECT_EQ(project.sections.at(0).type, "");
+    EXPECT_EQ(project.sections.at(1).type, "ST");
     EXPECT_EQ(member(project, 103).section.type, "ST");
     EXPECT_EQ(member(project, 103).section.property, "ST HN300X150X6X9");
     EXPECT_EQ(member(project, 103).member.sect_text, "st hn300x150x6x9") << "the member's own text stays";

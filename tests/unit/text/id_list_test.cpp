@@ -8,6 +8,7 @@
 #include <climits>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -32,13 +33,11 @@ std::vector<Number> walk(std::string_view text, const detail::id_list_rule& rule
     return found;
 }
 
-struct list_row {
+const struct {
     const char* why;
     const char* text;
     ids want;
-};
-
-const list_row general_lists[] = {
+} general_lists[] = {
     {"single numbers", "1 2 3", {1, 2, 3}},
     {"both ends of a range belong to it", "1 TO 4 7", {1, 2, 3, 4, 7}},
     {"order and repeats are kept", "7 3 7", {7, 3, 7}},
@@ -77,20 +76,18 @@ const list_row general_lists[] = {
 
 TEST(IdList, ReadsNumbersAndRanges)
 {
-    for (const list_row& c : general_lists) {
+    for (const auto& c : general_lists) {
         EXPECT_EQ(ids_of_line(c.text), c.want) << c.why;
         EXPECT_EQ(walk<unsigned>(c.text, detail::general_id_list), c.want) << c.why << " (walker)";
     }
 }
 
-struct items_row {
+const struct {
     const char* why;
     std::vector<std::string> tokens;
     unsigned start;
     ids want;
-};
-
-const items_row item_lists[] = {
+} item_lists[] = {
     {"from the first", {"5", "TO", "8"}, 0, {5, 6, 7, 8}},
     {"from a later one", {"MEMB", "5", "TO", "8"}, 1, {5, 6, 7, 8}},
     {"from a TO: nothing came before", {"5", "TO", "2"}, 1, {1, 2}},
@@ -108,18 +105,16 @@ const items_row item_lists[] = {
 TEST(IdList, ReadsTokensFromAnIndexOn)
 {
     SdReader model;
-    for (const items_row& c : item_lists)
+    for (const auto& c : item_lists)
         EXPECT_EQ(access::extract_id_from_items(model, c.tokens, c.start), c.want) << c.why;
 }
 
-struct other_rule_row {
+const struct {
     const char* why;
     const char* text;
     std::vector<int> group;
     std::vector<int> surface;
-};
-
-const other_rule_row other_lists[] = {
+} other_lists[] = {
     {"numbers and a range", "1 TO 4 7", {1, 2, 3, 4, 7}, {1, 2, 3, 4, 7}},
     {"only in a group does the bound become the previous number",
      "1 TO 4 TO 6",
@@ -148,47 +143,38 @@ const other_rule_row other_lists[] = {
 
 TEST(IdList, HasARuleOfItsOwnForGroupsAndForSurfaces)
 {
-    for (const other_rule_row& c : other_lists) {
+    for (const auto& c : other_lists) {
         EXPECT_EQ(walk<int>(c.text, detail::group_id_list), c.group) << c.why << " (group)";
         EXPECT_EQ(walk<int>(c.text, detail::surface_id_list), c.surface) << c.why << " (surface)";
     }
 }
 
-TEST(IdListWalker, GivesRunsWithoutCountingThemOut)
+TEST(IdListWalker, GivesRangesWithoutCountingThemOut)
 {
     detail::id_list_walker<> walker(detail::word_cursor("5 1 TO 2000000000 FIXED"), detail::general_id_list);
-    detail::id_range run;
-    ASSERT_TRUE(walker.next(run));
-    EXPECT_EQ(run.first, 5);
-    EXPECT_EQ(run.last, 5);
-    EXPECT_FALSE(run.is_range);
-    ASSERT_TRUE(walker.next(run));
-    EXPECT_EQ(run.first, 1);
-    EXPECT_FALSE(run.is_range);
-    EXPECT_EQ(run.size(), 1u);
-    ASSERT_TRUE(walker.next(run));
-    EXPECT_EQ(run.first, 2);
-    EXPECT_EQ(run.last, 2000000000);
-    EXPECT_TRUE(run.is_range);
-    EXPECT_EQ(run.size(), 1999999999u);
-    EXPECT_FALSE(walker.next(run));
-    EXPECT_FALSE(walker.next(run)) << "an ended list stays ended";
+    const detail::id_range wanted[] = {{5, 5, false}, {1, 1, false}, {2, 2000000000, true}};
+    detail::id_range range;
+    for (const detail::id_range& want : wanted) {
+        ASSERT_TRUE(walker.next(range));
+        EXPECT_EQ(range.first, want.first);
+        EXPECT_EQ(range.last, want.last);
+        EXPECT_EQ(range.is_range, want.is_range);
+        EXPECT_EQ(range.size(), static_cast<std::size_t>(want.last - want.first + 1));
+    }
+    EXPECT_FALSE(walker.next(range));
+    EXPECT_FALSE(walker.next(range)) << "an ended list stays ended";
 }
 
 TEST(IdListWalker, LeavesTheWordsAfterTheList)
 {
-    struct row {
-        const char* text;
-        const char* after;
-    };
-    const row rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"1 TO 4 FIXED BUT MX", "FIXED BUT MX"}, {"3 0 4", "0 4"}, {"FIXED", "FIXED"}, {"1 2", ""}, {"", ""},
     };
-    for (const row& c : rows) {
-        detail::id_list_walker<> walker(detail::word_cursor(c.text), detail::general_id_list);
-        for (detail::id_range run; walker.next(run);) {
+    for (const auto& [text, after] : rows) {
+        detail::id_list_walker<> walker(detail::word_cursor(text), detail::general_id_list);
+        for (detail::id_range range; walker.next(range);) {
         }
-        EXPECT_EQ(detail::join_words(walker.after_list()), c.after) << c.text;
+        EXPECT_EQ(detail::join_words(walker.after_list()), after) << text;
     }
 }
 

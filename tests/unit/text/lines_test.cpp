@@ -159,14 +159,13 @@ TEST(LineList, FindsKeywordLines)
     detail::line_list lines =
         detail::line_list::from_text("UNIT A\nMEMBER\nMEMBER B\n* x\n1 MEMBER\nMEMBER\nUNIT\n", "");
     lines.prepare();
-    struct row {
+    const struct {
         const char* why;
         const char* keyword;
         std::size_t from;
         std::size_t equal;
         std::size_t start;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"first of its kind", "MEMBER", 0, 1, 1},
         {"the line searched from counts", "MEMBER", 1, 1, 1},
         {"a longer line only begins with it", "MEMBER", 2, 5, 2},
@@ -177,7 +176,7 @@ TEST(LineList, FindsKeywordLines)
         {"from past the end", "MEMBER", 9, 7, 7},
         {"longer than the line", "UNIT ABC", 0, 7, 7},
     };
-    for (const row& c : rows) {
+    for (const auto& c : rows) {
         EXPECT_EQ(lines.find_equal(c.keyword, c.from), c.equal) << c.why;
         EXPECT_EQ(lines.find_start(c.keyword, c.from), c.start) << c.why;
     }

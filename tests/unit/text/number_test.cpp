@@ -1,4 +1,5 @@
-/// Text to integers and to reals, and reals to integers.
+/// Text to integers and to reals, and reals to integers. What signs, points, exponents and blanks make of a text of
+/// digits is number_random_test's: it compares with the C library, which reads those the same way.
 
 #include "staad/text/number.h"
 
@@ -26,21 +27,15 @@ std::uint64_t bits(double value)
     return std::bit_cast<std::uint64_t>(value);
 }
 
-struct int_row {
+const struct {
     const char* why;
     std::string text;
     int want;
-};
-
-const int_row ints[] = {
+} ints[] = {
     {"nothing", "", 0},
     {"no digits", "TO", 0},
     {"every kind of leading white space", " \t\n\v\f\r7", 7},
-    {"a blank after the sign ends it", "- 5", 0},
-    {"two signs", "+-5", 0},
-    {"a sign alone", "-", 0},
     {"more zeros than any number has digits", std::string(400, '0') + "7", 7},
-    {"no exponents", "1e3", 1},
     {"no hexadecimal", "0x10", 0},
     {"a zero byte ends it", "12\0"s + "34", 12},
     {"a leading zero byte is no white space", "\0"s + "12", 0},
@@ -56,7 +51,7 @@ const int_row ints[] = {
 
 TEST(ToInt, ReadsLeadingDigits)
 {
-    for (const int_row& c : ints)
+    for (const auto& c : ints)
         EXPECT_EQ(to_int(c.text), c.want) << c.why;
 }
 
@@ -67,35 +62,19 @@ TEST(ToInt, ReadsNothingPastTheEndOfTheText)
     EXPECT_EQ(to_int(longer.substr(2, 0)), 0);
 }
 
-struct real_row {
+const struct {
     const char* why;
     std::string text;
     double want;
-};
-
-const real_row reals[] = {
+} reals[] = {
     {"no digits", "KN", 0.0},
     {"every kind of leading white space", " \t\n\v\f\r7.5", 7.5},
-    {"a blank after the sign ends it", "- 5", 0.0},
-    {"a sign and a point alone", "-.", 0.0},
     {"minus zero keeps its sign", "-0", -0.0},
-    {"no digits after the point", "1.", 1.0},
-    {"no digits before the point", ".5", 0.5},
-    {"with a sign", "-.5", -0.5},
-    {"a point alone", ".", 0.0},
-    {"no decimal comma", "1,5", 1.0},
     {"letters after are ignored", "2.5kN", 2.5},
     {"a zero byte ends it", "1.5\0"s + "7", 1.5},
     {"a zero byte after the point", "1.\0"s + "7", 1.0},
     {"no white space in other code pages", "\xA0" + "5"s, 0.0},
 
-    {"an exponent", "1.5E3", 1500.0},
-    {"right after the point", "1.e2", 100.0},
-    {"an e without digits", "1e", 1.0},
-    {"an e with a sign only", "1e+", 1.0},
-    {"an e with two signs", "1e+-2", 1.0},
-    {"its own point ends it", "1e2.5", 100.0},
-    {"no digits before the e", "e5", 0.0},
     {"no D exponents", "1D5", 1.0},
 
     {"no hexadecimal", "0x10", 0.0},
@@ -151,7 +130,7 @@ const real_row reals[] = {
 
 TEST(ToReal, ReadsTheLeadingNumberToTheLastBit)
 {
-    for (const real_row& c : reals)
+    for (const auto& c : reals)
         EXPECT_EQ(bits(to_real(c.text)), bits(c.want)) << c.why << ": " << to_real(c.text) << ", not " << c.want;
 }
 
@@ -179,13 +158,11 @@ TEST(ToReal, ReadsNothingPastTheEndOfTheText)
     EXPECT_EQ(to_real(longer.substr(0, 0)), 0.0);
 }
 
-struct truncate_row {
+const struct {
     const char* why;
     double value;
     int want;
-};
-
-const truncate_row truncations[] = {
+} truncations[] = {
     {"a whole number", 200.0, 200},
     {"toward zero, not to the nearest", 199.9, 199},
     {"toward zero from below", -199.9, -199},
@@ -209,7 +186,7 @@ const truncate_row truncations[] = {
 
 TEST(TruncateToInt, GoesTowardZeroAndSaturates)
 {
-    for (const truncate_row& c : truncations)
+    for (const auto& c : truncations)
         EXPECT_EQ(truncate_to_int(c.value), c.want) << c.why;
 }
 

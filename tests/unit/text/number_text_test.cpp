@@ -1,4 +1,5 @@
-/// Numbers as text: six digits, six places, a fixed number of places.
+/// Numbers as text: six digits, six places, a fixed number of places. Ordinary numbers are compared with those of the
+/// C library; the rows are those on an edge.
 
 #include "staad/text/number_text.h"
 
@@ -28,10 +29,7 @@ struct real_row {
 const real_row reals[] = {
     {"zero", 0.0, "0"},
     {"negative zero", -0.0, "-0"},
-    {"a whole number", 2500, "2500"},
     {"no zeros at the end", 0.120, "0.12"},
-    {"six digits", 999999, "999999"},
-    {"seven turn to an exponent of two digits", 1234567, "1.23457e+06"},
     {"rounded up into the next power", 999999.5, "1e+06"},
     {"a tie goes to the even digit, down", 1000.125, "1000.12"},
     {"and up", 1000.375, "1000.38"},
@@ -52,18 +50,12 @@ TEST(FormatReal, HasSixDigitsAtMost)
         EXPECT_EQ(format_real(row.value), row.want) << row.why;
 }
 
-struct fixed_row {
+const struct {
     const char* why;
     double value;
     int places;
     const char* want;
-};
-
-const fixed_row fixed_rows[] = {
-    {"one place", 45.26, 1, "45.3"},
-    {"two", 45.256, 2, "45.26"},
-    {"three", 0.5, 3, "0.500"},
-    {"four", 1.23456, 4, "1.2346"},
+} fixed_rows[] = {
     {"a tie goes to the even digit, down", 0.125, 2, "0.12"},
     {"and up", 0.375, 2, "0.38"},
     {"nothing is left but the sign", -0.04, 1, "-0.0"},
@@ -81,15 +73,13 @@ const fixed_row fixed_rows[] = {
 
 TEST(FormatFixed, HasOneToFourPlacesOrIsEmpty)
 {
-    for (const fixed_row& row : fixed_rows)
+    for (const auto& row : fixed_rows)
         EXPECT_EQ(format_fixed(row.value, row.places), row.want) << row.why;
 }
 
 TEST(FormatSixPlaces, HasSixPlacesWhateverTheSize)
 {
     const real_row rows[] = {
-        {"a load", -0.0125, "-0.012500"},
-        {"rounded", 1.23456789, "1.234568"},
         {"less than the last place", -1e-9, "-0.000000"},
         {"negative zero", -0.0, "-0.000000"},
         {"every digit of a large number", 1e22, "10000000000000000000000.000000"},

@@ -4,6 +4,7 @@
 #include "staad/text/run_lines.h"
 
 #include "tests/support/random_text.h"
+#include "tests/support/written_text.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -36,32 +36,19 @@ std::string piece_of(const range& r)
 std::string written_line_by_line(const std::string& first_line, const ranges& list, const std::string& tail,
                                  std::size_t width)
 {
-    std::vector<std::string> lines;
+    std::string text;
     std::string line = first_line;
-    for (std::size_t k = 0; k + 1 < list.size(); ++k) {
-        const std::string run = piece_of(list[k]);
-        if (run.size() + 3 + line.size() > width) {
-            lines.push_back(line + " -");
-            line = run;
-        } else if (line.empty()) {
-            line = run;
+    for (std::size_t k = 0; k < list.size(); ++k) {
+        const bool is_last = k + 1 == list.size(); // no continuation mark needs a place after it
+        const std::string piece = piece_of(list[k]) + (is_last ? tail : "");
+        if (line.size() + 1 + piece.size() + (is_last ? 0 : 2) > width) {
+            text += line + " -\n";
+            line = piece;
         } else {
-            line += " " + run;
+            line += (line.empty() ? "" : " ") + piece;
         }
     }
-    const std::string run = piece_of(list.back());
-    if (run.size() + 1 + line.size() + tail.size() > width) {
-        lines.push_back(line + " -");
-        lines.push_back(run + tail);
-    } else if (line.empty()) {
-        lines.push_back(run + tail);
-    } else {
-        lines.push_back(line + " " + run + tail);
-    }
-    std::string text = lines.front();
-    for (std::size_t i = 1; i < lines.size(); ++i)
-        text += "\n" + lines[i];
-    return text;
+    return text + line;
 }
 
 /// Any integer: mostly of few digits, often negative, now and then one of the limits.
@@ -110,18 +97,6 @@ std::size_t random_width(chance& random)
     return random.one_in(4) ? static_cast<std::size_t>(random.between(0, 132)) : 79;
 }
 
-std::vector<std::string> lines_of(std::string_view text)
-{
-    std::vector<std::string> lines(1);
-    for (const char c : text) {
-        if (c == '\n')
-            lines.emplace_back();
-        else
-            lines.back() += c;
-    }
-    return lines;
-}
-
 /// A list to be laid out, with everything it needs.
 struct layout_case {
     ranges list;
@@ -149,7 +124,7 @@ TEST(RangesProperty, LayoutsFollowTheSteps)
                   written_line_by_line("", c.list, " " + c.tail, c.width));
         ASSERT_EQ(detail::wrapped_run_list(c.head, c.list, c.tail, c.width),
                   written_line_by_line(c.head, c.list, c.tail, c.width));
-        for (const std::string& line : lines_of(after_head))
+        for (const std::string& line : written::lines_of(after_head))
             full_lines += line.size() == c.width ? 1U : 0U;
     }
     EXPECT_GT(full_lines, 2000U); // the lists do come up to the edge
@@ -160,8 +135,8 @@ std::vector<int> random_ids(chance& random)
 {
     const int largest = random.any_of({60, 5000, 3000000, INT_MAX});
     std::vector<int> ids;
-    const int runs = random.one_in(5) ? 1 : random.between(1, 40);
-    for (int i = 0; i < runs; ++i) {
+    const int stretches = random.one_in(5) ? 1 : random.between(1, 40);
+    for (int i = 0; i < stretches; ++i) {
         const int first = largest - random.between(0, std::min(largest - 1, random.any_of({40, 4000, 2000000000})));
         const int length = random.one_in(2) ? 1 : random.between(1, 12);
         for (int k = 0; k < length && first <= largest - k; ++k)

@@ -15,29 +15,25 @@ namespace {
 using numbers = std::vector<int>;
 using ranges = std::vector<std::pair<int, int>>;
 
+// What follows what is ranges_property_test's, which takes any numbers; here are the rules, worked out by hand.
+
 TEST(MakeIdRanges, GathersConsecutiveNumbers)
 {
-    struct row {
+    const struct {
         const char* why;
         numbers ids;
         ranges want;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"no numbers", {}, {}},
         {"one number", {4}, {{4, 4}}},
-        {"two in a row", {4, 5}, {{4, 5}}},
-        {"a gap", {4, 6}, {{4, 4}, {6, 6}}},
         {"any order", {5, 1, 2, 3, 7, 8}, {{1, 3}, {5, 5}, {7, 8}}},
-        {"falling order", {3, 2, 1}, {{1, 3}}},
         {"a repeat opens a range of its own", {4, 4}, {{4, 4}, {4, 4}}},
         {"which goes on from there", {1, 2, 2, 3}, {{1, 2}, {2, 3}}},
-        {"three times the same", {7, 7, 7}, {{7, 7}, {7, 7}, {7, 7}}},
         {"across zero", {1, -1, 0}, {{-1, 1}}},
-        {"largest number", {INT_MAX, INT_MAX - 1}, {{INT_MAX - 1, INT_MAX}}},
         {"largest number twice: nothing lies after it", {INT_MAX, INT_MAX}, {{INT_MAX, INT_MAX}, {INT_MAX, INT_MAX}}},
         {"both ends of the integers", {INT_MAX, INT_MIN}, {{INT_MIN, INT_MIN}, {INT_MAX, INT_MAX}}},
     };
-    for (const row& c : rows)
+    for (const auto& c : rows)
         EXPECT_EQ(make_id_ranges(c.ids), c.want) << c.why;
 }
 

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -14,14 +15,12 @@ namespace {
 using namespace std::string_literals;
 using words = std::vector<std::string>;
 
-struct split_row {
+const struct {
     const char* why;
     std::string text;
     std::string separators;
     words want;
-};
-
-const split_row splits[] = {
+} splits[] = {
     {"blanks at both ends and in runs", "  A  B ", " ", {"A", "B"}},
     {"a separator at the end", "1;2;", ";", {"1", "2"}},
     {"a separator at the start", ";1;2", ";", {"1", "2"}},
@@ -41,13 +40,13 @@ const split_row splits[] = {
 
 TEST(SplitString, CutsAtEverySeparator)
 {
-    for (const split_row& c : splits)
+    for (const auto& c : splits)
         EXPECT_EQ(SplitString(c.text, c.separators), c.want) << c.why;
 }
 
 TEST(WordCursor, GivesTheWordsOfSplitString)
 {
-    for (const split_row& c : splits) {
+    for (const auto& c : splits) {
         SCOPED_TRACE(c.why);
         detail::word_cursor cursor(c.text, c.separators);
         words found;
@@ -75,13 +74,12 @@ TEST(WordCursor, TellsWhatIsLeft)
 
 TEST(FirstCharacter, IsTestedAsAscii)
 {
-    struct row {
+    const struct {
         const char* why;
         std::string text;
         bool digit;
         bool digit_1_to_9;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"1", "1", true, true},
         {"9 and more", "9ABC", true, true},
         {"0 is a digit, but no block line begins with it", "0 1 2", true, false},
@@ -94,7 +92,7 @@ TEST(FirstCharacter, IsTestedAsAscii)
         {"superscript two of some code pages", "\xB2", false, false},
         {"a full-width digit of GBK", "\xA3\xB1", false, false},
     };
-    for (const row& c : rows) {
+    for (const auto& c : rows) {
         EXPECT_EQ(chk_isdigit(c.text), c.digit) << c.why;
         EXPECT_EQ(detail::starts_with_digit_1_to_9(c.text), c.digit_1_to_9) << c.why;
     }
@@ -102,14 +100,13 @@ TEST(FirstCharacter, IsTestedAsAscii)
 
 TEST(Keywords, AreFoundAtTheStartOrAnywhere)
 {
-    struct row {
+    const struct {
         const char* why;
         const char* text;
         const char* word;
         bool at_start;
         bool anywhere;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"the word alone", "UNIT", "UNIT", true, true},
         {"at the start", "UNIT METER KN", "UNIT", true, true},
         {"of a longer word", "UNITS", "UNIT", true, true},
@@ -119,7 +116,7 @@ TEST(Keywords, AreFoundAtTheStartOrAnywhere)
         {"an empty word is everywhere", "A", "", true, true},
         {"an empty text holds no word", "", "UNIT", false, false},
     };
-    for (const row& c : rows) {
+    for (const auto& c : rows) {
         EXPECT_EQ(detail::starts_with(c.text, c.word), c.at_start) << c.why;
         EXPECT_EQ(detail::contains(c.text, c.word), c.anywhere) << c.why;
     }
@@ -141,35 +138,30 @@ TEST(Case, ChangesAsciiLettersOnly)
 
 TEST(TrimBlanks, TakesBlanksAndTabsOffBothEnds)
 {
-    struct row {
-        const char* text;
-        const char* want;
-    };
-    const row rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", ""}, {" \t ", ""}, {"A", "A"}, {" \tA B\t ", "A B"}, {"A\tB", "A\tB"}, {"\rA\n", "\rA\n"},
     };
-    for (const row& c : rows)
-        EXPECT_EQ(detail::trim_blanks(c.text), c.want);
+    for (const auto& [text, want] : rows)
+        EXPECT_EQ(detail::trim_blanks(text), want);
 }
 
 TEST(Words, AreCountedAndTakenByPlace)
 {
-    struct row {
+    const struct {
         const char* why;
         const char* text;
         std::size_t count;
         const char* first;
         const char* third;
         const char* last;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"no word", "", 0, "", "", ""},
         {"blanks are no words", "   ", 0, "", "", ""},
         {"one word is first and last", " A ", 1, "A", "", "A"},
         {"two words have no third", "A B", 2, "A", "", "B"},
         {"more", "1  TO 3 TH 200 ", 5, "1", "3", "200"},
     };
-    for (const row& c : rows) {
+    for (const auto& c : rows) {
         SCOPED_TRACE(c.why);
         EXPECT_EQ(detail::count_words(c.text), c.count);
         EXPECT_EQ(detail::word_at(c.text, 0), c.first);
@@ -180,13 +172,12 @@ TEST(Words, AreCountedAndTakenByPlace)
 
 TEST(WithoutLastWords, KeepsTheWordsBefore)
 {
-    struct row {
+    const struct {
         const char* why;
         const char* text;
         std::size_t drop;
         words want;
-    };
-    const row rows[] = {
+    } rows[] = {
         {"a thickness line without word and value", "1 TO 3 TH 200", 2, {"1", "TO", "3"}},
         {"trailing blanks are no word", "1 2 3  ", 1, {"1", "2"}},
         {"as many words as are dropped", "TH 200", 2, {}},
@@ -194,7 +185,7 @@ TEST(WithoutLastWords, KeepsTheWordsBefore)
         {"nothing to drop from", "", 2, {}},
         {"none dropped", "1 2", 0, {"1", "2"}},
     };
-    for (const row& c : rows)
+    for (const auto& c : rows)
         EXPECT_EQ(SplitString(std::string(detail::without_last_words(c.text, c.drop)), " "), c.want) << c.why;
 }
 

@@ -120,15 +120,13 @@ TEST(UnitFactors, KnowEveryWord)
     expect_words(moments, "UNIT CM MTON", "", &factors::moment, true);
 }
 
-struct line_row {
+const struct {
     const char* why;
     const char* line;
     double length;
     double force;
     double moment;
-};
-
-const line_row unit_lines[] = {
+} unit_lines[] = {
     {"metres and kilonewtons", "UNIT METER KN", 1000.0, 1.0, 1.0},
     {"with a moment word", "UNIT MMS KN KN-M", 1.0, 1.0, 1000.0},
     {"inches and pounds", "UNIT INCHES POUND", 25.4, 0.004445206, 1.0},
@@ -166,7 +164,7 @@ const line_row unit_lines[] = {
 
 TEST(UnitFactors, OfAWholeLine)
 {
-    for (const line_row& c : unit_lines) {
+    for (const auto& c : unit_lines) {
         SCOPED_TRACE(c.why);
         const factors f = factors_of(c.line);
         EXPECT_EQ(f.length, c.length);

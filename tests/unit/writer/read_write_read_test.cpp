@@ -74,31 +74,6 @@ TEST(ReadWriteRead, RandomDecksComeBackAsPredicted)
     }
 }
 
-// ---- what hosts rely on, in plain numbers -----------------------------------------------------------------
-
-TEST(ReadWriteRead, GeometryOfTheFrameIsTheSame)
-{
-    const SdReader first = read(examples::content("concrete-frame.std"));
-    const SdReader second = written_and_read(first);
-    ASSERT_EQ(second.nodes.size(), 45U);
-    ASSERT_EQ(second.beams.size(), 68U);
-    ASSERT_EQ(second.shells.size(), 9U);
-    for (std::size_t i = 0; i < first.nodes.size(); ++i) {
-        EXPECT_NEAR(second.nodes[i].x, first.nodes[i].x, 1e-9);
-        EXPECT_NEAR(second.nodes[i].y, first.nodes[i].y, 1e-9);
-        EXPECT_NEAR(second.nodes[i].z, first.nodes[i].z, 1e-9);
-    }
-    for (std::size_t i = 0; i < first.beams.size(); ++i) {
-        EXPECT_EQ(second.beams[i].node_start, first.beams[i].node_start);
-        EXPECT_EQ(second.beams[i].node_end, first.beams[i].node_end);
-        EXPECT_EQ(second.beams[i].material, first.beams[i].material);
-    }
-    for (std::size_t i = 0; i < first.shells.size(); ++i) {
-        EXPECT_EQ(second.shells[i].node_ids, first.shells[i].node_ids);
-        EXPECT_EQ(second.shells[i].thickness, first.shells[i].thickness);
-    }
-}
-
 TEST(ReadWriteRead, AThirdTextOnlyDiffersWhereTheSecondModelDoes)
 {
     SdReader first = read(examples::content("imperial-frame.std"));

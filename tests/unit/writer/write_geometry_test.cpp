@@ -1,6 +1,7 @@
 /// Joints, members and shell elements as they are written.
 
 #include "staad/model/sd_reader.h"
+#include "tests/support/placed_models.h"
 #include "tests/support/written_text.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,6 @@
 #include <climits>
 #include <limits>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace STAAD {
@@ -17,49 +17,27 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
-SdNode joint(int number, double x, double y, double z)
-{
-    SdNode made;
-    made.id = number;
-    made.x = x;
-    made.y = y;
-    made.z = z;
-    return made;
-}
-
-SdBeam member(int number, int start, int end)
-{
-    SdBeam made;
-    made.id = number;
-    made.node_start = start;
-    made.node_end = end;
-    return made;
-}
-
-SdShell shell_with(std::vector<int> corners)
-{
-    SdShell made;
-    made.node_ids = std::move(corners);
-    return made;
-}
+using placed::joint;
+using placed::member;
+using placed::shell;
 
 /// Corners that make the item of a shell with a number of one digit `length` characters long: a number, then
 /// blanks and corners of one digit, at most one of them of two, then ";".
-SdShell shell_of_length(std::size_t length)
+std::vector<int> corners_of_length(std::size_t length)
 {
     std::vector<int> corners;
     std::size_t left = length - 2;
     for (; left > 3; left -= 2)
         corners.push_back(5);
     corners.push_back(left == 3 ? 55 : 5);
-    return shell_with(corners);
+    return corners;
 }
 
 /// The item itself.
 std::string item_of_length(int number, std::size_t length)
 {
     std::string item = std::to_string(number);
-    for (const int corner : shell_of_length(length).node_ids)
+    for (const int corner : corners_of_length(length))
         item += ' ' + std::to_string(corner);
     return item + ';';
 }
@@ -67,48 +45,45 @@ std::string item_of_length(int number, std::size_t length)
 TEST(WriteJoints, NumbersThemByPosition)
 {
     SdReader model;
-    model.nodes = {joint(10, 0, 0, 0), joint(30, 0, 1000, 0), joint(20, 0, 2000, 0)};
+    model.nodes = {joint(10, {0, 0, 0}), joint(30, {0, 1000, 0}), joint(20, {0, 2000, 0})};
     EXPECT_EQ(written::joints(model), "1 0 0 0; 2 1 0 0; 3 2 0 0;\n");
 }
 
 struct coordinates {
     const char* why;
-    SdNode joint;
+    placed::point place;
     const char* want;
 };
 
 const coordinates coordinate_rows[] = {
-    {"at the origin", joint(1, 0, 0, 0), "1 0 0 0;\n"},
-    {"the model's y, z and x, in metres", joint(1, -2500, 1500, 0), "1 1.5 0 -2.5;\n"},
-    {"each axis has its place", joint(1, 3000, 1000, 2000), "1 1 2 3;\n"},
-    {"six significant digits", joint(1, 0, 1234.5678, 12345678.9), "1 1.23457 12345.7 0;\n"},
-    {"the last digit is rounded to the nearest, ties to even", joint(1, 0, 123456500, 123457500),
-     "1 123456 123458 0;\n"},
-    {"from seven digits on an exponent", joint(1, 0, 999999e3, 1234567e3), "1 999999 1.23457e+06 0;\n"},
-    {"rounding may add the digit", joint(1, 0, 999999.5e3, 0), "1 1e+06 0 0;\n"},
-    {"small numbers are fixed down to 0.0001", joint(1, 0, 0.1, 0.01), "1 0.0001 1e-05 0;\n"},
-    {"no zeros at the end", joint(1, 0, 120, 2500000), "1 0.12 2500 0;\n"},
-    {"a foot", joint(1, 0, 304.79999999999995, 0), "1 0.3048 0 0;\n"},
-    {"negative zero keeps its sign", joint(1, -0.0, 0.0, -0.0), "1 0 -0 -0;\n"},
-    {"the largest numbers", joint(1, -1e308, 1e308, 1e-308), "1 1e+305 1e-311 -1e+305;\n"},
-    {"no numbers at all", joint(1, not_a_number, infinity, -infinity), "1 inf -inf nan;\n"},
+    {"at the origin", {0, 0, 0}, "1 0 0 0;\n"},
+    {"the model's y, z and x, in metres", {-2500, 1500, 0}, "1 1.5 0 -2.5;\n"},
+    {"each axis has its place", {3000, 1000, 2000}, "1 1 2 3;\n"},
+    {"six significant digits", {0, 1234.5678, 12345678.9}, "1 1.23457 12345.7 0;\n"},
+    {"the last digit is rounded to the nearest, ties to even", {0, 123456500, 123457500}, "1 123456 123458 0;\n"},
+    {"from seven digits on an exponent", {0, 999999e3, 1234567e3}, "1 999999 1.23457e+06 0;\n"},
+    {"rounding may add the digit", {0, 999999.5e3, 0}, "1 1e+06 0 0;\n"},
+    {"small numbers are fixed down to 0.0001", {0, 0.1, 0.01}, "1 0.0001 1e-05 0;\n"},
+    {"no zeros at the end", {0, 120, 2500000}, "1 0.12 2500 0;\n"},
+    {"a foot", {0, 304.79999999999995, 0}, "1 0.3048 0 0;\n"},
+    {"negative zero keeps its sign", {-0.0, 0.0, -0.0}, "1 0 -0 -0;\n"},
+    {"the largest numbers", {-1e308, 1e308, 1e-308}, "1 1e+305 1e-311 -1e+305;\n"},
+    {"no numbers at all", {not_a_number, infinity, -infinity}, "1 inf -inf nan;\n"},
 };
 
 TEST(WriteJoints, HasTheCoordinatesInFileOrderInMetres)
 {
     for (const coordinates& row : coordinate_rows) {
-        SdReader model;
-        model.nodes = {row.joint};
-        EXPECT_EQ(written::joints(model), row.want) << row.why;
+        EXPECT_EQ(written::joints(placed::joints_at({row.place})), row.want) << row.why;
     }
 }
 
 TEST(WriteMembers, NumbersThemFromOneAndKeepsTheirReferences)
 {
     SdReader model;
-    model.nodes = {joint(10, 0, 0, 0), joint(20, 0, 1000, 0)};
+    model.nodes = {joint(10, {0, 0, 0}), joint(20, {0, 1000, 0})};
     model.beams = {member(10, 1, 2), member(30, 2, 1), member(20, 2, 2)};
-    model.shells = {shell_with({1, 2, 1}), shell_with({2, 1, 2, 1})};
+    model.shells = {shell(0, {1, 2, 1}), shell(0, {2, 1, 2, 1})};
     EXPECT_EQ(written::members(model), "1 1 2; 2 2 1; 3 2 2;\n");
     EXPECT_EQ(written::between(model, "ELEMENT INCIDENCES SHELL", "ELEMENT PROPERTY"), "4 1 2 1; 5 2 1 2 1;\n");
     model.WriteDataToText();
@@ -121,7 +96,7 @@ TEST(WriteMembers, WritesReferencesToNoJointAsTheyAre)
 {
     SdReader model;
     model.beams = {member(1, 0, -1), member(2, 9, 900), member(3, INT_MAX, INT_MIN)};
-    model.shells = {shell_with({0, -7, INT_MAX, INT_MIN})};
+    model.shells = {shell(0, {0, -7, INT_MAX, INT_MIN})};
     EXPECT_EQ(written::members(model), "1 0 -1; 2 9 900; 3 2147483647 -2147483648;\n");
     EXPECT_EQ(written::between(model, "ELEMENT INCIDENCES SHELL", "ELEMENT PROPERTY"),
               "4 0 -7 2147483647 -2147483648;\n");
@@ -137,7 +112,7 @@ TEST(WriteShells, HasItsKeywordEvenWithoutShells)
 TEST(WriteShells, WritesHoweverManyCornersThereAre)
 {
     SdReader model;
-    model.shells = {shell_with({}), shell_with({1}), shell_with({3, 2, 1, 5, 4, 6})};
+    model.shells = {shell(0, {}), shell(0, {1}), shell(0, {3, 2, 1, 5, 4, 6})};
     EXPECT_EQ(written::between(model, "ELEMENT INCIDENCES SHELL", "ELEMENT PROPERTY"), "1; 2 1; 3 3 2 1 5 4 6;\n");
 }
 
@@ -167,7 +142,7 @@ TEST(PackItems, KeepsLinesToSeventyNineCharacters)
     for (const packing& row : packing_rows) {
         SdReader model;
         for (const std::size_t length : row.lengths)
-            model.shells.push_back(shell_of_length(length));
+            model.shells.push_back(shell(0, corners_of_length(length)));
         std::string want;
         for (const std::vector<int>& line : row.want) {
             std::string text;

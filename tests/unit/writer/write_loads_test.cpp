@@ -148,40 +148,45 @@ TEST(WriteLoads, GoesByTheNumberInTheCaseRecord)
     EXPECT_EQ(supports_to_loads(model), "LOAD 8 LOADTYPE Dead TITLE LOAD CASE 8\nMEMBER LOAD\n1 UNI GZ -8.000000\n");
 }
 
-// ---- the running load number, as the wind cases show it ----------------------------------------------------
+// ---- the running load number, as the generated cases show it -------------------------------------------------
 
-std::string wind_case(const SdReader& model)
+std::string first_case(const std::string& text)
 {
-    for (const std::string& line : written::lines_of(written::wind(model))) {
+    for (const std::string& line : written::lines_of(text)) {
         if (line.rfind("LOAD ", 0) == 0)
             return line;
     }
     return "none";
 }
 
-TEST(WriteLoads, LeavesTheHighestCaseNumberToTheWindCases)
+struct number_row {
+    const char* why;
+    std::vector<int> cases;
+    bool has_definitions;
+    const char* wind;
+    const char* seismic; ///< the next number
+};
+
+const number_row number_rows[] = {
+    {"no cases", {}, true, "4", "5"},
+    {"cases without any definition are not written and do not count", {3}, false, "4", "5"},
+    {"the highest", {3, 1, 2}, true, "7", "8"},
+    {"cases below 0 do not count", {-5}, true, "4", "5"},
+    {"past the largest number it goes on from the least", {INT_MAX}, true, "-2147483645", "-2147483644"},
+    {"up to the largest number", {INT_MAX - 4}, true, "2147483647", "-2147483648"},
+};
+
+TEST(WriteLoads, LeavesTheHighestCaseNumberToTheGeneratedCases)
 {
-    struct row {
-        const char* why;
-        std::vector<int> cases;
-        bool has_definitions;
-        const char* want;
-    };
-    const row rows[] = {
-        {"no cases", {}, true, "LOAD 4 WL AUTO WIND LOAD"},
-        {"cases without any definition are not written and do not count", {3}, false, "LOAD 4 WL AUTO WIND LOAD"},
-        {"the highest", {3, 1, 2}, true, "LOAD 7 WL AUTO WIND LOAD"},
-        {"cases below 0 do not count", {-5}, true, "LOAD 4 WL AUTO WIND LOAD"},
-        {"past the largest number it goes on from the least", {INT_MAX}, true, "LOAD -2147483645 WL AUTO WIND LOAD"},
-        {"up to the largest number", {INT_MAX - 4}, true, "LOAD 2147483647 WL AUTO WIND LOAD"},
-    };
-    for (const row& c : rows) {
+    for (const number_row& c : number_rows) {
         SdReader model = row_of_members(1);
         for (const int number : c.cases)
             add_case(model, number);
         if (c.has_definitions)
             add_load(model, {"SELFWEIGHT", "Z", {-1}, 77}, {1});
-        EXPECT_EQ(wind_case(model), c.want) << c.why;
+        EXPECT_EQ(first_case(written::wind(model)), std::string("LOAD ") + c.wind + " WL AUTO WIND LOAD") << c.why;
+        EXPECT_EQ(first_case(written::seismic(model)), std::string("LOAD ") + c.seismic + " EX AUTO RESPONSE SPECTRUM")
+            << c.why;
     }
 }
 

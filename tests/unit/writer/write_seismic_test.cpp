@@ -95,26 +95,5 @@ TEST(WriteSeismic, WritesNumbersOfAnySize)
     EXPECT_EQ(between(large, chinese::proportion_factor, chinese::loadno_factor), "*{ PROPORTION FACTOR : 1e+300\n");
 }
 
-TEST(WriteSeismic, NumbersItsCaseAfterTheWindCases)
-{
-    struct row {
-        int highest;
-        const char* wind;
-        const char* seismic;
-    };
-    const row rows[] = {
-        {3, "LOAD 7 WL AUTO WIND LOAD", "LOAD 8 EX AUTO RESPONSE SPECTRUM"},
-        {INT_MAX - 4, "LOAD 2147483647 WL AUTO WIND LOAD", "LOAD -2147483648 EX AUTO RESPONSE SPECTRUM"},
-        {INT_MAX, "LOAD -2147483645 WL AUTO WIND LOAD", "LOAD -2147483644 EX AUTO RESPONSE SPECTRUM"},
-    };
-    for (const row& c : rows) {
-        SdReader model = written::row_of_members(1);
-        written::add_case(model, c.highest);
-        written::add_load(model, {"SELFWEIGHT", "Z", {-1}, c.highest}, {1});
-        EXPECT_NE(written::wind(model).find(std::string("\n") + c.wind + '\n'), std::string::npos) << c.wind;
-        EXPECT_EQ(written::lines_of(written::seismic(model)).front(), c.seismic);
-    }
-}
-
 } // namespace
 } // namespace STAAD

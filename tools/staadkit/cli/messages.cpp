@@ -17,10 +17,10 @@ void print_line(std::string line)
 {
     line += '\n';
     clear_progress();
-    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr)); // there is no other place to report a failure
+    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr)); // a failure here cannot be reported anywhere
 }
 
-/// What a finding that stands for several adds to its text, which is that of the first of them.
+/// What is added to the text of a finding that stands for several; the text is that of the first.
 std::string further_ones(const STAAD::Finding& finding)
 {
     if (finding.code == skipped_code)

@@ -1,5 +1,6 @@
 #include "cli/open_model.h"
 
+#include "cli/messages.h"
 #include "staad/report/finding_codes.h"
 #include "staad/report/read_limit.h"
 
@@ -12,14 +13,9 @@ namespace {
 using STAAD::Finding;
 using STAAD::FindingCode;
 
-void add_error(STAAD::ReadReport& report, FindingCode code, std::string text, std::size_t line = 0)
-{
-    report.findings.push_back(STAAD::make_finding(code, std::move(text), line, line));
-}
-
 constexpr const char* binary = "binary, not text";
 
-/// Whether the text is a listing of forces: files given in the wrong order are reported as such.
+/// Whether the text is a listing of forces, to report files given in the wrong order.
 bool is_listing(std::string_view text)
 {
     STAAD::SdReader model;
@@ -73,7 +69,7 @@ void fail_for_memory(opened_model& opened, const char* text)
 {
     opened.model = {};
     opened.was_read = false;
-    add_error(opened.report, FindingCode::memory, text);
+    add_finding(opened.report, FindingCode::memory, text);
 }
 
 } // namespace
@@ -85,8 +81,8 @@ opened_model open_model(const std::string& path)
     try {
         opened.was_read = read_model(path, opened);
     } catch (const STAAD::ReadLimitError& error) {
-        opened.model = {}; // what was read by then may fill the memory
-        add_error(opened.report, FindingCode::limit, error.text(), error.first_line());
+        opened.model = {}; // what was read so far may fill the memory
+        add_finding(opened.report, FindingCode::limit, error.text(), error.first_line());
     } catch (const std::bad_alloc&) {
         fail_for_memory(opened, "not enough memory to read it");
     }
@@ -101,7 +97,7 @@ opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
         read_forces(path, model, opened.report);
     } catch (const std::bad_alloc&) {
         model.beam_forces.clear();
-        add_error(opened.report, FindingCode::memory, "not enough memory to read it");
+        add_finding(opened.report, FindingCode::memory, "not enough memory to read it");
     }
     opened.was_read = opened.report.worst() != Finding::Error;
     return opened;

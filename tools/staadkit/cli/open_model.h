@@ -10,29 +10,28 @@
 
 namespace tool {
 
-/// A model, and the findings of its reading.
-struct opened_model {
+/// An input file and the findings from reading it.
+struct opened_input {
     std::string name; ///< for messages: the path as given, "<stdin>" for "-"
     bool was_read = false;
+    STAAD::ReadReport report; ///< has an error if no model or no forces were read
+};
+
+struct opened_model : opened_input {
     STAAD::SdReader model;
-    STAAD::ReadReport report; ///< holds an error if no model was read
 };
 
-/// Reads the file at `path`, or standard input for "-", opened for reading alone. Throws nothing: a file that asks for
-/// more memory than there is, or than a reading takes, holds no model.
+/// A listing of forces. The forces are in the model.
+struct opened_forces : opened_input {};
+
+/// Reads the file at `path`, or standard input for "-", opened for reading only. Throws nothing: a file that
+/// needs more memory than there is, or than a reading may use, gives no model.
 opened_model open_model(const std::string& path);
-
-/// The findings of the reading of a listing of forces. The forces stand in the model.
-struct opened_forces {
-    std::string name; ///< as that of a model
-    bool was_read = false;
-    STAAD::ReadReport report; ///< holds an error if no forces were read
-};
 
 /// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model);
 
-/// Takes the model away and notes the error: what is to be shown of it needs more memory than there is.
+/// Empties the model and reports the error: there is not enough memory to show it.
 void give_up_for_memory(opened_model& opened);
 
 /// Text of the first error of the report; empty if there is none.

@@ -17,7 +17,7 @@ using clock = std::chrono::steady_clock;
 constexpr auto before_shown = std::chrono::seconds(1);
 constexpr auto between_updates = std::chrono::milliseconds(100);
 
-/// There is one terminal: the line that may be shown on it, and the cells that it takes now.
+/// The one line that may be shown on the terminal, and the cells that it takes now.
 const progress_line* current = nullptr;
 std::size_t shown_width = 0;
 

@@ -1,4 +1,4 @@
-/// The bytes of an input: a file, a pipe, a device or standard input, opened for reading alone.
+/// The bytes of an input: a file, a pipe, a device or standard input, opened for reading only.
 #ifndef TOOLS_STAADKIT_CLI_READ_INPUT_H
 #define TOOLS_STAADKIT_CLI_READ_INPUT_H
 
@@ -11,7 +11,7 @@
 
 namespace tool {
 
-/// The bytes of an input, or the error that takes their place.
+/// The bytes of an input, or the error why there are none.
 struct input_bytes {
     STAAD::FileBytes file;
     std::optional<STAAD::Finding> error;
@@ -19,18 +19,18 @@ struct input_bytes {
     std::string_view text() const noexcept { return file.text(); }
 };
 
-/// Reads the file at `name`, or standard input for "-", to its end. A folder, an empty file and one that is known by
-/// its first bytes to be no text are errors of the code `wrong_kind`. Shows on a terminal that a long file is being
-/// read. Throws std::bad_alloc.
+/// Reads the file at `name`, or standard input for "-", to its end. A folder, an empty file, and a file whose
+/// first bytes show that it is no text are errors of the code `wrong_kind`. Shows the progress of a long file
+/// on a terminal. Throws std::bad_alloc.
 input_bytes read_input(const std::string& name, STAAD::FindingCode wrong_kind);
 
 /// Whether the bytes begin with one of the marks of UTF-16.
 bool is_utf16(std::string_view bytes);
 
-/// Whether bytes that gave neither model nor forces are no text: one of them is zero, and they are not UTF-16.
+/// Whether bytes without a model or forces are no text: one of them is zero, and they are not UTF-16.
 bool is_binary(std::string_view bytes);
 
-/// "the file is a picture" as an error of the code; "standard input is a picture" for "-".
+/// An error of the code: "the file is a picture", or for "-" "standard input is a picture".
 STAAD::Finding kind_error(const std::string& name, STAAD::FindingCode code, const std::string& kind);
 
 /// The name of an input for messages: "<stdin>" for "-".

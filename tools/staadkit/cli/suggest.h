@@ -1,4 +1,4 @@
-/// "Did you mean": the known word that lies nearest to a mistyped one.
+/// "Did you mean": the known word nearest to a mistyped one.
 #ifndef TOOLS_STAADKIT_CLI_SUGGEST_H
 #define TOOLS_STAADKIT_CLI_SUGGEST_H
 
@@ -11,8 +11,8 @@
 
 namespace tool {
 
-/// The first of the words nearest to `typed`; empty if none is near enough to be meant. Near enough
-/// is one slip in a short word, one more for every three letters.
+/// The first of the words nearest to `typed`; empty if none is near enough: one slip in a short word, one more
+/// for every three letters.
 inline std::string nearest_word(std::string_view typed, const std::vector<std::string>& words)
 {
     std::string nearest;

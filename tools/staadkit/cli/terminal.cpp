@@ -19,7 +19,7 @@ HANDLE console_of(std::FILE* stream) noexcept
     return reinterpret_cast<HANDLE>(_get_osfhandle(_fileno(stream)));
 }
 
-/// The shell sets its own mode again once the program has ended.
+/// The shell restores its own mode when the program has ended.
 bool can_show_colors(std::FILE* stream) noexcept
 {
     constexpr DWORD sequences = 0x0004; // ENABLE_VIRTUAL_TERMINAL_PROCESSING, which older headers lack

@@ -1,4 +1,4 @@
-/// The terminal that results and messages go to, if there is one, and how they are shown there.
+/// The terminal that results and messages go to, if there is one: its width and colours.
 #ifndef TOOLS_STAADKIT_CLI_TERMINAL_H
 #define TOOLS_STAADKIT_CLI_TERMINAL_H
 
@@ -11,23 +11,23 @@ namespace tool {
 
 enum class color_choice { automatic, never, always };
 
-/// What --color and --quiet say. There is one for the whole process, as there is one terminal.
+/// The choices of --color and --quiet, one for the whole process.
 struct display_choice {
     color_choice color = color_choice::automatic;
-    bool quiet = false; ///< of the messages only errors are printed, and no progress
+    bool quiet = false; ///< prints errors only, and no progress
 };
 
 display_choice& display() noexcept;
 
 bool is_terminal(std::FILE* stream) noexcept;
 
-/// Cells of a line of the terminal; 0 if the stream is no terminal, or the terminal does not say.
+/// Cells of a line of the terminal; 0 if the stream is no terminal, or its width is unknown.
 std::size_t terminal_width(std::FILE* stream) noexcept;
 
 enum class paint { error, warning, note, heading };
 
-/// `text` in the colour for it if the stream is to show colours, else as it stands. By itself, without --color,
-/// only a terminal that can show them does, and only while the environment has no NO_COLOR.
+/// `text` in its colour if the stream shows colours, else unchanged. Without --color only a terminal that can
+/// show colours does, and only if the environment has no NO_COLOR.
 std::string painted(std::string_view text, paint use, std::FILE* stream);
 
 } // namespace tool

@@ -13,7 +13,7 @@ namespace {
 void print(std::string_view text)
 {
     clear_progress();
-    static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr)); // there is no other place to report a failure
+    static_cast<void>(std::fwrite(text.data(), 1, text.size(), stderr)); // a failure here cannot be reported anywhere
 }
 
 char lower_case(char c) noexcept
@@ -28,7 +28,7 @@ std::string message_text(const STAAD::PlatformServices::Message& message)
     return (caption.empty() ? caption : caption + ": ") + utf8_from_utf16(message.text);
 }
 
-/// The description of the files that a dialog would show first.
+/// The first description of files in a dialog's filter.
 std::string kind_of_file(std::u16string_view filter)
 {
     return utf8_from_utf16(filter.substr(0, filter.find(u'|')));

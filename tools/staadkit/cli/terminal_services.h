@@ -1,4 +1,4 @@
-/// What the library asks of a desktop, answered on the terminal.
+/// The services that the library needs of a desktop, on the terminal.
 #ifndef TOOLS_STAADKIT_CLI_TERMINAL_SERVICES_H
 #define TOOLS_STAADKIT_CLI_TERMINAL_SERVICES_H
 
@@ -14,7 +14,7 @@ namespace tool {
 /// and no file is chosen.
 class terminal_services final : public STAAD::PlatformServices {
 public:
-    /// Tests of files are left to `beneath`, which must outlive this.
+    /// Tests of files go to `beneath`, which must outlive this.
     explicit terminal_services(STAAD::PlatformServices& beneath) noexcept : beneath_(beneath) {}
 
     Answer ShowMessage(const Message& message) override;
@@ -25,13 +25,13 @@ private:
     STAAD::PlatformServices& beneath_;
 };
 
-/// Whether messages are shown, and input is typed, at a terminal.
+/// Whether both standard error and standard input are a terminal.
 bool can_ask() noexcept;
 
 /// The line typed as answer, without its end. Nothing at the end of input, or without a terminal.
 std::optional<std::string> ask(std::string_view question);
 
-/// True for "y" or "yes", whatever their case.
+/// True for "y" or "yes", in any case.
 bool ask_yes_no(std::string_view question);
 
 } // namespace tool

@@ -1,4 +1,4 @@
-/// Texts for a terminal: the library's, and the names of files.
+/// Texts of the library, and names of files, for a terminal.
 #ifndef TOOLS_STAADKIT_CLI_TEXT_ENCODING_H
 #define TOOLS_STAADKIT_CLI_TEXT_ENCODING_H
 
@@ -19,8 +19,8 @@ using STAAD::utf8_from_gbk;
 using STAAD::utf8_from_utf16;
 using STAAD::utf8_text;
 
-/// The name of a file for a terminal: control characters as "\x1B", every other byte as it stands, so
-/// that the name can be copied back; on Windows from the ANSI code page to UTF-8.
+/// The name of a file for a terminal: control characters as "\x1B", every other byte unchanged, so that the
+/// name can be copied; on Windows converted from the ANSI code page to UTF-8.
 std::string printable_name(std::string_view name);
 
 } // namespace tool

@@ -1,4 +1,4 @@
-/// The verbs of the tool, and what its exit code says.
+/// The verbs of the tool, and its exit codes.
 #ifndef TOOLS_STAADKIT_CLI_VERBS_H
 #define TOOLS_STAADKIT_CLI_VERBS_H
 
@@ -10,10 +10,10 @@ class App;
 
 namespace tool {
 
-/// What the process returns; scripts rely on the numbers. The graver outcome has the larger one.
+/// Exit codes of the process; scripts rely on the numbers. Graver outcomes have larger ones.
 enum exit_code : int {
     done = 0,               ///< warnings included
-    done_with_findings = 1, ///< of a verb that checks or compares
+    done_with_findings = 1, ///< for verbs that check or compare
     wrong_usage = 2,
     no_model = 3,
     not_written = 4
@@ -26,12 +26,12 @@ struct exit_code_meaning {
 
 inline constexpr exit_code_meaning exit_code_meanings[] = {
     {done, "done, warnings included"},
-    {done_with_findings, "done, with findings or differences, of a verb that checks"},
+    {done_with_findings, "done, with findings or differences, by a verb that checks"},
     {wrong_usage, "wrong usage"},
     {no_model, "no model in the input"},
     {not_written, "output not written"}};
 
-/// Does the work of a verb once its arguments are read.
+/// Does the work of a verb; called when its arguments are read.
 using verb_action = std::function<exit_code()>;
 
 /// One verb: `set_up` adds its options to `command` and returns what to run when they are read.

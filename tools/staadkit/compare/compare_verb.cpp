@@ -1,4 +1,4 @@
-// The verb "compare": how a model differs from an earlier one, and what it can take over.
+// The verb "compare": how a model differs from an earlier one, and what it can take over from it.
 
 #include "cli/messages.h"
 #include "cli/open_model.h"
@@ -32,11 +32,11 @@ struct compare_options {
     bool with_notes = false;
 
     bool takes_over() const { return !out.empty(); }
-    /// The model goes to standard output, so there is no report.
+    /// The model goes to standard output, and no report is printed.
     bool out_is_standard_output() const { return out == "-"; }
 };
 
-/// What is wrong with the arguments; empty if nothing is.
+/// An error in the arguments; empty if there is none.
 std::string wrong_arguments(const compare_options& options)
 {
     if (options.now == "-" && options.earlier == "-")
@@ -46,7 +46,7 @@ std::string wrong_arguments(const compare_options& options)
     return {};
 }
 
-/// Why nothing can be taken over, whatever the models hold; empty if it can.
+/// Why nothing can be taken over from any model; empty if it can.
 std::string why_no_take_over(const compare_options& options)
 {
     if (!options.takes_over())
@@ -135,9 +135,7 @@ exit_code run_compare(const compare_options& options)
 verb_action set_up_compare(CLI::App& command)
 {
     const auto options = std::make_shared<compare_options>();
-    command.add_option("NEW", options->now, "The .std file of today; - reads standard input")
-        ->required()
-        ->option_text(" ");
+    command.add_option("NEW", options->now, "The new .std file; - reads standard input")->required()->option_text(" ");
     command.add_option("OLD", options->earlier, "The earlier .std file; - reads standard input")
         ->required()
         ->option_text(" ");
@@ -145,7 +143,7 @@ verb_action set_up_compare(CLI::App& command)
                                                 "Write NEW to OUT with the groups, supports and releases of OLD");
     out->type_name("OUT")->option_text("OUT");
     command.add_flag("--yes", options->yes, "Take over without asking first")->needs(out)->option_text(" ");
-    command.add_flag("--force", options->force, "Overwrite OUT if it is there, even if it is NEW or OLD")
+    command.add_flag("--force", options->force, "Overwrite OUT if it exists, even if it is NEW or OLD")
         ->needs(out)
         ->option_text(" ");
     command.add_flag("--json", options->as_json, "Print JSON, with all the numbers");

@@ -102,15 +102,7 @@ void each_field(const take_over_record& record, Visit visit)
     visit("replaced_in_new", record.replaced);
 }
 
-template<class Visit>
-void each_field(const opened_model& opened, Visit visit)
-{
-    visit("file", opened.name);
-    visit("was_read", opened.was_read);
-    visit("findings", opened.report.findings);
-}
-
-/// All of it.
+/// The whole document.
 struct comparison_document {
     const opened_model& now;
     const opened_model& earlier;

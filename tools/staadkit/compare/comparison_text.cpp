@@ -3,6 +3,8 @@
 #include "output/phrases.h"
 #include "output/table.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <string>
 #include <utility>
@@ -86,7 +88,7 @@ void put_sections(std_output& out, const std::vector<section_change>& changes)
 void add_counts(std::vector<std::string>& row, std::size_t taken, const std::vector<int>& lost, const char* noun,
                 const char* if_nothing)
 {
-    row.push_back(std::to_string(taken) + " of " + count_of(taken + lost.size(), noun));
+    row.push_back(fmt::format("{} of {}", taken, count_of(taken + lost.size(), noun)));
     std::string text = taken == 0 ? if_nothing : "";
     if (!lost.empty())
         text += (text.empty() ? "lost: " : "; lost: ") + run_list(lost);
@@ -96,7 +98,7 @@ void add_counts(std::vector<std::string>& row, std::size_t taken, const std::vec
 
 void put_heading(std_output& out, const char* name, std::size_t count)
 {
-    out.put(std::string(name) + ": " + (count == 0 ? "none" : std::to_string(count)) + '\n');
+    out.put(fmt::format("{}: {}\n", name, count == 0 ? "none" : std::to_string(count)));
 }
 
 void put_groups(std_output& out, const std::vector<STAAD::TakenGroup>& groups)

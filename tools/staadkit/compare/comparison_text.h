@@ -7,7 +7,7 @@
 
 namespace tool {
 
-/// How the new model differs from the old one, and what it would take over from it.
+/// Prints how the new model differs from the old one, and what it would take over from it.
 void put_comparison(std_output& out, const compared_models& compared);
 
 } // namespace tool

@@ -36,7 +36,7 @@ kind_comparison compare_kind(const std::vector<Record>& now, index_range new_par
     compared.in_old = old_part.end - old_part.first;
     for (std::size_t i = new_part.first; i < new_part.end; ++i) {
         if (const int old = pairs.old_of_new[i]; old != 0) {
-            // Elements and surfaces have numbers of their own: one that became the other has a new number.
+            // Elements and surfaces are numbered apart: an element that became a surface has a new number.
             const bool has_old_number = old_part.has(index_of(old)) && earlier[index_of(old)].id == now[i].id;
             ++compared.matched;
             compared.renumbered += has_old_number ? 0U : 1U;
@@ -74,7 +74,7 @@ std::vector<moved_joint> moved_joints(const SdReader& now, const SdReader& earli
     return moved;
 }
 
-/// The text that makes a section of its own.
+/// The text that identifies a section.
 std::string property_of(const STAAD::SdBeam& member)
 {
     return STAAD::Section({}, member.sect_text).property;

@@ -1,4 +1,4 @@
-/// How a model differs from an earlier one: what "compare" reports, before it is put in words.
+/// How a model differs from an earlier one: the data that "compare" reports.
 #ifndef TOOLS_STAADKIT_COMPARE_MODEL_COMPARISON_H
 #define TOOLS_STAADKIT_COMPARE_MODEL_COMPARISON_H
 
@@ -12,7 +12,7 @@
 
 namespace tool {
 
-/// What the comparison looks at, and what it leaves out, in the words of the report.
+/// What is compared, and what is not, in the words of the report.
 inline constexpr const char* compared_parts[] = {"joints", "members", "elements", "surfaces", "sections"};
 inline constexpr const char* parts_not_compared[] = {
     "supports",    "releases",     "groups",      "materials", "thicknesses", "offsets",
@@ -38,11 +38,11 @@ struct moved_joint {
     std::array<double, 3> old_place{};
     std::array<double, 3> new_place{};
 
-    /// How far along the axis of the longest way.
+    /// The largest move along one axis.
     double largest_shift() const;
 };
 
-/// Matched members that had one property text and have another.
+/// Matched members whose property text changed in the same way.
 struct section_change {
     std::string old_property;
     std::string new_property;
@@ -52,7 +52,7 @@ struct section_change {
 struct model_comparison {
     kind_comparison joints;
     kind_comparison members;
-    kind_comparison elements; ///< shells that are no copies of surfaces
+    kind_comparison elements; ///< shells that are not copies of surfaces
     kind_comparison surfaces;
     std::vector<moved_joint> moved_joints;   ///< as joints.moved
     std::vector<section_change> resectioned; ///< in the order of the texts
@@ -61,7 +61,7 @@ struct model_comparison {
     bool differ() const noexcept;
 };
 
-/// Names of a model's own definitions that make room for the earlier ones.
+/// Names of a model's own definitions that the earlier ones replace.
 struct replaced_lists {
     std::vector<std::string> groups;
     std::vector<std::string> supports;

@@ -9,6 +9,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdBeam;
 using STAAD::SdReader;
 
@@ -45,7 +46,7 @@ bool has_item(std::string_view line, std::size_t number)
     return line.starts_with(start) || line.find("; " + start) != std::string_view::npos;
 }
 
-/// A line that goes on in the next one shows too little, unless it is known by its beginning.
+/// A line that goes on in the next one is no good example, unless the pattern has a beginning.
 bool fits(const line_pattern& pattern, std::string_view line)
 {
     if (pattern.begin.empty() && line.ends_with(" -"))
@@ -84,7 +85,7 @@ bool is_in_metres_and_kn(const SdReader& model)
     return model.length_factor == 1000.0 && model.force_factor == 1.0;
 }
 
-/// The first text that goes from file to file as it stands and has a number; empty if there is none.
+/// The first text that is written unchanged and has a number; empty if there is none.
 line_pattern first_kept_number(const SdReader& model)
 {
     for (const SdBeam& member : model.beams) {
@@ -109,16 +110,16 @@ void note_kept_units(const SdReader& model, conversion_notes& notes)
         return;
     line_pattern example = first_kept_number(model);
     if (!example.block.empty())
-        notes.push_back({"kept-units",
+        notes.push_back({FindingCode::kept_units,
                          "numbers in sections, supports and releases keep the units of the input, " + model.unit_text,
                          std::move(example)});
 }
 
-/// Two decimals are few for kN/mm.
+/// Two decimals lose much of a value in kN/mm.
 void note_equivalent_gravity(given_parameters given, conversion_notes& notes)
 {
     if (given.seismic)
-        notes.push_back({"gravity",
+        notes.push_back({FindingCode::gravity,
                          "equivalent gravity is written in kN and mm with two decimals: line loads may come to nothing",
                          {.block = "*{ LOADNO FACTOR", .end = " -0.00 "}});
 }
@@ -132,7 +133,7 @@ void note_generated(given_parameters given, conversion_notes& notes)
         text += "; without --wind the wind holds no values";
     else if (!given.seismic)
         text += "; without --seismic the seismic case holds no values";
-    notes.push_back({"generated", std::move(text), {.begin = "LOAD ", .end = " WL AUTO WIND LOAD"}});
+    notes.push_back({FindingCode::generated, std::move(text), {.begin = "LOAD ", .end = " WL AUTO WIND LOAD"}});
 }
 
 } // namespace
@@ -167,12 +168,7 @@ void print_notes(std::string_view name, std::string_view text, const conversion_
         const written_line line = find_line(text, note.example);
         if (line.number == 0)
             continue;
-        STAAD::Finding finding;
-        finding.code = note.code;
-        finding.first_line = line.number;
-        finding.last_line = line.number;
-        finding.text = note.text;
-        print_finding(name, finding);
+        print_finding(name, STAAD::make_finding(note.code, note.text, line.number, line.number));
         print_example(line.text);
     }
 }

@@ -1,9 +1,10 @@
-/// What an engineer has to know before using a normalised file: what it says in another way than the
-/// input, and what it does not say.
+/// What an engineer has to know before using a normalised file: what it says differently from the input, and
+/// what it leaves out.
 #ifndef TOOLS_STAADKIT_CONVERT_CONVERSION_NOTES_H
 #define TOOLS_STAADKIT_CONVERT_CONVERSION_NOTES_H
 
 #include "staad/model/sd_reader.h"
+#include "staad/report/finding_codes.h"
 #include "staad/report/read_report.h"
 
 #include <cstddef>
@@ -13,8 +14,8 @@
 
 namespace tool {
 
-/// Where in the written file the line stands that shows what a note means: after a line that begins with
-/// `block`, the first that begins with `begin` and ends with `end`. Empty texts are in every line.
+/// How to find the line of the written file that is the example of a note: after a line that begins with
+/// `block`, the first that begins with `begin` and ends with `end`. Empty texts fit every line.
 struct line_pattern {
     std::string block = {};
     std::string begin = {};
@@ -24,21 +25,20 @@ struct line_pattern {
 };
 
 struct conversion_note {
-    const char* code; ///< short and fixed, for programs
+    STAAD::FindingCode code;
     std::string text; ///< without the place; may hold texts of the model
     line_pattern example;
 };
 
 using conversion_notes = std::vector<conversion_note>;
 
-/// Which generated loads have been given values.
+/// The generated loads that have parameters.
 struct given_parameters {
     bool wind = false;
     bool seismic = false;
 };
 
-/// The notes on a model as it was read. To be asked before it is written, which numbers its members
-/// and elements anew.
+/// The notes on a model as it was read. To be called before it is written, because writing changes its numbers.
 conversion_notes notes_on(const STAAD::SdReader& model, const STAAD::ReadReport& report, given_parameters given);
 
 /// Prints the notes that have their example in `text`, the content of the file `name`.
@@ -47,7 +47,7 @@ void print_notes(std::string_view name, std::string_view text, const conversion_
 /// "joints", "joints and members", "joints, members and elements"
 std::string enumerated(const std::vector<std::string>& names);
 
-/// The parts that have rules of their own; notes_on() calls them.
+/// The parts of notes_on().
 void note_numbers(const STAAD::SdReader& model, conversion_notes& notes);
 void note_loads(const STAAD::SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes);
 void note_members(const STAAD::SdReader& model, conversion_notes& notes);

@@ -27,7 +27,7 @@ struct convert_options {
     bool with_notes = false;
 };
 
-// The names of the examples of parameter files.
+// The names of the example parameter files.
 constexpr const char* wind_template = "wind";
 constexpr const char* seismic_template = "seismic";
 
@@ -48,7 +48,7 @@ exit_code print_template(const std::string& name)
     return out.close(done);
 }
 
-/// One of the two parameter files, and the findings of its reading.
+/// One of the two parameter files, and the findings from reading it.
 template<class Record>
 struct parameters {
     explicit parameters(const std::string& file) : path(file)
@@ -76,7 +76,7 @@ exit_code write_model(opened_model& opened, const wind_parameters& wind, const s
     opened.model.wl_param = wind.record;
     opened.model.eq_param = seismic.record;
     const std::string text = opened.model.WriteDataToText();
-    // What the file means comes first: it is easily missed after the warnings on a large model.
+    // The notes come first: they are easily missed after the warnings on a large model.
     print_notes(output_name(options.out), text, notes);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
     wind.print_report();
@@ -122,7 +122,7 @@ verb_action set_up_convert(CLI::App& command)
         ->type_name("FILE");
     command.add_option("--seismic", options->seismic, "JSON file with the parameters of the generated seismic case")
         ->type_name("FILE");
-    command.add_flag("--force", options->force, "Overwrite OUT if it is there, even if it is IN");
+    command.add_flag("--force", options->force, "Overwrite OUT if it exists, even if it is IN");
     command.add_flag("--notes", options->with_notes, "Also print notes of the reading, not only warnings and errors");
     const auto choose_template = [options, in, out](const std::string& name) {
         options->template_name = name;

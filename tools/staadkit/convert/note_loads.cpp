@@ -1,8 +1,10 @@
-// Loads: what their values mean, and which are not written.
+// Loads: the meaning of their values, and the kinds that are not written.
 
 #include "cli/messages.h"
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
@@ -12,10 +14,11 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::LoadDefination;
 using STAAD::SdReader;
 
-/// Loads that have no line in the written file, under the name that people have for them.
+/// Loads without a line in the written file, and the usual name for them.
 struct lost_kind {
     const char* noun;
     bool (*has)(const LoadDefination& load);
@@ -60,7 +63,7 @@ private:
     int first_case_ = std::numeric_limits<int>::max();
 };
 
-/// How many lines of the input under this command word no block has understood.
+/// Number of lines under this command word that no block has understood.
 std::size_t skipped_lines(const STAAD::ReadReport& report, std::string_view word)
 {
     std::size_t lines = 0;
@@ -77,7 +80,7 @@ std::size_t titles(const SdReader& model)
                                                   [](const auto& entry) { return !entry.second.title.empty(); }));
 }
 
-/// The header of the first case that has lost a load, or of the first case there is.
+/// The header of the first case that has lost a load, else of the first case.
 line_pattern header_pattern(const SdReader& model, const lost_loads& lost)
 {
     const auto& cases = model.load_cases;
@@ -86,7 +89,7 @@ line_pattern header_pattern(const SdReader& model, const lost_loads& lost)
     auto entry = std::find_if(cases.begin(), cases.end(), [&](const auto& each) { return lost.in_case(each.first); });
     if (entry == cases.end())
         entry = cases.begin();
-    return {.begin = "LOAD " + std::to_string(entry->second.id) + " LOADTYPE "};
+    return {.begin = fmt::format("LOAD {} LOADTYPE ", entry->second.id)};
 }
 
 void note_lost_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
@@ -104,10 +107,11 @@ void note_lost_loads(const SdReader& model, const STAAD::ReadReport& report, con
     if (model.load_defs.empty() && !model.load_cases.empty())
         words.push_back(count_of(model.load_cases.size(), "load case") + " without loads");
     if (!words.empty())
-        notes.push_back({"loads-left-out", "not written: " + enumerated(words), header_pattern(model, lost)});
+        notes.push_back(
+            {FindingCode::loads_left_out, "not written: " + enumerated(words), header_pattern(model, lost)});
 }
 
-/// The best example there is: it shows both the unit and the turn of the axes.
+/// The best example: it shows both the unit and the turn of the axes.
 bool has_line_load_down(const SdReader& model)
 {
     return std::any_of(model.load_defs.begin(), model.load_defs.end(), [](const auto& entry) {
@@ -119,8 +123,8 @@ bool has_line_load_down(const SdReader& model)
 
 void note_loads(const SdReader& model, const STAAD::ReadReport& report, conversion_notes& notes)
 {
-    // Has its example, and is printed, only if there are member loads.
-    notes.push_back({"loads",
+    // There is an example, and the note is printed, only if there are member loads.
+    notes.push_back({FindingCode::loads,
                      "under UNIT METER KN loads are in kN and mm (1 kN/m is 0.001000) and in the model's axes (GY is "
                      "written as GZ)",
                      {.block = "MEMBER LOAD", .part = has_line_load_down(model) ? " UNI GZ " : ""}});

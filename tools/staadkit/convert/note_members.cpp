@@ -1,7 +1,9 @@
-// Members and elements: what they had in the input and do not have in the written file.
+// Members and elements: what the written file loses of them.
 
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
+
+#include <fmt/format.h>
 
 #include <cstddef>
 #include <utility>
@@ -9,6 +11,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdReader;
 
 bool is_zero(const STAAD::SdOffset& offset)
@@ -16,7 +19,7 @@ bool is_zero(const STAAD::SdOffset& offset)
     return offset.x == 0.0 && offset.y == 0.0 && offset.z == 0.0;
 }
 
-/// Counts the members that `has` something and knows the new number of the first.
+/// Counts the members for which `has` holds, and gives the new number of the first.
 template<class Has>
 std::pair<std::size_t, std::size_t> count_members(const SdReader& model, Has has)
 {
@@ -35,12 +38,12 @@ void note_offsets(const SdReader& model, conversion_notes& notes)
         return !is_zero(member.offset_start) || !is_zero(member.offset_end);
     });
     if (count != 0)
-        notes.push_back({"offsets",
+        notes.push_back({FindingCode::offsets,
                          "the offsets of " + count_of(count, "member") + " are not written",
                          {.block = "MEMBER INCIDENCES", .item = first}});
 }
 
-/// Reading leaves the kind of every member at 0, and the writer goes by it.
+/// Reading leaves the kind of every member at 0, and only the kind makes the writer write trusses.
 void note_trusses(const SdReader& model, conversion_notes& notes)
 {
     const auto [count, first] = count_members(model, [&](const STAAD::SdBeam& member) {
@@ -48,7 +51,7 @@ void note_trusses(const SdReader& model, conversion_notes& notes)
     });
     if (count != 0)
         notes.push_back(
-            {"trusses",
+            {FindingCode::trusses,
              "written as plain members: " + count_of(count, "truss, tension-only or compression-only member"),
              {.block = "MEMBER INCIDENCES", .item = first}});
 }
@@ -59,8 +62,8 @@ void note_surfaces(const SdReader& model, conversion_notes& notes)
     if (count == 0 || model.shells.size() < count)
         return;
     const std::size_t first = model.beams.size() + model.shells.size() - count + 1;
-    notes.push_back({"surfaces",
-                     "written as elements from " + std::to_string(first) + " on: " + count_of(count, "surface"),
+    notes.push_back({FindingCode::surfaces,
+                     fmt::format("written as elements from {} on: {}", first, count_of(count, "surface")),
                      {.block = "ELEMENT INCIDENCES SHELL", .item = first}});
 }
 

@@ -3,6 +3,8 @@
 #include "convert/conversion_notes.h"
 #include "staad/query/lookup.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <map>
 #include <utility>
@@ -10,6 +12,7 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdGroup;
 using STAAD::SdReader;
 
@@ -18,9 +21,9 @@ struct renumbering {
     const char* noun;
     const char* block; ///< where they are defined
     const std::map<int, int>& positions;
-    std::size_t size;        ///< of the list they stand in
-    int before_first;        ///< the new number less the position
-    std::size_t changed = 0; ///< how many have another number now
+    std::size_t size;        ///< of their list
+    int before_first;        ///< the new number minus the position
+    std::size_t changed = 0; ///< how many have a different number now
     int first_old = 0;       ///< the first of these
     int first_new = 0;
 
@@ -30,7 +33,7 @@ struct renumbering {
         return entry == positions.end() || entry->second < 1 ? 0 : entry->second + before_first;
     }
 
-    /// True if the old number means something else now, or something where it meant nothing.
+    /// True if the number now belongs to another record, or to one where it belonged to none.
     bool misleads(int number) const
     {
         const int now = new_number(number);
@@ -57,8 +60,8 @@ renumbering renumber(const char* noun, const char* block, const Records& records
     return result;
 }
 
-/// The three renumberings of a model. Copies of surfaces are not among its elements here: their old
-/// numbers are those of surfaces, which no list names.
+/// The three renumberings of a model. Copies of surfaces are no elements here: their old numbers are those of
+/// surfaces, which no list names.
 struct renumberings {
     explicit renumberings(const SdReader& model)
         : joints(renumber("joint", "JOINT COORDINATES", model.nodes, model.nodes.size(), model.node_index, 0)),
@@ -87,8 +90,7 @@ bool any_misleads(const std::vector<Number>& numbers, const renumbering& numberi
                        [&](Number number) { return numbering.misleads(static_cast<int>(number)); });
 }
 
-/// What the lists that name other joints, members or elements than before are called, and where the
-/// first of them stands.
+/// The names of the lists that now name other joints, members or elements, and the place of the first of them.
 struct misleading_lists {
     std::vector<std::string> names;
     line_pattern first;
@@ -137,18 +139,17 @@ void note_numbers(const SdReader& model, conversion_notes& notes)
         if (changed.empty())
             example = {.block = each->block};
         changed.push_back(std::string(each->noun) + 's');
-        examples.push_back(std::string(each->noun) + ' ' + std::to_string(each->first_old) + " is " +
-                           std::to_string(each->first_new));
+        examples.push_back(fmt::format("{} {} is {}", each->noun, each->first_old, each->first_new));
     }
     if (changed.empty())
         return;
     const misleading_lists lists = find_misleading_lists(model, all);
-    std::string text = enumerated(changed) + " have new numbers (" + enumerated(examples) + ')';
+    std::string text = fmt::format("{} have new numbers ({})", enumerated(changed), enumerated(examples));
     if (!lists.names.empty()) {
         text += "; " + enumerated(lists.names) + " still name the old ones";
         example = lists.first;
     }
-    notes.push_back({"numbers", std::move(text), std::move(example)});
+    notes.push_back({FindingCode::numbers, std::move(text), std::move(example)});
 }
 
 } // namespace tool

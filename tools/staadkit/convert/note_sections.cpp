@@ -3,6 +3,8 @@
 #include "convert/conversion_notes.h"
 #include "output/phrases.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
@@ -12,12 +14,13 @@
 namespace tool {
 namespace {
 
+using STAAD::FindingCode;
 using STAAD::SdBeam;
 using STAAD::SdReader;
 using STAAD::SdUserSectionTable;
 
-/// True if the written text of the section no longer names its dimensions, or says nothing else: what
-/// was PRIS YD 0.5 ZD 0.3 is PRIS500X300.
+/// True if the written text of the section no longer names its dimensions, or has nothing else: PRIS YD 0.5 ZD
+/// 0.3 becomes PRIS500X300.
 bool has_lost_names(const SdBeam& member)
 {
     const bool is_pipe = member.sect_text.starts_with("TABLE") && member.sect_text != member.sect_name;
@@ -30,14 +33,14 @@ line_pattern property_line(const SdBeam& member)
 }
 
 template<class Matches>
-void note_property(const SdReader& model, const char* code, const char* before, const char* after, Matches matches,
+void note_property(const SdReader& model, FindingCode code, const char* before, const char* after, Matches matches,
                    conversion_notes& notes)
 {
     const auto first = std::find_if(model.beams.begin(), model.beams.end(), matches);
     if (first == model.beams.end())
         return;
     const auto count = static_cast<std::size_t>(std::count_if(first, model.beams.end(), matches));
-    notes.push_back({code, before + count_of(count, "member") + after, property_line(*first)});
+    notes.push_back({code, fmt::format("{}{}{}", before, count_of(count, "member"), after), property_line(*first)});
 }
 
 /// The first few of many, joined by commas.
@@ -50,14 +53,14 @@ std::string shortened(const std::vector<std::string>& names)
     return names.size() > most_named ? text + ", ..." : text;
 }
 
-/// What a table without a family of its own is marked with.
+/// The text without the mark of a table that has no UNIT line.
 std::string_view without_mark(std::string_view text)
 {
     constexpr std::string_view mark = "00";
     return text.substr(text.starts_with(mark) ? mark.size() : 0);
 }
 
-/// Tables whose family, which follows from the number of the table, is not the one they had.
+/// Tables that get another family, because the family follows from the number of the table.
 std::vector<std::string> changed_families(const SdReader& model)
 {
     std::vector<std::string> changes;
@@ -66,19 +69,19 @@ std::vector<std::string> changed_families(const SdReader& model)
         if (number >= STAAD::WideFlange && number <= STAAD::Prismatic)
             written.SetType(static_cast<STAAD::UsrDefineSectionType>(number));
         if (written.type != without_mark(table.type))
-            changes.push_back("TABLE " + std::to_string(number) + " is " + written.type + " and was " + table.type);
+            changes.push_back(fmt::format("TABLE {} is {} and was {}", number, written.type, table.type));
     }
     return changes;
 }
 
-/// Tables whose numbers are in other units than the UNIT line of the written file says.
+/// Tables whose numbers are in other units than those of the written UNIT line.
 std::vector<std::string> lost_units(const SdReader& model)
 {
     const SdUserSectionTable in_metres;
     std::vector<std::string> losses;
     for (const auto& [number, table] : model.usr_tables) {
         if (without_mark(table.unit) != in_metres.unit)
-            losses.push_back("TABLE " + std::to_string(number) + " has lost its " + table.unit);
+            losses.push_back(fmt::format("TABLE {} has lost its {}", number, table.unit));
     }
     return losses;
 }
@@ -102,12 +105,12 @@ void note_user_tables(const SdReader& model, conversion_notes& notes)
         if (!changes.empty())
             text += "; " + shortened(changes);
     }
-    notes.push_back({"user-tables", std::move(text), table_line(model)});
+    notes.push_back({FindingCode::user_tables, std::move(text), table_line(model)});
 }
 
 constexpr const char* no_name = "(no name)";
 
-/// What the written library defines, whatever the input does.
+/// True for the materials that every written file defines.
 bool is_in_library(const std::string& material)
 {
     constexpr const char* names[] = {"STEEL", "C1", "CONCRETE", "STAINLESSSTEEL", "ALUMINUM"};
@@ -135,17 +138,18 @@ void note_materials(const SdReader& model, conversion_notes& notes)
         return;
     std::string text = "not in the material library that is written: " + shortened({names.begin(), names.end()});
     const std::string first = *names.begin() == no_name ? "" : *names.begin();
-    notes.push_back({"materials", std::move(text), {.block = "CONSTANTS", .begin = "MATERIAL " + first + ' '}});
+    notes.push_back(
+        {FindingCode::materials, std::move(text), {.block = "CONSTANTS", .begin = "MATERIAL " + first + ' '}});
 }
 
 } // namespace
 
 void note_sections(const SdReader& model, conversion_notes& notes)
 {
-    note_property(model, "sections", "sections of ", " are bare mm, which the analysis program cannot read",
+    note_property(model, FindingCode::sections, "sections of ", " are bare mm, which the analysis program cannot read",
                   has_lost_names, notes);
     note_property(
-        model, "no-section", "the list of ", " without a section has nothing after it",
+        model, FindingCode::no_section, "the list of ", " without a section has nothing after it",
         [](const SdBeam& member) { return member.sect_text.empty() && member.sect_name.empty(); }, notes);
     note_user_tables(model, notes);
     note_materials(model, notes);

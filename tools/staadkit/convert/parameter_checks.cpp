@@ -1,8 +1,13 @@
-// Values that a parameter file must not have although their types are right, and what will not be written.
+// Values that a parameter file must not have although their types are right, and values that will not be
+// written.
 
 #include "convert/parameter_file.h"
 
+#include "cli/messages.h"
 #include "cli/text_encoding.h"
+#include "output/phrases.h"
+
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <cstddef>
@@ -14,20 +19,12 @@
 namespace tool {
 namespace {
 
-using STAAD::Finding;
+using STAAD::FindingCode;
 using STAAD::ReadReport;
-
-/// `places` is how many places of the field are wrong in this way; the text names the first.
-void add(ReadReport& report, Finding::Severity severity, const char* code, std::string text, std::size_t places = 1)
-{
-    Finding finding{severity, code, 0, 0, std::move(text)};
-    finding.count = places;
-    report.findings.push_back(std::move(finding));
-}
 
 std::string element(const std::string& list, std::ptrdiff_t index)
 {
-    return list + '[' + std::to_string(index) + ']';
+    return fmt::format("{}[{}]", list, index);
 }
 
 /// Reports the first of the `values` that is below 0.
@@ -36,14 +33,9 @@ void check_not_negative(const std::string& list, const std::vector<double>& valu
     const auto is_negative = [](double value) { return value < 0; };
     const auto first = std::find_if(values.begin(), values.end(), is_negative);
     if (first != values.end())
-        add(report, Finding::Error, "field-value",
-            "field " + element(list, first - values.begin()) + " must not be negative",
-            static_cast<std::size_t>(std::count_if(first, values.end(), is_negative)));
-}
-
-std::string values_in_words(std::size_t count)
-{
-    return std::to_string(count) + (count == 1 ? " value" : " values");
+        add_finding(report, FindingCode::field_value,
+                    fmt::format("field {} must not be negative", element(list, first - values.begin())), 0,
+                    static_cast<std::size_t>(std::count_if(first, values.end(), is_negative)));
 }
 
 void check_rising(const std::string& list, const std::vector<double>& values, ReadReport& report)
@@ -53,19 +45,19 @@ void check_rising(const std::string& list, const std::vector<double>& values, Re
     if (first == values.end())
         return;
     const std::ptrdiff_t index = first - values.begin();
-    add(report, Finding::Error, "field-value",
-        "field " + element(list, index + 1) + " must be more than " + element(list, index));
+    add_finding(report, FindingCode::field_value,
+                fmt::format("field {} must be more than {}", element(list, index + 1), element(list, index)));
 }
 
 void check_length(const std::string& list, std::size_t length, const char* count_name, long long count,
                   ReadReport& report)
 {
     if (std::cmp_not_equal(length, count))
-        add(report, Finding::Error, "list-length",
-            "field " + list + " has " + values_in_words(length) + ", " + count_name + " is " + std::to_string(count));
+        add_finding(report, FindingCode::list_length,
+                    fmt::format("field {} has {}, {} is {}", list, count_of(length, "value"), count_name, count));
 }
 
-// The words that a field may have, in UTF-8. An empty text says nothing and is allowed.
+// The words that a field may have, in UTF-8. An empty text is allowed.
 constexpr std::string_view terrain_categories[] = {
     "A", "B", "C", "D", "A\xE7\xB1\xBB", "B\xE7\xB1\xBB", "C\xE7\xB1\xBB", "D\xE7\xB1\xBB", // "class" after the letter
 };
@@ -90,7 +82,7 @@ void check_word(const char* field, const std::string& gbk, const std::string_vie
     std::string words;
     for (const std::string_view word : known)
         words.append(words.empty() ? "" : ", ").append(word);
-    add(report, Finding::Error, "field-value", std::string("field ") + field + " must be one of " + words);
+    add_finding(report, FindingCode::field_value, fmt::format("field {} must be one of {}", field, words));
 }
 
 void check_intensity(int intensity, ReadReport& report)
@@ -99,7 +91,7 @@ void check_intensity(int intensity, ReadReport& report)
     constexpr int lowest = 6;
     constexpr int highest = 9;
     if (intensity != not_given && (intensity < lowest || intensity > highest))
-        add(report, Finding::Error, "field-value", "field eq_intensity must be 6, 7, 8 or 9, or 0 for none");
+        add_finding(report, FindingCode::field_value, "field eq_intensity must be 6, 7, 8 or 9, or 0 for none");
 }
 
 /// Each profile has a value for each height.
@@ -109,16 +101,16 @@ void check_profiles(const STAAD::WindLoadParam& wind, ReadReport& report)
     const auto differs = [&](const std::vector<double>& profile) { return profile.size() != wind.heights.size(); };
     const auto first = std::find_if(profiles.begin(), profiles.end(), differs);
     if (first != profiles.end())
-        add(report, Finding::Error, "list-length",
-            "field " + element("intensities", first - profiles.begin()) + " has " + values_in_words(first->size()) +
-                ", heights has " + std::to_string(wind.heights.size()),
-            static_cast<std::size_t>(std::count_if(first, profiles.end(), differs)));
+        add_finding(report, FindingCode::list_length,
+                    fmt::format("field {} has {}, heights has {}", element("intensities", first - profiles.begin()),
+                                count_of(first->size(), "value"), wind.heights.size()),
+                    0, static_cast<std::size_t>(std::count_if(first, profiles.end(), differs)));
     for (std::size_t i = 0; i < profiles.size(); ++i)
         check_not_negative(element("intensities", static_cast<std::ptrdiff_t>(i)), profiles[i], report);
 }
 
 struct spectrum {
-    const char* axis; ///< the end of the names of its fields
+    const char* axis; ///< the last letter of its fields' names
     const std::string& title;
     const std::vector<double>& values;
     bool has_freedom; ///< without it no spectrum is written
@@ -136,7 +128,7 @@ void check_spectrum(int point_number, const spectrum& each, ReadReport& report)
     else if (!has_title && !each.values.empty())
         why = "spectrum_title_" + axis + " is empty";
     if (!why.empty())
-        add(report, Finding::Warning, "spectrum", "the spectrum of " + axis + " is not written: " + why);
+        add_finding(report, FindingCode::spectrum, fmt::format("the spectrum of {} is not written: {}", axis, why));
 }
 
 } // namespace
@@ -144,7 +136,7 @@ void check_spectrum(int point_number, const spectrum& each, ReadReport& report)
 void check_parameters(const STAAD::WindLoadParam& wind, ReadReport& report)
 {
     if (wind.base_press < 0)
-        add(report, Finding::Error, "field-value", "field base_press must not be negative");
+        add_finding(report, FindingCode::field_value, "field base_press must not be negative");
     check_word("soil_type", wind.soil_type, terrain_categories, report);
     check_length("heights", wind.heights.size(), "intensity_number", wind.intensity_number, report);
     check_rising("heights", wind.heights, report);

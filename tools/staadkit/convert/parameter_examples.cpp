@@ -6,7 +6,7 @@
 namespace tool {
 namespace {
 
-/// Hundredths are what the written file has.
+/// The written file has two decimals.
 double hundredths(double value)
 {
     return std::round(value * 100.0) / 100.0;
@@ -32,7 +32,7 @@ STAAD::WindLoadParam example_wind()
     wind.intensity_floor = 4.0;
     wind.heights = {4.5, 9.0, 11.5, 15.0, 18.0};
     for (std::size_t i = 0; i < wind.intensities.size(); ++i) {
-        // Four types per wind, one per face. Their signs stand in the load cases.
+        // Four types per wind, one per face. Their signs are in the load cases.
         const double shape = std::abs(wind.mius[i / 4][i % 4]);
         for (const double factor : height_factors)
             wind.intensities[i].push_back(hundredths(wind.base_press * factor * shape));

@@ -1,10 +1,13 @@
 #include "convert/parameter_file.h"
 
+#include "cli/messages.h"
 #include "cli/suggest.h"
 #include "cli/text_encoding.h"
 #include "staad/io/native_path.h"
 #include "staad/io/read_file.h"
 #include "staad/model/fields.h"
+
+#include <fmt/format.h>
 
 #include <nlohmann/json.hpp>
 
@@ -22,11 +25,7 @@ namespace {
 
 using nlohmann::json;
 using STAAD::Finding;
-
-void add_error(STAAD::ReadReport& report, std::string code, std::string text, std::size_t line = 0)
-{
-    report.findings.push_back({Finding::Error, std::move(code), line, line, std::move(text)});
-}
+using STAAD::FindingCode;
 
 bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& report)
 {
@@ -35,11 +34,11 @@ bool read_text(const std::string& path, std::string& text, STAAD::ReadReport& re
     if (was_read)
         text = file.text();
     else
-        add_error(report, "file-unreadable", file.error.message());
+        add_finding(report, FindingCode::file_unreadable, file.error.message());
     return was_read;
 }
 
-/// The part of a parser's message after its own name for the error and the place.
+/// The parser's message without its own name for the error and the place.
 std::string bare_message(std::string_view message)
 {
     constexpr std::string_view end_of_place = ": ";
@@ -51,15 +50,15 @@ std::string bare_message(std::string_view message)
 
 void add_syntax_error(STAAD::ReadReport& report, std::string_view text, const json::parse_error& error)
 {
-    // The error counts bytes from 1, and past the end by one where the text ends too early.
+    // The error counts bytes from 1; if the text ends too early it is one past the end.
     const std::string_view before =
         text.substr(0, std::min(error.byte - std::min<std::size_t>(error.byte, 1), text.size()));
     const auto line = static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
     const std::size_t column = before.size() - (before.rfind('\n') + 1) + 1; // npos + 1 is 0
-    add_error(report, "json", "column " + std::to_string(column) + ": " + bare_message(error.what()), line);
+    add_finding(report, FindingCode::json, fmt::format("column {}: {}", column, bare_message(error.what())), line);
 }
 
-/// The object that a parameter file holds; discarded, with the errors in the report, if it holds none.
+/// The object in a parameter file; if it has none, a discarded value, and the errors are in the report.
 json parse_object(const std::string& text, STAAD::ReadReport& report)
 {
     std::set<std::string> keys;
@@ -68,7 +67,7 @@ json parse_object(const std::string& text, STAAD::ReadReport& report)
         if (depth == 1 && event == json::parse_event_t::key) {
             last_key = parsed.get<std::string>();
             if (!keys.insert(last_key).second)
-                add_error(report, "field-twice", "field " + last_key + " is there twice");
+                add_finding(report, FindingCode::field_twice, "field " + last_key + " is there twice");
         }
         return true;
     };
@@ -76,16 +75,17 @@ json parse_object(const std::string& text, STAAD::ReadReport& report)
         json object = json::parse(text, note_key);
         if (object.is_object())
             return object;
-        add_error(report, "json", "no object: {\"NAME\": VALUE, ...}", 1);
+        add_finding(report, FindingCode::json, "no object: {\"NAME\": VALUE, ...}", 1);
     } catch (const json::parse_error& error) {
         add_syntax_error(report, text, error);
     } catch (const json::out_of_range&) {
-        add_error(report, "field-value", "field " + last_key + " holds a number past the range of 64-bit reals");
+        add_finding(report, FindingCode::field_value,
+                    "field " + last_key + " holds a number past the range of 64-bit reals");
     }
     return json::value_t::discarded;
 }
 
-/// Sets a field of a record from its value. Each call gives what is wrong with the value, empty if nothing.
+/// Sets a field of a record from its value. Each call returns the error of the value, empty if there is none.
 /// `place` is the name of the field, "mius[0][2]" within lists.
 class field_filler {
 public:
@@ -134,7 +134,7 @@ public:
     static std::string fill(const json& value, const std::string& place, std::array<Item, Count>& items)
     {
         if (!value.is_array() || value.size() != Count)
-            return place + " must be a list of " + std::to_string(Count);
+            return fmt::format("{} must be a list of {}", place, Count);
         return fill_items(value, place, items);
     }
 
@@ -152,7 +152,7 @@ private:
     static std::string fill_items(const json& value, const std::string& place, Items& items)
     {
         for (std::size_t i = 0; i < items.size(); ++i) {
-            std::string problem = fill(value[i], place + '[' + std::to_string(i) + ']', items[i]);
+            std::string problem = fill(value[i], fmt::format("{}[{}]", place, i), items[i]);
             if (!problem.empty())
                 return problem;
         }
@@ -162,7 +162,7 @@ private:
     static bool is_control(char c) noexcept { return static_cast<unsigned char>(c) < 0x20 || c == '\x7F'; }
 };
 
-/// Free for the author of the file; it is not written.
+/// Free for the user of the file; not written.
 bool is_optional(std::string_view name)
 {
     return name == "title";
@@ -177,9 +177,9 @@ void fill_record(const json& object, Record& record, STAAD::ReadReport& report)
         const auto entry = object.find(name);
         if (entry != object.end()) {
             if (std::string problem = field_filler::fill(*entry, name, field); !problem.empty())
-                add_error(report, "field-value", "field " + problem);
+                add_finding(report, FindingCode::field_value, "field " + problem);
         } else if (!is_optional(name)) {
-            add_error(report, "field-missing", "field " + std::string(name) + " is missing");
+            add_finding(report, FindingCode::field_missing, "field " + std::string(name) + " is missing");
         }
     });
     for (const auto& entry : object.items()) {
@@ -187,8 +187,8 @@ void fill_record(const json& object, Record& record, STAAD::ReadReport& report)
         if (std::find(names.begin(), names.end(), key) != names.end())
             continue;
         const std::string nearest = nearest_word(key, names);
-        add_error(report, "field-unknown",
-                  "unknown field '" + key + '\'' + (nearest.empty() ? "" : "; did you mean '" + nearest + "'?"));
+        add_finding(report, FindingCode::field_unknown,
+                    "unknown field '" + key + '\'' + (nearest.empty() ? "" : "; did you mean '" + nearest + "'?"));
     }
 }
 

@@ -2,12 +2,12 @@
 
 #include "output/phrases.h"
 #include "staad/report/finding_codes.h"
+#include "staad/text/number.h"
 #include "staad/text/ranges.h"
 #include "staad/text/split_string.h"
 
 #include <fmt/format.h>
 
-#include <charconv>
 #include <limits>
 #include <optional>
 #include <set>
@@ -20,11 +20,8 @@ using STAAD::SdReader;
 
 std::optional<int> whole_number(const std::string& word)
 {
-    int number = 0;
-    const std::from_chars_result end = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (end.ec != std::errc() || end.ptr != word.data() + word.size())
-        return std::nullopt;
-    return number;
+    const auto parsed = STAAD::parse_int(word);
+    return parsed.is_all_of(word) ? std::optional(parsed.value) : std::nullopt;
 }
 
 std::set<int> member_numbers(const SdReader& model)
@@ -59,7 +56,7 @@ std::set<int> case_numbers(const SdReader& model)
     return numbers;
 }
 
-/// Those of the `known` numbers that are in the ranges.
+/// The `known` numbers that are in the ranges.
 std::set<int> numbers_in(const number_ranges& ranges, const std::set<int>& known)
 {
     std::set<int> numbers;
@@ -68,7 +65,7 @@ std::set<int> numbers_in(const number_ranges& ranges, const std::set<int>& known
     return numbers;
 }
 
-/// The ranges without any of the `known` numbers, as a list; gaps within a range are none of them.
+/// The ranges that have none of the `known` numbers, as a list; gaps within a range do not matter.
 std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& known)
 {
     number_ranges unknown;
@@ -80,7 +77,7 @@ std::string unknown_ranges(const number_ranges& ranges, const std::set<int>& kno
     return STAAD::format_id_ranges({}, unknown, std::numeric_limits<std::size_t>::max());
 }
 
-/// Warns of those of the `wanted` numbers that are not in `present`.
+/// Warns of the `wanted` numbers that are not in `present`.
 void report_missing(const std::set<int>& wanted, const std::set<int>& present, FindingCode code, const char* what,
                     STAAD::ReadReport& report)
 {

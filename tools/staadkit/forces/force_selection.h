@@ -1,4 +1,4 @@
-/// The forces that are shown: all, or those of some members and load cases.
+/// Which forces are shown: all, or those of some members and load cases.
 #ifndef TOOLS_STAADKIT_FORCES_FORCE_SELECTION_H
 #define TOOLS_STAADKIT_FORCES_FORCE_SELECTION_H
 
@@ -11,10 +11,11 @@
 
 namespace tool {
 
-/// Ranges (first, last) of numbers as they were asked for, not counted out.
+/// Ranges (first, last) of numbers as they were asked for.
 using number_ranges = std::vector<std::pair<int, int>>;
 
-/// Adds the numbers of a list such as "1 5 TO 9" to `ranges`. Empty if it is one, else what is wrong with it.
+/// Adds the numbers of a list such as "1 5 TO 9" to `ranges`. Returns the error in the list, empty if there is
+/// none.
 std::string add_number_list(const std::string& text, number_ranges& ranges);
 
 /// Members and load cases that were asked for; empty: all of them.
@@ -25,11 +26,11 @@ struct force_selection {
     bool is_all() const noexcept { return members.empty() && cases.empty(); }
 };
 
-/// Why nothing can be shown: a number, or a whole range, is that of nothing the model or its forces have. Empty
-/// if there is no such number.
+/// Why nothing can be shown: neither the model nor its forces have a number, or any number of a range, that was
+/// asked for. Empty if they have.
 std::string unknown_in(const force_selection& wanted, const STAAD::SdReader& model);
 
-/// Takes the other forces out of the model, and adds to `report` what was asked for and has no forces.
+/// Removes the other forces from the model, and adds to `report` what was asked for and has no forces.
 void keep_selected(const force_selection& wanted, STAAD::SdReader& model, STAAD::ReadReport& report);
 
 /// The number of a member that has forces.

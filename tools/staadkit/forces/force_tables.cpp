@@ -20,8 +20,8 @@ struct component_extremes {
     }
 };
 
-/// Forces whose only station, at 1 mm, has the number of its load case in the first column: the list made of
-/// them shows which load cases the library took.
+/// Forces whose only station, at 1 mm, has the number of its load case in the first column: the list that the
+/// library makes of them shows which load cases it took.
 STAAD::BeamForceAndMOM labelled(const STAAD::BeamForceAndMOM& forces)
 {
     STAAD::BeamForceAndMOM labels;

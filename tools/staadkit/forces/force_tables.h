@@ -1,4 +1,5 @@
-/// What the views of "forces" show: the columns of a station, the extremes, the lists of the downstream program.
+/// The data of the views of "forces": the columns of a station, the extremes, the lists of the downstream
+/// program.
 #ifndef TOOLS_STAADKIT_FORCES_FORCE_TABLES_H
 #define TOOLS_STAADKIT_FORCES_FORCE_TABLES_H
 
@@ -12,8 +13,8 @@
 
 namespace tool {
 
-/// One column of a station. Forces and moments are named by their place in the listing: which axes they go by,
-/// the heading of the listing says.
+/// One column of a station. Forces and moments are named by their column in the listing, whose heading names
+/// the axes.
 struct force_column {
     const char* name;
     const char* unit;
@@ -34,7 +35,7 @@ inline constexpr force_column force_columns[] = {
     {"M3", "kN*mm", "m3_kNmm", &STAAD::ForcePoint::m3, 1},
 };
 
-/// Without the position.
+/// The columns without the position.
 inline constexpr std::span<const force_column> force_components = std::span(force_columns).subspan(1);
 
 /// The largest or smallest value of one force or moment, and where it is.
@@ -53,7 +54,7 @@ struct force_extreme {
 /// there are no stations.
 std::vector<force_extreme> find_extremes(const STAAD::SdReader& model);
 
-/// One of the four kinds of load, and where a station of a list has it.
+/// One of the four kinds of load, and its field in a station of a list.
 struct list_kind {
     STAAD::LoadCase::LoadType type;
     STAAD::ForcePoint STAAD::BeamLoadList::*point;
@@ -69,9 +70,9 @@ inline constexpr list_kind list_kinds[] = {
 /// The list of one member that the downstream design program takes.
 struct member_list {
     int member = 0; ///< number in the file
-    /// The load case that stands for each of `list_kinds`; none: its points are zeros.
+    /// The load case of each of `list_kinds`; none: its points are zeros.
     std::array<std::optional<int>, std::size(list_kinds)> cases;
-    std::vector<STAAD::BeamLoadList> stations; ///< empty if no load case counts
+    std::vector<STAAD::BeamLoadList> stations; ///< empty if there is no load case of these kinds
 };
 
 member_list list_of(const STAAD::SdReader& model, const STAAD::BeamForceAndMOM& forces);

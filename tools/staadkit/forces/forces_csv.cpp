@@ -1,4 +1,4 @@
-// The report of "forces" for spreadsheets. No cell needs quotes: all are numbers and words of ours.
+// The report of "forces" for spreadsheets. No cell needs quotes: all are numbers and fixed words.
 
 #include "forces/force_selection.h"
 #include "forces/force_tables.h"

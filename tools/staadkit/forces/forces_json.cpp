@@ -75,7 +75,7 @@ std::vector<extreme_item> extremes_of(const STAAD::SdReader& model)
     return items;
 }
 
-/// The load cases that stand for the four kinds.
+/// The load cases of the four kinds.
 struct list_cases_item {
     const member_list* list;
 };

@@ -14,13 +14,13 @@ namespace tool {
 /// One load case of the listing.
 struct force_case_summary {
     int number = 0;
-    std::optional<STAAD::LoadCase> of_model; ///< none for combinations, which the model does not hold
+    std::optional<STAAD::LoadCase> of_model; ///< none for a combination: the model has no combinations
     std::size_t members = 0;
 };
 
 /// What was read from a listing, in numbers.
 struct force_summary {
-    std::vector<STAAD::Finding> sections; ///< one each, as far as the report lists them
+    std::vector<STAAD::Finding> sections; ///< one each, up to the number that a report lists
     std::size_t section_count = 0;
     std::size_t members = 0;
     std::size_t members_in_model = 0;
@@ -38,21 +38,21 @@ enum class forces_view {
     lists     ///< of the downstream design program
 };
 
-/// All that one call of the verb shows, but for the form in which it is printed.
+/// Everything that one call of the verb shows, in any format.
 struct forces_report {
     opened_model model; ///< with the forces that are shown
     opened_forces listing;
-    force_summary summary; ///< of all that was read
+    force_summary summary; ///< of everything that was read
     forces_view view = forces_view::stations;
     bool is_selection = false; ///< not everything that was read is shown
 };
 
 void put_forces_text(std_output& out, const forces_report& report);
 
-/// One object, also where model or listing could not be read.
+/// Prints one object, even if model or listing could not be read.
 void put_forces_json(std_output& out, const forces_report& report);
 
-/// RFC 4180 but for the line ends, which are LF.
+/// Prints RFC 4180, except that line ends are LF.
 void put_forces_csv(std_output& out, const forces_report& report);
 
 } // namespace tool

@@ -25,7 +25,7 @@ std::string shown(std::string_view text)
     return cell_text(text, "");
 }
 
-/// Decimals as the column has them; what is too large for a column of digits with a power of ten.
+/// With the decimals of the column; a number too large for it with a power of ten.
 std::string table_number(double number, const force_column& column)
 {
     constexpr double too_large = 1e9;
@@ -116,7 +116,7 @@ void put_summary(std_output& out, const forces_report& report)
             "columns: forces F1 F2 F3, moments M1 M2 M3 in the order of the listing; axes are not turned\n");
 }
 
-/// Names over units over numbers, all to the right.
+/// Rows of names, units and numbers, aligned to the right.
 class station_table {
 public:
     station_table() : rows_(std::vector<align>(std::size(force_columns), align::right))

@@ -46,8 +46,8 @@ exit_code put(const forces_report& report, const forces_options& options, exit_c
     return out.close(so_far);
 }
 
-/// Reads the listing and takes out of the model what is not shown. False, after a message, if a member or load case
-/// was asked for that there is not.
+/// Reads the listing and removes from the model what is not shown. False, after a message, if a member or load
+/// case that was asked for does not exist.
 bool fill(forces_report& report, const forces_options& options)
 {
     STAAD::SdReader& model = report.model.model;
@@ -97,7 +97,7 @@ void add_numbers(CLI::App& command, const std::string& name, number_ranges& rang
         ->option_text("LIST");
 }
 
-/// The help has no room for what the flag excludes: a message says so to those who need it.
+/// The help has no room for the options that the flag excludes; the error message names them.
 CLI::Option* add_flag(CLI::App& command, const std::string& name, bool& flag, const std::string& help)
 {
     return command.add_flag(name, flag, help)->option_text(" ");

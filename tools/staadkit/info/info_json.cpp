@@ -88,12 +88,8 @@ struct members_item {
 template<class Visit>
 void each_field(const members_item& item, Visit visit)
 {
-    const auto of = [&item](STAAD::BeamType type) { return item.summary.members_of[static_cast<std::size_t>(type)]; };
     visit("total", item.summary.members);
-    visit("columns", of(STAAD::Column));
-    visit("beams", of(STAAD::Beam));
-    visit("braces", of(STAAD::Brace));
-    visit("horizontal_braces", of(STAAD::HorizontalBrace));
+    visit_kinds(item.summary.members_of, visit);
     visit("with_offsets", item.summary.members_with_offsets);
     visit("with_beta", item.summary.members_with_beta);
     visit("without_section", item.summary.members_without_section);
@@ -193,6 +189,11 @@ void each_field(const document_item& item, Visit visit)
 void put_info_json(std_output& out, const info_report& report)
 {
     json_writer(out).document(document_item{report});
+}
+
+void add_info_json(json_array& array, const info_report& report)
+{
+    array.add(document_item{report});
 }
 
 } // namespace tool

@@ -1,29 +1,32 @@
-/// What "info" shows of a file, as text and JSON.
+/// The report of "info" on a file, as text and JSON.
 #ifndef TOOLS_STAADKIT_INFO_INFO_REPORT_H
 #define TOOLS_STAADKIT_INFO_INFO_REPORT_H
 
 #include "cli/open_model.h"
 #include "info/model_summary.h"
+#include "output/json_writer.h"
 #include "output/std_output.h"
 
 #include <string>
 
 namespace tool {
 
-/// What an opened file holds; `summary` is null if no model was read.
+/// An opened file and its summary, which is null if no model was read.
 struct info_report {
     const opened_model& opened;
     const model_summary* summary;
 };
 
-/// One model on many lines. There must be a summary.
+/// Prints one model on many lines. There must be a summary.
 void put_info_text(std_output& out, const info_report& report);
 
-/// One line for one of several files: what it holds, or why it holds no model.
+/// One line for one of several files: its contents, or why it has no model.
 std::string info_line(const opened_model& opened);
 
-/// One object: what the text shows, numbers not rounded, and the findings.
+/// Prints one object: what the text shows, numbers not rounded, and the findings.
 void put_info_json(std_output& out, const info_report& report);
+/// Adds the same object to an array.
+void add_info_json(json_array& array, const info_report& report);
 
 } // namespace tool
 

@@ -80,7 +80,7 @@ std::string member_extras(const SdReader& model, const model_summary& summary)
            line("beta angles", count_of(summary.members_with_beta, "member"));
 }
 
-/// "9 joints", and in a cell of its own "and 1 number without a joint" if there is any.
+/// Adds "9 joints" and, in another cell, "and 1 number without a joint" if there is such a number.
 void add_numbers(std::vector<std::string>& row, const listed_numbers& numbers, std::string_view noun)
 {
     row.push_back(count_of(numbers.known, noun));
@@ -153,7 +153,7 @@ std::string load_type(const load_case_summary& load_case)
                                                       : load_type_word(load_case.type);
 }
 
-/// "UNI" for "MEMBER LOAD UNI": most loads are member loads, and a line has only so much room.
+/// "UNI" for "MEMBER LOAD UNI": most loads are member loads, and lines are short.
 std::string short_kind(const std::string& kind)
 {
     const std::string member_load = "MEMBER LOAD ";
@@ -174,7 +174,7 @@ std::string loaded(const load_case_summary& load_case)
 {
     if (load_case.definitions.empty())
         return {};
-    // The weight of the structure itself needs no list: "0 members" would say that nothing is loaded.
+    // Self weight needs no list: "0 members" would mean that nothing is loaded.
     const auto& kinds = load_case.definitions;
     if (load_case.members + load_case.joints == 0 && kinds.size() == 1 && kinds.front().kind == "SELFWEIGHT")
         return "-";
@@ -194,7 +194,7 @@ void put_load_cases(std_output& out, const model_summary& summary)
                       cell_text(definitions(each), "")});
     put_block(out, "load cases", rows);
     if (std::any_of(summary.load_cases.begin(), summary.load_cases.end(), is_load_case_0))
-        out.put(line("load case 0", "what stands under headers without a number (LOAD R1) or with 0"));
+        out.put(line("load case 0", "loads under headers without a number (LOAD R1) or with 0"));
 }
 
 void put_skipped(std_output& out, const model_summary& summary)

@@ -25,7 +25,7 @@ struct info_options {
     bool with_notes = false;
 };
 
-/// What the model holds; none if there is no model, or no memory for it, which becomes an error of `opened`.
+/// The summary of the model; none if there is no model, or not enough memory, which is reported in `opened`.
 std::optional<model_summary> summary_of(opened_model& opened)
 {
     try {
@@ -37,29 +37,24 @@ std::optional<model_summary> summary_of(opened_model& opened)
     return std::nullopt;
 }
 
-/// Opens the files one after the other; of several models only one is held at a time.
+/// Opens the files one after the other, and holds one model at a time.
 class info_printer {
 public:
     explicit info_printer(const info_options& options) : options_(options), is_single_(options.files.size() == 1) {}
 
     exit_code print()
     {
-        const bool is_array = options_.as_json && !is_single_;
-        const char* before = "[\n";
         std::optional<progress_line> progress;
         if (!is_single_)
             progress.emplace(std::string(), progress_line::unit::files);
         std::size_t count = 0;
         for (const std::string& file : options_.files) {
-            if (is_array)
-                out_.put(before);
-            before = ",\n";
             put_report(open_model(file));
             if (progress)
                 progress->update(++count, options_.files.size());
         }
-        if (is_array)
-            out_.put("]\n");
+        if (options_.as_json && !is_single_)
+            array_.close();
         return out_.close(worst_);
     }
 
@@ -67,13 +62,15 @@ private:
     void put_report(opened_model opened)
     {
         const std::optional<model_summary> summary = summary_of(opened);
-        // What was skipped stands in the report itself.
+        // The report itself shows what was skipped.
         print_findings(opened.name, opened.report, least_severity(options_.with_notes), skipped_code);
         if (!summary)
             worst_ = std::max(worst_, no_model);
         const info_report report{opened, summary ? &*summary : nullptr};
-        if (options_.as_json)
+        if (options_.as_json && is_single_)
             put_info_json(out_, report);
+        else if (options_.as_json)
+            add_info_json(array_, report);
         else if (!is_single_)
             out_.put(info_line(opened));
         else if (summary)
@@ -83,6 +80,7 @@ private:
     const info_options& options_;
     const bool is_single_;
     std_output out_;
+    json_array array_{out_};
     exit_code worst_ = done;
 };
 

@@ -1,4 +1,4 @@
-// Supports, releases and groups: how many of the numbers they list the model knows.
+// Supports, releases and groups: how many of their numbers the model has.
 
 #include "info/model_summary.h"
 
@@ -11,7 +11,7 @@ namespace {
 using STAAD::SdGroup;
 using STAAD::SdReader;
 
-/// From the numbers of a file to the positions in a list of `size` records, counted from 1.
+/// From the numbers of a file to 1-based positions in a list of `size` records.
 struct number_index {
     const std::map<int, int>& positions;
     std::size_t size;

@@ -1,4 +1,4 @@
-// Load cases, and what they load.
+// Load cases, and the members and joints that they load.
 
 #include "info/model_summary.h"
 
@@ -10,8 +10,8 @@ namespace {
 
 using STAAD::SdReader;
 
-/// A load case while it is counted. Members and joints are walked in order, so that remembering the
-/// last one counted keeps a second definition on it from counting it again.
+/// A load case while it is counted. Members and joints are walked in order: the last one counted is kept so
+/// that a second definition on it does not count it again.
 struct case_tally {
     std::map<std::string, std::size_t> kinds;
     std::size_t members = 0;

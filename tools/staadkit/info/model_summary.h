@@ -1,5 +1,4 @@
-/// What "info" shows of a model, before it is put in words. Texts are those of the model, in
-/// whatever encoding the file has.
+/// The data that "info" shows of a model. Texts are those of the model, in the encoding of the file.
 #ifndef TOOLS_STAADKIT_INFO_MODEL_SUMMARY_H
 #define TOOLS_STAADKIT_INFO_MODEL_SUMMARY_H
 
@@ -25,7 +24,7 @@ struct extents {
 /// A list of numbers of joints, members or elements, each counted once.
 struct listed_numbers {
     std::size_t known = 0;
-    std::size_t unknown = 0; ///< the model has none with that number
+    std::size_t unknown = 0; ///< no record of the model has that number
 };
 
 /// One description of supports or releases.
@@ -41,12 +40,12 @@ struct group_summary {
     listed_numbers numbers;
 };
 
-/// Members of one section: one code word and one section text, with dimensions or without.
+/// Members of one section: the same code word and section text, with or without dimensions.
 struct section_summary {
     std::string country;
     std::string text;
     std::size_t members = 0;
-    std::string family;             ///< of an "UPTABLE" section, in lower case; else empty
+    std::string family;             ///< only of an "UPTABLE" section, in lower case
     std::vector<double> dimensions; ///< mm, in the order of the section text; empty: none, or not understood
     std::string trouble;            ///< why an "UPTABLE" section has no dimensions
 };
@@ -75,7 +74,7 @@ struct load_case_summary {
 };
 
 struct skipped_summary {
-    std::string words; ///< the first of the lines
+    std::string words; ///< of the first line
     std::size_t lines = 0;
 };
 
@@ -83,7 +82,7 @@ struct model_summary {
     std::size_t joints = 0;
     std::size_t members = 0;
     std::array<std::size_t, 4> members_of{}; ///< by STAAD::BeamType
-    std::size_t elements = 0;                ///< shells that are no copies of surfaces
+    std::size_t elements = 0;                ///< shells that are not copies of surfaces
     std::size_t surfaces = 0;
     extents box;
     std::vector<double> levels; ///< mm, ascending
@@ -102,7 +101,7 @@ struct model_summary {
 
 model_summary summarise(const STAAD::SdReader& model, const STAAD::ReadReport& report);
 
-/// The parts that have rules of their own; summarise() calls them.
+/// The parts of summarise().
 void summarise_sections(const STAAD::SdReader& model, model_summary& summary);
 void summarise_lists(const STAAD::SdReader& model, model_summary& summary);
 void summarise_loads(const STAAD::SdReader& model, model_summary& summary);

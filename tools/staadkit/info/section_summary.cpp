@@ -1,11 +1,10 @@
 // Sections with their members and dimensions, and the user tables that some of them name.
 
 #include "info/model_summary.h"
+#include "staad/text/number.h"
 #include "staad/text/split_string.h"
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <map>
 #include <stdexcept>
 #include <string_view>
@@ -18,27 +17,26 @@ namespace {
 using STAAD::SdBeam;
 using STAAD::SdReader;
 
-bool is_number(std::string_view text, double& number)
+bool is_number(const std::string& word)
 {
-    const std::from_chars_result end = std::from_chars(text.data(), text.data() + text.size(), number);
-    return end.ec == std::errc() && end.ptr == text.data() + text.size() && std::isfinite(number);
+    return STAAD::parse_real(word).is_all_of(word);
 }
 
-/// "500X300" as numbers; nothing unless every piece is one.
+/// "500X300" as numbers; empty unless every piece is one.
 std::vector<double> numbers_between_x(const std::string& text)
 {
     std::vector<double> numbers;
     for (const std::string& piece : STAAD::SplitString(text, "X")) {
-        double number = 0.0;
-        if (!is_number(piece, number))
+        const auto parsed = STAAD::parse_real(piece);
+        if (!parsed.is_all_of(piece))
             return {};
-        numbers.push_back(number);
+        numbers.push_back(parsed.value);
     }
     return numbers;
 }
 
-/// True if a "PRIS" property names nothing but depths and widths. Areas and inertias (AX, IZ) stand
-/// in the section text like lengths, but are none.
+/// True if a "PRIS" property names nothing but depths and widths. Areas and inertias (AX, IZ) look like lengths
+/// in the section text.
 bool has_only_lengths(const std::string& property)
 {
     const std::vector<std::string> words = STAAD::SplitString(property, " ");
@@ -50,8 +48,8 @@ bool has_only_lengths(const std::string& property)
     return true;
 }
 
-/// True if the numbers in a section text are lengths in mm, made from what the property says. In the
-/// names of catalogues (PIP1270, PIPX40) they are whatever the catalogue means by them.
+/// True if the numbers in a section text are lengths in mm, made from what the property says. In names of a
+/// catalogue (PIP1270, PIPX40) they have the meaning that the catalogue gives them.
 bool has_dimensions(const SdBeam& member)
 {
     const std::string_view text = member.sect_text;
@@ -73,7 +71,7 @@ std::vector<double> dimensions_in(const std::string& text)
     return {};
 }
 
-/// Rows of these families hold areas and inertias, which no factor of length turns into mm.
+/// False for families whose rows hold areas and inertias, which are not in mm.
 bool is_of_lengths(STAAD::UsrDefineSectionType family)
 {
     return family != STAAD::General && family != STAAD::Prismatic;
@@ -114,18 +112,16 @@ section_summary describe_section(const SdReader& model, const SdBeam& member, bo
 
 bool is_one_name(const std::vector<std::string>& words)
 {
-    double number = 0.0;
-    return words.size() == 1 && !is_number(words.front(), number);
+    return words.size() == 1 && !is_number(words.front());
 }
 
 bool begins_with_number(const std::vector<std::string>& words)
 {
-    double number = 0.0;
-    return !words.empty() && is_number(words.front(), number);
+    return !words.empty() && is_number(words.front());
 }
 
-/// Rows that a section can name: one word, with a line of numbers after it. The lines of numbers
-/// stand in the table as names, too, and are none, not even those of a single number.
+/// Rows that a section can name: one word, with a line of numbers after it. The lines of numbers are names in
+/// the table too, and are not counted, not even those of a single number.
 std::size_t count_rows(const STAAD::SdUserSectionTable& table)
 {
     const auto is_row = [](const auto& record) {
@@ -139,7 +135,7 @@ std::size_t count_rows(const STAAD::SdUserSectionTable& table)
 
 void summarise_sections(const SdReader& model, model_summary& summary)
 {
-    // Different properties may have the same text, and only of some of them is it one of lengths.
+    // Different properties may have the same text, which is one of lengths for some of them only.
     std::map<std::tuple<std::string_view, std::string_view, bool>, section_summary> sections;
     for (const SdBeam& member : model.beams) {
         if (member.sect_text.empty() && member.sect_name.empty()) {

@@ -69,7 +69,7 @@ void json_writer::value(double number)
     else if (std::isinf(number))
         out_.put(number > 0 ? "\"Infinity\"" : "\"-Infinity\"");
     else if (number == 0.0 && std::signbit(number))
-        out_.put("-0.0"); // without the point it would read back as the whole number 0, unsigned
+        out_.put("-0.0"); // without the point it would read back as the whole number 0, without a sign
     else
         put_number(out_, number);
 }
@@ -128,8 +128,8 @@ void json_writer::key(std::string_view name)
     out_.put(": ");
 }
 
-// Different bytes may be the same text once they are decoded, and an object has room for one of them:
-// the later one is written byte by byte.
+// Different bytes may be the same text when decoded, but keys of an object must differ: the later one is
+// written byte by byte.
 void json_writer::key(const std::string& text, used_keys& used)
 {
     if (is_ascii(text) || used.insert(utf8_text(text)).second)

@@ -1,5 +1,4 @@
-/// Writes values of a model as JSON, straight to standard output: a model of any size needs no
-/// second copy of itself.
+/// Writes values of a model as JSON, straight to standard output: a model of any size is never copied.
 ///
 /// Records are objects with a key for each field in declaration order, see staad/model/fields.h. Below the
 /// top of a document each record of a list and each entry of a map has a line of its own.
@@ -7,6 +6,7 @@
 #define TOOLS_STAADKIT_OUTPUT_JSON_WRITER_H
 
 #include "cli/messages.h"
+#include "cli/open_model.h"
 #include "output/std_output.h"
 #include "staad/model/fields.h"
 #include "staad/report/read_report.h"
@@ -35,11 +35,30 @@ void each_field(const STAAD::Finding& finding, Visit visit)
     visit("count", finding.count);
 }
 
+/// The fields of an input as JSON documents have them.
+template<class Visit>
+void each_field(const opened_input& input, Visit visit)
+{
+    visit("file", input.name);
+    visit("was_read", input.was_read);
+    visit("findings", input.report.findings);
+}
+
+/// Counts of members by STAAD::BeamType, as JSON documents have them.
+template<class Visit>
+void visit_kinds(const std::array<std::size_t, 4>& members_of, Visit& visit)
+{
+    visit("columns", members_of[STAAD::Column]);
+    visit("beams", members_of[STAAD::Beam]);
+    visit("braces", members_of[STAAD::Brace]);
+    visit("horizontal_braces", members_of[STAAD::HorizontalBrace]);
+}
+
 class json_writer {
 public:
     explicit json_writer(std_output& out) : out_(out) {}
 
-    /// A record as a whole document, with the end of its last line.
+    /// A record as a whole document, with a line feed at its end.
     template<class Record>
     void document(const Record& record)
     {
@@ -55,7 +74,7 @@ public:
     /// The fewest digits that read back to the same bits. JSON has no infinities and no NaN:
     /// these become the texts "Infinity", "-Infinity" and "NaN".
     void value(double number);
-    /// UTF-8 as it stands, else decoded from GBK, else each byte as \u00XX.
+    /// UTF-8 unchanged, else decoded from GBK, else each byte as \u00XX.
     void value(const std::string& text);
     /// [x, y, z]
     void value(const STAAD::SdOffset& offset);
@@ -112,7 +131,7 @@ public:
     }
 
 private:
-    /// What an open object or list still has to know.
+    /// The state of an open object or list.
     struct nesting {
         bool on_lines = false; ///< each item on a line of its own
         bool has_items = false;
@@ -147,6 +166,25 @@ private:
     std_output& out_;
     std::array<nesting, deepest> nestings_{};
     std::size_t level_ = 0;
+};
+
+/// An array of documents, each written when it is there.
+class json_array {
+public:
+    explicit json_array(std_output& out) : out_(out) {}
+
+    template<class Record>
+    void add(const Record& record)
+    {
+        out_.put(is_empty_ ? "[\n" : ",\n");
+        is_empty_ = false;
+        json_writer(out_).document(record);
+    }
+    void close() { out_.put(is_empty_ ? "[]\n" : "]\n"); }
+
+private:
+    std_output& out_;
+    bool is_empty_ = true;
 };
 
 /// Writes a record to standard output as the only result; see std_output::close.

@@ -1,4 +1,4 @@
-/// Models on their way out: to a file that is there whole or not at all, or to standard output.
+/// Writes models to a file, completely or not at all, or to standard output.
 #ifndef TOOLS_STAADKIT_OUTPUT_MODEL_OUTPUT_H
 #define TOOLS_STAADKIT_OUTPUT_MODEL_OUTPUT_H
 
@@ -13,11 +13,11 @@ namespace tool {
 /// The name of an output for messages: "<stdout>" for "-".
 std::string output_name(const std::string& path);
 
-/// Why no file can be written to `path`, as far as that shows beforehand; empty if one can. A file that is
-/// there already, which may be one of the `inputs`, is overwritten only with `force`. "-" can be written to.
+/// Why no file can be written to `path`, as far as can be seen beforehand; empty if it can. An existing file,
+/// perhaps one of the `inputs`, is overwritten only with `force`. "-" can be written to.
 std::string why_not_there(const std::string& path, const std::vector<std::string>& inputs, bool force);
 
-/// Tells why the file was not written.
+/// Prints why the file was not written.
 exit_code fail_to_write(const std::string& path, const std::string& reason);
 
 /// Writes `text` to the file at `path`, to standard output for "-"; prints an error if it cannot. The result is

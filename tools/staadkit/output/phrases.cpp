@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t most_storey_terms = 12;
 
-/// Heights to the centimetre, to the millimetre where that matters.
+/// Heights to the centimetre, or to the millimetre if they are not whole centimetres.
 std::string storey_metres(double length)
 {
     return fixed_number(length / 1000.0, std::fmod(length, 10.0) == 0.0 ? 2 : 3);

@@ -1,4 +1,4 @@
-/// Numbers and counts as people write them. No locale has a say.
+/// Numbers and counts as people write them, independent of the locale.
 #ifndef TOOLS_STAADKIT_OUTPUT_PHRASES_H
 #define TOOLS_STAADKIT_OUTPUT_PHRASES_H
 
@@ -29,8 +29,8 @@ std::string storeys_in_words(const std::vector<double>& levels);
 /// "dead", "live", "wind", "seismic"; "unknown" for all others.
 const char* load_type_word(STAAD::LoadCase::LoadType type) noexcept;
 
-/// "1 TO 9 12 15 TO 20" in ascending order, as the lists of a .std file have it; of very many runs the
-/// first ones and "...".
+/// "1 TO 9 12 15 TO 20" in ascending order, as the lists of a .std file have it; of very many runs the first
+/// ones and "...".
 std::string run_list(const std::vector<int>& numbers);
 
 } // namespace tool

@@ -1,4 +1,4 @@
-/// Results on standard output: one buffer, and one place that knows whether all of it was written.
+/// Results on standard output: one buffer, and one check that all of it was written.
 #ifndef TOOLS_STAADKIT_OUTPUT_STD_OUTPUT_H
 #define TOOLS_STAADKIT_OUTPUT_STD_OUTPUT_H
 
@@ -9,7 +9,7 @@
 
 namespace tool {
 
-/// Buffered writer to standard output. After a failed write it takes everything and writes nothing.
+/// Buffered writer to standard output. After a failed write nothing more is written.
 class std_output {
 public:
     std_output();
@@ -20,7 +20,7 @@ public:
     void put(char c);
     bool failed() const noexcept { return failed_; }
 
-    /// Writes what is left. `so_far` if all was written; else says so and returns `not_written`.
+    /// Writes the rest. Returns `so_far` if all was written; else prints an error and returns `not_written`.
     exit_code close(exit_code so_far);
 
 private:

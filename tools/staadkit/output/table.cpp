@@ -38,8 +38,8 @@ void table::add_row(std::vector<std::string> cells)
     rows_.push_back(std::move(cells));
 }
 
-/// The widths with which no line takes more than `room` cells: the widest texts give way, cell by cell. Of no
-/// room: those of lines of any length.
+/// The widths with which no line takes more than `room` cells: the widest texts are cut, cell by cell. With
+/// `room` 0 lines may have any length.
 std::vector<std::size_t> table::widths_within(std::size_t room) const
 {
     std::vector<std::size_t> widths = widths_;
@@ -64,7 +64,7 @@ std::vector<std::size_t> table::widths_within(std::size_t room) const
 
 void table::put(std_output& out) const
 {
-    // The last cell of a line stays free: some consoles go to the next line once it is filled.
+    // The last cell of a line stays free: some consoles begin a new line when it is filled.
     const std::size_t terminal = terminal_width(stdout);
     const bool is_cut = terminal > 1;
     const std::vector<std::size_t> widths = widths_within(is_cut ? terminal - 1 : 0);

@@ -20,12 +20,12 @@ enum class align { left, right };
 ///
 /// On a terminal lines do not wrap: the widest texts are cut, "..." at their end. Columns to the right hold
 /// numbers, which are never cut. Elsewhere nothing is cut: a column is as wide as its widest cell, up to a
-/// bound, as one long text must not pad every other line with blanks; cells beyond the bound push the rest of
-/// their own line to the right.
+/// bound, so that one long text does not pad every other line; a cell beyond the bound pushes the rest of its
+/// own line to the right.
 class table {
 public:
     table() = default;
-    /// `columns` says how the first columns are aligned; further ones are to the left.
+    /// `columns` aligns the first columns; further ones are aligned to the left.
     explicit table(std::vector<align> columns);
 
     /// A row above all others, with the names of the columns or their units.

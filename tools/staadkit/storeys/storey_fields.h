@@ -16,10 +16,7 @@ template<class Visit>
 void each_field(const level_contents& contents, Visit visit)
 {
     visit("joints", contents.joints.size());
-    visit("columns", contents.members_of[STAAD::Column]);
-    visit("beams", contents.members_of[STAAD::Beam]);
-    visit("braces", contents.members_of[STAAD::Brace]);
-    visit("horizontal_braces", contents.members_of[STAAD::HorizontalBrace]);
+    visit_kinds(contents.members_of, visit);
     visit("shells", contents.shells());
     visit("members_with_forces", contents.members_with_forces);
     visit("joint_numbers", contents.joints);
@@ -49,7 +46,7 @@ void each_field(const numbered_section& section, Visit visit)
     visit("storeys", section.storeys);
 }
 
-/// What is in no storey for one reason.
+/// Members and elements that are in no storey for the same reason.
 struct outside_record {
     outside reason;
     const level_contents& contents;
@@ -62,19 +59,11 @@ void each_field(const outside_record& record, Visit visit)
     each_field(record.contents, visit);
 }
 
-template<class Visit>
-void each_field(const opened_forces& forces, Visit visit)
-{
-    visit("file", forces.name);
-    visit("was_read", forces.was_read);
-    visit("findings", forces.report.findings);
-}
-
-/// All of it.
+/// The whole document.
 struct storeys_document {
     const opened_model& opened;
     const std::optional<opened_forces>& forces;
-    const storeys_summary* summary; ///< null: there was nothing to take it from
+    const storeys_summary* summary; ///< null if no model was read
 };
 
 template<class Visit>

@@ -15,8 +15,8 @@ namespace {
 
 using STAAD::SdReader;
 
-/// The contents of each level of a model, and apart from them what lies at the lowest level or at none
-/// for want of a joint.
+/// The contents of each level of a model; apart from them members and elements at the lowest level, and those
+/// at no level because they lack a joint.
 class level_sorter {
 public:
     explicit level_sorter(const SdReader& model)
@@ -30,12 +30,12 @@ public:
             add_shell(i);
     }
 
-    /// The level at the top of the lowest storey: a single level is that of a storey of its own.
+    /// The level at the top of the lowest storey: a single level makes a storey of its own.
     std::size_t lowest_top() const { return assigned_.levels.size() == 1 ? 0 : 1; }
     std::vector<double> take_levels() { return std::move(assigned_.levels); }
     std::vector<level_contents> take_contents() { return std::move(contents_); }
     level_contents take_without_joints() { return std::move(without_joints_); }
-    /// How many members of no storey have each property text.
+    /// Number of members in no storey by property text.
     const std::map<std::string, std::size_t>& properties_in_none() const { return properties_in_none_; }
 
 private:
@@ -58,7 +58,7 @@ private:
         (index < STAAD::element_count(model_) ? place.elements : place.surfaces).push_back(shell.id);
     }
 
-    /// What is in no storey for want of a joint would perhaps be in one if it had them all.
+    /// Whether a record lacks a joint: it might be in a storey if it had all of them.
     template<class Positions>
     level_contents& place_of(std::size_t level, const Positions& joints)
     {
@@ -75,7 +75,7 @@ private:
 
     const SdReader& model_;
     STAAD::LevelAssignment assigned_;
-    std::vector<level_contents> contents_; // by level, and what lies above the last
+    std::vector<level_contents> contents_; // by level; the last one is above all levels
     level_contents without_joints_;
     std::map<std::string, std::size_t> properties_in_none_;
 };

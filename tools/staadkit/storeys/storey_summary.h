@@ -1,4 +1,4 @@
-/// What "storeys" reports about a model, before it is put in words.
+/// The data that "storeys" reports about a model.
 #ifndef TOOLS_STAADKIT_STOREYS_STOREY_SUMMARY_H
 #define TOOLS_STAADKIT_STOREYS_STOREY_SUMMARY_H
 
@@ -11,11 +11,11 @@
 
 namespace tool {
 
-/// What stands at one level, by the numbers of the file and in its order.
+/// The records at one level, by their numbers, in the order of the file.
 struct level_contents {
     std::vector<int> joints;
     std::vector<int> members;
-    std::vector<int> elements; ///< shells that are no copies of surfaces
+    std::vector<int> elements; ///< shells that are not copies of surfaces
     std::vector<int> surfaces;
     std::array<std::size_t, 4> members_of{}; ///< by STAAD::BeamType
     std::size_t members_with_forces = 0;
@@ -31,7 +31,7 @@ struct storey_summary {
     std::vector<int> sections; ///< numbers of the sections that its members have, ascending
 };
 
-/// Why something belongs to no storey.
+/// Why a record belongs to no storey.
 enum class outside : std::size_t { at_lowest_level, above_top_level, unknown_joints, no_levels };
 inline constexpr std::size_t outside_reasons = 4;
 
@@ -44,17 +44,17 @@ struct numbered_section {
     std::string material;     ///< of the first member that has it
     std::size_t members = 0;  ///< of all storeys
     std::size_t in_none = 0;  ///< members in no storey
-    std::vector<int> storeys; ///< where those of storeys are, ascending
+    std::vector<int> storeys; ///< the storeys that have such members, ascending
 };
 
 struct storeys_summary {
     std::vector<double> levels;          ///< mm, ascending
-    std::vector<storey_summary> storeys; ///< the lowest first; of a model without levels none
+    std::vector<storey_summary> storeys; ///< the lowest first; none if the model has no levels
     std::array<level_contents, outside_reasons> in_none;
     std::vector<numbered_section> sections;
 };
 
-/// The storeys of a model and what is in them. The model is used up; imported forces count if it has any.
+/// The storeys of a model and their contents. The model is consumed; forces are counted if it has any.
 storeys_summary summarise_storeys(STAAD::SdReader model);
 
 } // namespace tool

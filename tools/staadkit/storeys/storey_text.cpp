@@ -3,6 +3,8 @@
 #include "output/phrases.h"
 #include "output/table.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <cstddef>
 #include <string>
@@ -20,13 +22,13 @@ std::string exact_metres(double length)
 
 std::string heading(const storeys_summary& summary)
 {
-    // One level is a storey here: its height is no distance between levels, and is said to be none.
+    // A single level is one storey, whose height is no distance between levels.
     if (summary.levels.size() == 1)
         return "storeys: 1 (one level, at " + exact_metres(summary.levels.front()) + " m: height by convention)\n";
     return "storeys: " + storeys_in_words(summary.levels) + (summary.levels.empty() ? "\n" : ", from the top down\n");
 }
 
-/// Numbers of things: of a storey, of what is in none, of everything.
+/// Counts of a storey, of the records in none, or of everything.
 struct counts {
     std::size_t joints = 0;
     std::array<std::size_t, 4> members_of{};
@@ -117,7 +119,7 @@ void add_numbers(table& rows, const char* reason, const std::vector<int>& number
         rows.add_row({reason, count_of(numbers.size(), noun), run_list(numbers)});
 }
 
-/// Joints count in the table, but need not be looked for: feet of columns are at the lowest level.
+/// Joints are counted in the table but not listed: the feet of columns are at the lowest level.
 void put_outside(std_output& out, const storeys_summary& summary)
 {
     table rows;
@@ -136,7 +138,7 @@ std::string storeys_of(const numbered_section& section)
     if (section.storeys.empty())
         return "in no storey";
     const std::string text = (section.storeys.size() == 1 ? "storey " : "storeys ") + run_list(section.storeys);
-    return section.in_none == 0 ? text : text + ", " + std::to_string(section.in_none) + " in none";
+    return section.in_none == 0 ? text : fmt::format("{}, {} in none", text, section.in_none);
 }
 
 void put_sections(std_output& out, const storeys_summary& summary)
@@ -147,7 +149,7 @@ void put_sections(std_output& out, const storeys_summary& summary)
                       cell_text(section.material, "(no material)"),
                       count_of(section.members + section.in_none, "member"), storeys_of(section)});
     if (rows.size() != 0)
-        out.put("sections: " + std::to_string(rows.size()) + '\n');
+        out.put(fmt::format("sections: {}\n", rows.size()));
     rows.put(out);
 }
 

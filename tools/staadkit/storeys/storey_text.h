@@ -7,8 +7,8 @@
 
 namespace tool {
 
-/// The storeys from the top down, what is in none of them and why, and the sections. With `with_forces`
-/// also how many members have forces.
+/// Prints the storeys from the top down, the records in none of them and why, and the sections; with
+/// `with_forces` also how many members have forces.
 void put_storeys(std_output& out, const storeys_summary& summary, bool with_forces);
 
 } // namespace tool

@@ -1,4 +1,4 @@
-// The verb "storeys": what stands in which storey.
+// The verb "storeys": the storeys of a model and their contents.
 
 #include "cli/messages.h"
 #include "cli/open_model.h"
