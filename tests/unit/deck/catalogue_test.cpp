@@ -62,7 +62,7 @@ TEST(Catalogue, TellsCommandsApartThatBeginAlike)
         ASSERT_NE(found, nullptr) << each.line;
         EXPECT_EQ(found->command, each.command) << each.line << ": " << each.why;
     }
-    for (const char* line : {"MEMBER 1 TO 3", "JOINT 5", "EL 1", "12 13", "-1893 LOAD", "_GROUP LOAD", ""})
+    for (const char* line : {"MEMBER 1 TO 3", "JOINT 5", "EL 1", "12 13", "-1893 LOAD", "_GROUP LOAD", " "})
         EXPECT_EQ(row_of_line(line), nullptr) << line;
 }
 

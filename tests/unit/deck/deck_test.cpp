@@ -90,7 +90,7 @@ TEST(Deck, KeepsEveryByteOfRandomTexts)
         SCOPED_TRACE(seed);
         std::mt19937 random(seed);
         std::string text;
-        for (unsigned count = random() % 80; count > 0; --count) {
+        for (auto count = random() % 80; count > 0; --count) {
             if (seed % 4 == 0)
                 text += static_cast<char>(random() % 256);
             else
@@ -300,7 +300,7 @@ TEST(Deck, GivesLinesToTheirCommands)
           {"UNIT MMS KN", C::unit},
           {"FC 30 ALL", C::concrete_design},
           {"END CONCRETE DESIGN", C::concrete_design},
-          {"FC 30 ALL", C::parameter}}},
+          {"PERFORM ANALYSIS", C::perform}}},
         {"mesh",
          "its lines are its own",
          {{"DEFINE MESH", C::define_mesh},
