@@ -31,7 +31,7 @@ TEST(ReadElements, OfEveryForm)
 {
     const element_case cases[] = {
         {"element-incidences", "ELEM INCI\n1 1 2 3 4; 2 5 6 7 8", "1:1-2-3-4 2:5-6-7-8", "", "without a kind"},
-        {"element", "ELEMENT INCIDENCES SHELL\n 1 1 2 3 40\n2 1 2 3 4", "1:1-2-3-? 2:1-2-3-4", "joint-unknown@6",
+        {"element", "ELEMENT INCIDENCES SHELL\n 1 1 40 3 4\n2 1 2 3 4", "1:1-?-3-4 2:1-2-3-4", "joint-unknown@6",
          "a joint that no line defines"},
         {"element", "ELEM INCI\n1 1 2 3 4 5; 2 1 2; 3 1 2 0 4; 0 1 2 3; 4 1 2 X; 5 1 2 3 4", "5:1-2-3-4",
          "line-unread@6 line-unread@6 line-unread@6 line-unread@6 line-unread@6",
