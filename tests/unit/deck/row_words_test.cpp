@@ -101,7 +101,8 @@ TEST(RowWords, AreThoseOfEveryForm)
 
 TEST(RowWords, OfLongLines)
 {
-    std::string text = "0"; // form "long-lines"
+    SCOPED_TRACE("long-lines");
+    std::string text = "0";
     for (int i = 1; i < 5000; ++i)
         text += " " + std::to_string(i);
     EXPECT_EQ(shown_rows(Deck(text)), text);

@@ -25,7 +25,9 @@ inline std::string shown_joints(const Structure& structure)
     std::string shown;
     for (const Structure::Joint& joint : structure.joints) {
         char text[128];
-        const auto plain = [](double value) { return std::abs(value) < 1e9 ? std::round(value * 1e6) / 1e6 + 0.0 : value; };
+        const auto plain = [](double value) {
+            return std::abs(value) < 1e9 ? std::round(value * 1e6) / 1e6 + 0.0 : value;
+        };
         std::snprintf(text, sizeof text, "%d:%.9g,%.9g,%.9g", joint.number, plain(joint.x), plain(joint.y),
                       plain(joint.z));
         add_shown(shown, text);
