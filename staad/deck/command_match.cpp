@@ -120,6 +120,16 @@ const CommandInfo* find_command(const row_words& words) noexcept
     return nullptr;
 }
 
+bool begins_with_number(const row_words& words) noexcept
+{
+    std::string_view first = words.peek();
+    if (!first.empty() && (first.front() == '-' || first.front() == '+'))
+        first.remove_prefix(1);
+    if (!first.empty() && first.front() == '.')
+        first.remove_prefix(1);
+    return !first.empty() && is_digit(first.front());
+}
+
 bool begins_a_list(const row_words& words) noexcept
 {
     const std::string_view first = words.peek();

@@ -16,6 +16,9 @@ const CommandInfo* find_command(const row_words& words) noexcept;
 /// alternatives parted by "|".
 bool begins_with(const row_words& words, std::string_view forms) noexcept;
 
+/// Whether a row begins with a number.
+bool begins_with_number(const row_words& words) noexcept;
+
 /// Whether a row begins as a list does: a number, a group, ALL, LIST, a range, a kind of record with one of these
 /// after it.
 bool begins_a_list(const row_words& words) noexcept;

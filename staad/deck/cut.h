@@ -38,6 +38,8 @@ private:
 
     void cut_statements();
     void add_text_row(std::size_t row);
+    void add_row_of_ended_block(const detail::row_words& words, std::size_t row);
+    bool goes_on_after_unit(const detail::row_words& words, const CommandInfo* command) noexcept;
     void begin_statement(std::size_t row, const CommandInfo& info);
     void resume_statement(std::size_t row);
     bool is_data(const detail::row_words& words, const CommandInfo* command) const noexcept;
@@ -47,8 +49,9 @@ private:
     bool no_end_of_generated_ = false; // after the line looked at last
     const CommandInfo* open_ = &command_info(Command::none);
     const CommandInfo* interrupted_ = nullptr; // by the UNIT line that is open: its data may go on after it
-    bool in_design_ = false;                   // words that are no commands are parameters of the design
-    DataLines data_ = DataLines::none;         // of the open statement
+    DataLines interrupted_data_ = DataLines::none;
+    bool in_design_ = false;           // words that are no commands are parameters of the design
+    DataLines data_ = DataLines::none; // of the open statement
     /// By command: no line after the one looked at last ends a block of it. A search that failed is not made again.
     std::array<bool, number_of_commands> without_end_{};
 };

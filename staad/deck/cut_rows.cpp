@@ -44,9 +44,7 @@ bool begins_generated(std::string_view line) noexcept
 
 RowKind DeckCutter::kind_of_line(std::size_t line) const noexcept
 {
-    std::string_view text = deck_.line(line);
-    if (line == 1)
-        text = detail::without_mark(text);
+    const std::string_view text = detail::line_after_mark(deck_, line);
     switch (first_character(text)) {
     case '\0':
         return RowKind::blank;
@@ -75,7 +73,7 @@ std::size_t DeckCutter::last_line_of_generated(std::size_t first) noexcept
 std::size_t DeckCutter::last_line_of_row(std::size_t first) const noexcept
 {
     std::size_t last = first;
-    bool continued = detail::is_continued(deck_.line(first));
+    bool continued = detail::is_continued(detail::line_after_mark(deck_, first));
     for (std::size_t line = first + 1; continued && line <= deck_.line_count(); ++line) {
         const RowKind kind = kind_of_line(line);
         if (kind == RowKind::blank || kind == RowKind::comment)

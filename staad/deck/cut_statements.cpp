@@ -18,6 +18,18 @@ bool is_design(Command command) noexcept
     return command == Command::parameter || command == Command::code_check || command == Command::design;
 }
 
+/// Commands of any word that the catalogue has no row for; the word may be one of a list, too.
+bool is_of_any_word(Command command) noexcept
+{
+    return command == Command::member_other || command == Command::element_other;
+}
+
+/// Blocks with an END line in which UNIT means what it means elsewhere. Materials and user tables follow their own.
+bool may_change_units(Command command) noexcept
+{
+    return command == Command::concrete_design;
+}
+
 bool keeps_design_open(Command command) noexcept
 {
     return is_design(command) || command == Command::unit || command == Command::print || command == Command::load_list;
@@ -26,20 +38,31 @@ bool keeps_design_open(Command command) noexcept
 } // namespace
 
 /// Whether a line below `head` ends its block. Where none does, as in a cut-off deck, the block must not take the
-/// rest of it.
+/// rest of it, and none of the next block of its kind.
 bool DeckCutter::is_ended_by_line(const CommandInfo& info, std::size_t head) noexcept
 {
     bool& without_end = without_end_[static_cast<std::size_t>(info.command)];
-    for (std::size_t row = head + 1; !without_end && row < deck_.row_count(); ++row)
-        if (deck_.rows_[row].kind == RowKind::data && begins_with(detail::row_words(deck_, row), info.data_words))
+    for (std::size_t row = head + 1; !without_end && row < deck_.row_count(); ++row) {
+        if (deck_.rows_[row].kind != RowKind::data)
+            continue;
+        const detail::row_words words(deck_, row);
+        if (begins_with(words, info.data_words))
             return true;
+        if (begins_with(words, info.short_form))
+            return false;
+    }
     without_end = true;
     return false;
 }
 
 void DeckCutter::begin_statement(std::size_t row, const CommandInfo& info)
 {
-    interrupted_ = info.command != Command::unit ? nullptr : open_->command != Command::unit ? open_ : interrupted_;
+    if (info.command != Command::unit) {
+        interrupted_ = nullptr;
+    } else if (open_->command != Command::unit) {
+        interrupted_ = open_;
+        interrupted_data_ = data_;
+    }
     in_design_ = is_design(info.command) || (in_design_ && keeps_design_open(info.command));
     deck_.rows_[row].kind = RowKind::head;
     deck_.statements_.push_back({static_cast<std::uint32_t>(row), info.command});
@@ -54,7 +77,7 @@ void DeckCutter::resume_statement(std::size_t row)
 {
     deck_.statements_.push_back({static_cast<std::uint32_t>(row), interrupted_->command});
     open_ = interrupted_;
-    data_ = open_->data;
+    data_ = interrupted_data_;
 }
 
 /// Whether a row is data of the open statement. Its own words come before commands that look like them.
@@ -66,39 +89,56 @@ bool DeckCutter::is_data(const detail::row_words& words, const CommandInfo* comm
         return false;
     if (*open_->data_words != '\0' && detail::begins_with(words, open_->data_words))
         return true;
-    if (command != nullptr)
+    if (command != nullptr && !is_of_any_word(command->command))
         return false;
-    const std::string_view first = words.peek();
-    const bool begins_with_digit = !first.empty() && first.front() >= '0' && first.front() <= '9';
-    return begins_with_digit || (data_ == DataLines::lists && detail::begins_a_list(words));
+    return detail::begins_with_number(words) || (data_ == DataLines::lists && detail::begins_a_list(words));
+}
+
+/// Every row is one of the block, up to the END.
+void DeckCutter::add_row_of_ended_block(const detail::row_words& words, std::size_t row)
+{
+    if (detail::begins_with(words, open_->data_words))
+        data_ = DataLines::none;
+    else if (may_change_units(open_->command) && detail::begins_with(words, "UNIT"))
+        begin_statement(row, command_info(Command::unit));
+}
+
+/// Whether a row goes on with the block that the open UNIT line stands in.
+bool DeckCutter::goes_on_after_unit(const detail::row_words& words, const CommandInfo* command) noexcept
+{
+    if (open_->command != Command::unit || interrupted_ == nullptr ||
+        (command != nullptr && command->command == Command::unit))
+        return false;
+    if (interrupted_data_ == DataLines::until_end)
+        return true;
+    std::swap(open_, interrupted_);
+    data_ = interrupted_data_;
+    const bool goes_on = is_data(words, command);
+    std::swap(open_, interrupted_);
+    data_ = DataLines::none;
+    return goes_on;
 }
 
 void DeckCutter::add_text_row(std::size_t row)
 {
     const detail::row_words words(deck_, row);
+    if (words.peek().empty()) // ";" or "-" alone
+        return;
     if (data_ == DataLines::until_end) {
-        if (detail::begins_with(words, open_->data_words))
-            data_ = DataLines::none;
+        add_row_of_ended_block(words, row);
         return;
     }
     const CommandInfo* command = detail::find_command(words);
     if (is_data(words, command))
         return;
-    if (command != nullptr) {
-        begin_statement(row, *command);
+    if (goes_on_after_unit(words, command)) {
+        resume_statement(row);
+        if (data_ == DataLines::until_end)
+            add_row_of_ended_block(words, row);
         return;
     }
-    if (open_->command == Command::unit && interrupted_ != nullptr) {
-        data_ = interrupted_->data;
-        std::swap(open_, interrupted_);
-        const bool goes_on = is_data(words, command);
-        std::swap(open_, interrupted_);
-        if (goes_on) {
-            resume_statement(row);
-            return;
-        }
-    }
-    begin_statement(row, command_info(in_design_ ? Command::parameter : Command::unknown));
+    const Command unnamed = in_design_ ? Command::parameter : Command::unknown;
+    begin_statement(row, command != nullptr ? *command : command_info(unnamed));
 }
 
 void DeckCutter::cut_statements()

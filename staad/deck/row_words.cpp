@@ -48,9 +48,10 @@ std::string_view line_content(std::string_view line) noexcept
     return trim(line);
 }
 
-std::string_view without_mark(std::string_view text) noexcept
+std::string_view line_after_mark(const Deck& deck, std::size_t number) noexcept
 {
-    return starts_with(text, "\xEF\xBB\xBF") ? text.substr(3) : text;
+    const std::string_view line = deck.line(number);
+    return number == 1 && starts_with(line, "\xEF\xBB\xBF") ? line.substr(3) : line;
 }
 
 bool is_continued(std::string_view line) noexcept
@@ -73,16 +74,15 @@ bool is_comment_line(std::string_view line) noexcept
 row_words::row_words(const Deck& deck, const DeckRow& row) noexcept : deck_(&deck), last_line_(row.lines.last)
 {
     enter_line(row.lines.first);
+    while (!find_word() && at_ != end_)
+        ++at_;
 }
 
 void row_words::enter_line(std::size_t line) noexcept
 {
     line_ = line;
-    std::string_view content = deck_->line(line);
-    if (line == 1)
-        content = without_mark(content);
     // Only a row of several lines, or the last row of a text, has a "-" to take off.
-    content = line_content(content);
+    const std::string_view content = line_content(line_after_mark(*deck_, line));
     at_ = content.data();
     end_ = at_ + content.size();
 }

@@ -19,15 +19,16 @@ constexpr bool is_separator(char c) noexcept
 /// `line` without separators at its ends, and without the "-" that continues it: one that stands alone, or
 /// after a number. A "-" that ends any other word is part of it ("Q345-").
 std::string_view line_content(std::string_view line) noexcept;
-/// `text` without the mark that may stand at the start of UTF-8 texts.
-std::string_view without_mark(std::string_view text) noexcept;
+/// Physical line `number` without the mark that may stand at the start of UTF-8 texts.
+std::string_view line_after_mark(const Deck& deck, std::size_t number) noexcept;
 /// Whether `line` is continued by a "-", see line_content(). Comments are not.
 bool is_continued(std::string_view line) noexcept;
 /// Whether `line` begins with "*".
 bool is_comment_line(std::string_view line) noexcept;
 
 /// Walks the words of one row: what separators or ";" part. A word in quotes is one word, quotes included, if
-/// they are closed on the same line. Words are views of the text of the deck, which must outlive them.
+/// they are closed on the same line. A ";" that nothing stands before ends no item. Words are views of the text of the
+/// deck, which must outlive them.
 class row_words {
 public:
     row_words(const Deck& deck, std::size_t row) noexcept : row_words(deck, deck.row(row)) {}
@@ -53,8 +54,6 @@ public:
     /// What is left of the row as it stands in the text, ";" included, without separators at its ends; what
     /// stands on several lines with a single blank between these.
     std::string rest();
-    /// The physical line of the word that next() would take.
-    std::size_t line() const noexcept { return line_; }
 
 private:
     row_words(const Deck& deck, const DeckRow& row) noexcept;

@@ -17,8 +17,8 @@ void read_blocks(structure_reading& context)
     read_elements(context);
     read_surfaces(context);
     read_groups(context);
-    delete_records(context);
     link_joints(context);
+    delete_records(context);
     read_user_tables(context);
     read_sections(context);
     read_materials(context);
@@ -41,7 +41,7 @@ std::optional<Structure> read_structure(const Deck& deck, ReadReport& report)
     std::optional<Structure> structure(std::in_place);
     structure_reading context(deck, *structure, report);
     if (!context.has_units()) {
-        context.findings.add(FindingCode::no_unit, {}, [] { return "no UNIT line"; });
+        context.findings.add(FindingCode::no_unit, {}, [] { return "no UNIT line that gives a length and a force"; });
         return std::nullopt;
     }
     read_blocks(context);

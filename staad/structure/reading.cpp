@@ -22,6 +22,7 @@ void structure_reading::follow_units()
 {
     for (const std::size_t statement : statements_of(Command::unit))
         follow_unit_line(statement);
+    fill_first_units();
 }
 
 /// Each word is a length or a force by itself; what the line leaves out stays as it was.
@@ -45,6 +46,25 @@ void structure_reading::follow_unit_line(std::size_t statement)
         }
     }
     unit_changes_.push_back({statement, std::move(units)});
+}
+
+void structure_reading::fill_first_units() noexcept
+{
+    const auto end = unit_changes_.end();
+    const auto length =
+        std::find_if(unit_changes_.begin(), end, [](auto& each) { return !each.units.length_word.empty(); });
+    const auto force =
+        std::find_if(unit_changes_.begin(), end, [](auto& each) { return !each.units.force_word.empty(); });
+    for (auto each = unit_changes_.begin(); each != end; ++each) {
+        if (length != end && each < length) {
+            each->units.length = length->units.length;
+            each->units.length_word = length->units.length_word;
+        }
+        if (force != end && each < force) {
+            each->units.force = force->units.force;
+            each->units.force_word = force->units.force_word;
+        }
+    }
 }
 
 const exact_units& structure_reading::units_at(std::size_t statement) const noexcept
@@ -82,12 +102,12 @@ line_place structure_reading::place_of(std::size_t row) const noexcept
     return {static_cast<std::uint32_t>(lines.first), static_cast<std::uint32_t>(lines.last)};
 }
 
-void structure_reading::take_generated(std::size_t count, std::size_t row)
+void structure_reading::take_generated(std::size_t count, std::size_t row, std::size_t times)
 {
     const FileLines lines = deck.row(row).lines;
-    if (count > most_generated_per_reading - generated_)
+    if (count > 0 && times > (most_generated_per_reading - generated_) / count)
         throw ReadLimitError(lines.first, lines.last, most_generated_per_reading);
-    generated_ += count;
+    generated_ += count * times;
 }
 
 void structure_reading::report_unread(std::size_t row, std::string_view what)

@@ -52,9 +52,19 @@ struct structure_reading {
     {
         return statements_[static_cast<std::size_t>(command)];
     }
-    /// The units in force at a statement. Numbers before the first UNIT line are in those of that line.
+    /// The units in force at a statement. Lengths before the first UNIT line that has one are in that one, and so are
+    /// forces.
     const exact_units& units_at(std::size_t statement) const noexcept;
-    bool has_units() const noexcept { return !unit_changes_.empty(); }
+    /// Whether UNIT lines say both a length and a force.
+    bool has_units() const noexcept
+    {
+        return !unit_changes_.empty() && !units_at(0).length_word.empty() && !units_at(0).force_word.empty();
+    }
+    /// Whether a statement begins its block. One that goes on after a UNIT line does not.
+    bool begins_block(std::size_t statement) const noexcept
+    {
+        return deck.row(deck.statement(statement).first_row).kind == RowKind::head;
+    }
 
     /// The case that a statement belongs to; filled by read_load_cases().
     const open_case& case_at(std::size_t statement) const noexcept;
@@ -64,7 +74,7 @@ struct structure_reading {
     Structure::Source source_of(std::size_t row);
     line_place place_of(std::size_t row) const noexcept;
 
-    /// Calls `visit(row_words&, row)` for every row of data of a statement.
+    /// Calls `visit(row_words&, row)` for every row of data of a statement that has words.
     template<class Visit>
     void each_data_row(std::size_t statement, Visit visit)
     {
@@ -72,7 +82,8 @@ struct structure_reading {
         for (std::size_t row = cut.first_row; row < cut.past_row; ++row)
             if (deck.row(row).kind == RowKind::data) {
                 row_words words(deck, row);
-                visit(words, row);
+                if (!words.peek().empty())
+                    visit(words, row);
             }
     }
     /// The same for all statements of a command.
@@ -94,9 +105,9 @@ struct structure_reading {
         return structure.head.up == Structure::UpAxis::z ? file_axis : (file_axis + 1) % 3;
     }
 
-    /// A line makes so many records without writing them out. Throws ReadLimitError before there are more of these
-    /// than a reading makes.
-    void take_generated(std::size_t count, std::size_t row);
+    /// A line makes so many records, so many times, without writing them out. Throws ReadLimitError before there are
+    /// more of these than a reading makes.
+    void take_generated(std::size_t count, std::size_t row, std::size_t times = 1);
 
     /// A row, or a part of it, says nothing that the reading understands.
     void report_unread(std::size_t row, std::string_view what);
@@ -121,6 +132,7 @@ private:
     void sort_statements();
     void follow_units();
     void follow_unit_line(std::size_t statement);
+    void fill_first_units() noexcept;
 
     struct unit_change {
         std::size_t statement;

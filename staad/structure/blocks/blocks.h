@@ -17,10 +17,10 @@ void read_elements(structure_reading& context);
 void read_surfaces(structure_reading& context);
 /// Groups: names and numbers.
 void read_groups(structure_reading& context);
-/// Takes away what DELETE lines name. Lists may name everything above.
-void delete_records(structure_reading& context);
-/// Numbers of joints in all of these become positions.
+/// Numbers of joints in all of these become positions. Lists may name everything above.
 void link_joints(structure_reading& context);
+/// Takes away what DELETE lines name.
+void delete_records(structure_reading& context);
 
 // What lists give to members, elements and joints; a later line replaces an earlier one.
 

@@ -64,6 +64,24 @@ private:
     int highest_ = 0;
 };
 
+/// Reads all blocks of a command: `Block` is made of what begins one, reads its statements, which UNIT lines part, and
+/// is ended.
+template<class Block, class... Records>
+void each_block(structure_reading& context, Command command, Records&... records)
+{
+    std::optional<Block> block;
+    for (const std::size_t statement : context.statements_of(command)) {
+        if (!block || context.begins_block(statement)) {
+            if (block)
+                block->end();
+            block.emplace(context, records..., statement);
+        }
+        block->read(statement);
+    }
+    if (block)
+        block->end();
+}
+
 /// `number` + `step` * `count`, if it is a number that records may have.
 inline std::optional<int> stepped(int number, int step, int count = 1) noexcept
 {

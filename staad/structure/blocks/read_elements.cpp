@@ -4,6 +4,7 @@
 #include "staad/structure/values.h"
 #include "staad/text/words.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -21,7 +22,8 @@ struct written_element {
     std::uint8_t corners = 0;
 };
 
-/// An ELEMENT INCIDENCES block. Until all are there elements hold numbers of joints, then positions.
+/// An ELEMENT INCIDENCES block, which may go on after UNIT lines. Until all are there elements hold numbers of joints,
+/// then positions.
 class element_block {
 public:
     element_block(structure_reading& context, numbered_records<Structure::Element>& elements,
@@ -31,8 +33,13 @@ public:
         row_words head(context.deck, context.deck.statement(statement).first_row);
         for (std::string_view word; head.next(word);)
             is_solid_ |= is_word(word, "SOLI");
-        context.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
     }
+
+    void read(std::size_t statement)
+    {
+        context_.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
+    }
+    void end() const noexcept {}
 
 private:
     void read_row(row_words& words, std::size_t row)
@@ -63,7 +70,9 @@ private:
         if (!is_solid_ && element.corners == 4 && element.joints[3] == 0)
             element.corners = 3;
         const bool is_generated = to_upper_ascii(words.peek()) == "TO";
-        if (element.number < 1 || element.corners < fewest || (!is_generated && !words.peek().empty())) {
+        const auto* first = element.joints.data();
+        const bool has_joints = std::all_of(first, first + element.corners, [](int joint) { return joint > 0; });
+        if (element.number < 1 || element.corners < fewest || !has_joints || (!is_generated && !words.peek().empty())) {
             context_.report_unread(row, is_solid_ ? "no solid" : "no element");
             return;
         }
@@ -81,7 +90,7 @@ private:
         const std::optional<int> last = numbers.next_whole();
         const int step = numbers.next_whole().value_or(1);
         const int joint_step = numbers.next_whole().value_or(1);
-        if (!last || *last <= from.number || step < 1 || !words.peek().empty()) {
+        if (!last || *last <= from.number || step < 1 || *last - from.number < step || !words.peek().empty()) {
             context_.report_unread(row, "a line of elements that stands for no other");
             return;
         }
@@ -135,7 +144,11 @@ private:
             return;
         }
         const std::vector<written_element> copied = repeat->is_all ? all_ : line_;
-        context_.take_generated(copied.size() * static_cast<std::size_t>(repeat->times), row);
+        if (copied.empty()) {
+            context_.report_unread(row, "no elements to repeat");
+            return;
+        }
+        context_.take_generated(copied.size(), row, static_cast<std::size_t>(repeat->times));
         for (int copy = 1; copy <= repeat->times; ++copy)
             for (const written_element& each : copied)
                 add_stepped(each, by->number, by->joint, copy, row);
@@ -157,8 +170,7 @@ void read_elements(structure_reading& context)
 {
     numbered_records<Structure::Element> elements(context, "element");
     numbered_records<Structure::Solid> solids(context, "solid");
-    for (const std::size_t statement : context.statements_of(Command::element_incidences))
-        element_block(context, elements, solids, statement);
+    each_block<element_block>(context, Command::element_incidences, elements, solids);
     context.structure.elements = elements.take();
     context.structure.solids = solids.take();
     context.elements = record_lookup(context.structure.elements);

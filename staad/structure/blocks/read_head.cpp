@@ -1,5 +1,6 @@
 #include "staad/structure/blocks/blocks.h"
 
+#include "staad/deck/command_match.h"
 #include "staad/text/words.h"
 
 #include <optional>
@@ -38,8 +39,9 @@ void read_title(structure_reading& context, std::size_t row)
 
 void read_job_lines(structure_reading& context, std::size_t statement)
 {
+    const char* end = command_info(Command::job_information).data_words;
     context.each_data_row(statement, [&](row_words& words, std::size_t) {
-        if (!is_word(words.peek(), "END"))
+        if (!begins_with(words, end))
             context.structure.head.job_lines.push_back(words.rest());
     });
 }

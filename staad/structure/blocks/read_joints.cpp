@@ -19,7 +19,7 @@ namespace {
 
 using triple = std::array<double, 3>;
 
-/// A joint with the numbers of its line: Cartesian or cylindrical, in the file's units and axes.
+/// A joint with the numbers of its line: Cartesian or cylindrical, in the file's axes, mm and degrees.
 struct written_joint {
     int number = 0;
     triple at{};
@@ -28,16 +28,32 @@ struct written_joint {
 
 enum class coordinates { cartesian, cylindrical, cylindrical_reverse };
 
-/// A JOINT COORDINATES block.
+/// A JOINT COORDINATES block, which may go on after UNIT lines.
 class joint_block {
 public:
     joint_block(structure_reading& context, numbered_records<Structure::Joint>& joints, std::size_t statement)
-        : context_(context), joints_(joints), length_(context.units_at(statement).length)
+        : context_(context), joints_(joints)
     {
-        read_head(statement);
-        context.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
-        for (std::size_t i = 0; i < written_.size(); ++i)
-            joints_.add(placed(written_[i].joint), written_[i].row);
+        if (context.begins_block(statement))
+            read_head(statement);
+    }
+
+    void read(std::size_t statement)
+    {
+        length_ = context_.units_at(statement).length;
+        context_.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
+    }
+
+    /// Hands the joints on: an origin counts for all of the block.
+    void end()
+    {
+        for (const item& each : written_) {
+            const Structure::Joint joint = placed(each.joint);
+            if (std::isfinite(joint.x) && std::isfinite(joint.y) && std::isfinite(joint.z))
+                joints_.add(joint, each.row);
+            else
+                context_.report_unread(each.row, "a joint farther out than numbers go");
+        }
     }
 
 private:
@@ -79,8 +95,10 @@ private:
                 context_.report_unread(row, "an origin of fewer than three numbers");
                 return;
             }
-            each = *number;
+            each = *number * length_;
         }
+        if (!words.peek().empty())
+            context_.report_unread(row, "an origin of more than three numbers");
         origin_ = origin;
     }
 
@@ -108,7 +126,7 @@ private:
                 break;
             values[count++] = *value;
         }
-        if (!words.peek().empty())
+        if (numbers.has_next() || !words.peek().empty())
             context_.report_unread(row, "a joint with more than its coordinates");
         add_item(*number, values, count, row);
     }
@@ -127,6 +145,7 @@ private:
         const std::size_t size = is_flat ? 2 : 3;
         triple from{};
         std::copy_n(values.begin(), size, from.begin());
+        from = in_mm(from);
         add(number, from, row);
         const std::size_t rest = count > size ? count - size : 0;
         const bool is_tail_of_zeros = std::all_of(values.begin() + 3, values.end(), [](double v) { return v == 0; });
@@ -147,6 +166,7 @@ private:
         }
         triple to{};
         std::copy_n(values + 1, size, to.begin());
+        to = in_mm(to);
         if (last > number)
             add_between(number, from, static_cast<int>(last), to, step, row);
         else
@@ -158,7 +178,7 @@ private:
     void add_between(int number, const triple& from, int last, const triple& to, double step, std::size_t row)
     {
         const auto count = static_cast<std::size_t>((static_cast<double>(last) - number) / step);
-        take(count, row);
+        context_.take_generated(count, row);
         for (std::size_t i = 1; i <= count; ++i) {
             const double at = static_cast<double>(number) + static_cast<double>(i) * step;
             if (at >= last)
@@ -183,7 +203,7 @@ private:
         const std::optional<repeat_line> repeat = read_repeat(context_, words, row);
         if (!repeat)
             return;
-        std::vector<double> moves = repeat->numbers;
+        const std::vector<double>& moves = repeat->numbers;
         if (moves.size() < 3 || moves.size() % 3 != 0) {
             context_.report_unread(row, "moves that are not three numbers each");
             return;
@@ -191,16 +211,21 @@ private:
         std::size_t begin = repeat->is_all ? block_begin_ : line_begin_;
         std::size_t end = repeat->is_all ? written_.size() : line_end();
         const std::size_t count = end - begin;
-        take(count * static_cast<std::size_t>(repeat->times), row);
+        if (count == 0)
+            context_.report_unread(row, "no joints to repeat");
+        context_.take_generated(count, row, static_cast<std::size_t>(repeat->times));
         for (int copy = 0; copy < repeat->times && count > 0; ++copy) {
-            const std::size_t move = std::min(static_cast<std::size_t>(copy) * 3, moves.size() - 3);
+            const std::size_t first = std::min(static_cast<std::size_t>(copy) * 3, moves.size() - 3);
+            const triple move = in_mm({moves[first], moves[first + 1], moves[first + 2]});
             const std::size_t copied = written_.size();
             for (std::size_t i = begin; i < end; ++i) {
                 const triple at = written_[i].joint.at;
                 const std::optional<int> number = stepped(std::max(highest_, joints_.highest()), 1);
-                if (!number)
+                if (!number) {
+                    context_.report_unread(row, "a copy with a number that no joint can have");
                     return;
-                add(*number, {at[0] + moves[move], at[1] + moves[move + 1], at[2] + moves[move + 2]}, row);
+                }
+                add(*number, {at[0] + move[0], at[1] + move[1], at[2] + move[2]}, row);
             }
             begin = copied;
             end = copied + count;
@@ -218,24 +243,31 @@ private:
         return end;
     }
 
-    void take(std::size_t count, std::size_t row) { context_.take_generated(count, row); }
+    /// Lengths by the unit in force; angles stay.
+    triple in_mm(triple at) const noexcept
+    {
+        for (std::size_t i = 0; i < at.size(); ++i)
+            at[i] *= system_ != coordinates::cartesian && i == place_of_angle() ? 1.0 : length_;
+        return at;
+    }
+
+    std::size_t place_of_angle() const noexcept { return system_ == coordinates::cylindrical ? 1 : 2; }
 
     Structure::Joint placed(const written_joint& joint) const
     {
-        const double angle = joint.at[system_ == coordinates::cylindrical ? 1 : 2] * std::numbers::pi / 180.0;
+        const double angle = joint.at[place_of_angle()] * std::numbers::pi / 180.0;
         triple at = joint.at;
         if (system_ == coordinates::cylindrical)
             at = {at[0] * std::cos(angle), at[0] * std::sin(angle), at[2]};
         else if (system_ == coordinates::cylindrical_reverse)
             at = {at[0] * std::cos(angle), at[1], -at[0] * std::sin(angle)};
-        const Vector3 model = context_.in_model_frame((at[0] + origin_[0]) * length_, (at[1] + origin_[1]) * length_,
-                                                      (at[2] + origin_[2]) * length_);
+        const Vector3 model = context_.in_model_frame(at[0] + origin_[0], at[1] + origin_[1], at[2] + origin_[2]);
         return {joint.number, model.x, model.y, model.z, joint.source};
     }
 
     structure_reading& context_;
     numbered_records<Structure::Joint>& joints_;
-    double length_;
+    double length_ = 1.0;
     coordinates system_ = coordinates::cartesian;
     triple origin_{};
     std::vector<item> written_;
@@ -249,8 +281,7 @@ private:
 void read_joints(structure_reading& context)
 {
     numbered_records<Structure::Joint> joints(context, "joint");
-    for (const std::size_t statement : context.statements_of(Command::joint_coordinates))
-        joint_block(context, joints, statement);
+    each_block<joint_block>(context, Command::joint_coordinates, joints);
     context.structure.joints = joints.take();
     context.joints = record_lookup(context.structure.joints);
 }

@@ -11,14 +11,20 @@
 namespace STAAD::detail {
 namespace {
 
-/// A MEMBER INCIDENCES block. Until all are there members hold numbers of joints, then positions.
+/// A MEMBER INCIDENCES block, which may go on after UNIT lines. Until all are there members hold numbers of joints,
+/// then positions.
 class member_block {
 public:
-    member_block(structure_reading& context, numbered_records<Structure::Member>& members, std::size_t statement)
+    member_block(structure_reading& context, numbered_records<Structure::Member>& members, std::size_t /*statement*/)
         : context_(context), members_(members)
     {
-        context.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
     }
+
+    void read(std::size_t statement)
+    {
+        context_.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
+    }
+    void end() const noexcept {}
 
 private:
     void read_row(row_words& words, std::size_t row)
@@ -44,7 +50,7 @@ private:
                 break;
             values[count++] = *value;
         }
-        if (count < 3 || values[0] < 1 || !words.peek().empty()) {
+        if (count < 3 || values[0] < 1 || values[1] < 1 || values[2] < 1 || !words.peek().empty()) {
             context_.report_unread(row, "no member");
             return;
         }
@@ -60,7 +66,7 @@ private:
         const int joint_step = count > 5 ? values[5] : 1;
         const bool yields = values[3] > values[0] && step > 0 && values[3] - values[0] >= step;
         if (count == 6 && values[3] > 0 && knows(values[4]) && knows(values[5]) &&
-            (!yields || !knows_generated(values, step, joint_step))) {
+            (!yields || !knows_generated(values, step, joint_step, row))) {
             context_.report(FindingCode::two_items, row,
                             [&] { return "read as two members: " + quote(context_.deck.row_text(row)); });
             add(values[3], values[4], values[5], row);
@@ -79,14 +85,23 @@ private:
     bool knows(int joint) const noexcept { return context_.joints.position(joint) >= 0; }
 
     /// Whether the joints of all members that the line would make are there.
-    bool knows_generated(const std::array<int, 6>& values, int step, int joint_step) const noexcept
+    bool knows_generated(const std::array<int, 6>& values, int step, int joint_step, std::size_t row)
     {
-        for (int copy = 1; copy <= (values[3] - values[0]) / step; ++copy) {
+        const auto knows_copy = [&](int copy) {
             const std::optional<int> start = stepped(values[1], joint_step, copy);
             const std::optional<int> end = stepped(values[2], joint_step, copy);
-            if (!start || !end || !knows(*start) || !knows(*end))
+            return start && end && knows(*start) && knows(*end);
+        };
+        const int copies = (values[3] - values[0]) / step;
+        if (!knows_copy(copies))
+            return false;
+        // The last one is there: as many as there are joints may be, and again with the next line.
+        const line_place place = context_.place_of(row);
+        context_.budget.start_list(place.first, place.last);
+        context_.budget.take(static_cast<std::size_t>(copies));
+        for (int copy = 1; copy < copies; ++copy)
+            if (!knows_copy(copy))
                 return false;
-        }
         return true;
     }
 
@@ -124,7 +139,11 @@ private:
             return;
         }
         const std::vector<std::array<int, 3>> copied = repeat->is_all ? all_ : line_;
-        context_.take_generated(copied.size() * static_cast<std::size_t>(repeat->times), row);
+        if (copied.empty()) {
+            context_.report_unread(row, "no members to repeat");
+            return;
+        }
+        context_.take_generated(copied.size(), row, static_cast<std::size_t>(repeat->times));
         for (int copy = 1; copy <= repeat->times; ++copy)
             for (const std::array<int, 3>& each : copied)
                 add_stepped(each, by->number, by->joint, copy, row);
@@ -143,8 +162,7 @@ private:
 void read_members(structure_reading& context)
 {
     numbered_records<Structure::Member> members(context, "member");
-    for (const std::size_t statement : context.statements_of(Command::member_incidences))
-        member_block(context, members, statement);
+    each_block<member_block>(context, Command::member_incidences, members);
     context.structure.members = members.take();
     context.members = record_lookup(context.structure.members);
 }

@@ -4,6 +4,7 @@
 #include "staad/structure/values.h"
 #include "staad/text/words.h"
 
+#include <algorithm>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -22,7 +23,8 @@ void read_item(structure_reading& context, numbered_records<Structure::Surface>&
     std::string_view word;
     const bool has_word = words.next(word) && is_word(word, "SUR");
     surface.number = has_word ? numbers.next_whole().value_or(0) : 0;
-    if (surface.number < 1 || surface.corners.size() < 3) {
+    const bool has_joints = std::ranges::all_of(surface.corners, [](int joint) { return joint > 0; });
+    if (surface.number < 1 || surface.corners.size() < 3 || !has_joints) {
         context.report_unread(row, "no surface");
         return;
     }
