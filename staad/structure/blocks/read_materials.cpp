@@ -1,5 +1,6 @@
 #include "staad/structure/blocks/blocks.h"
 
+#include "staad/structure/blocks/material_constants.h"
 #include "staad/structure/blocks/material_names.h"
 #include "staad/structure/values.h"
 #include "staad/text/words.h"
@@ -14,20 +15,7 @@ namespace {
 
 using Material = Structure::Material;
 
-enum class quantity { number, pressure, weight };
-
-struct material_constant {
-    std::string_view short_form;
-    std::optional<double> Material::*value;
-    quantity of;
-};
-
-constexpr material_constant material_constants[] = {
-    {"E", &Material::e, quantity::pressure},        {"G", &Material::g, quantity::pressure},
-    {"POIS", &Material::poisson, quantity::number}, {"DENS", &Material::density, quantity::weight},
-    {"ALPH", &Material::alpha, quantity::number},   {"DAMP", &Material::damping, quantity::number},
-    {"CDAM", &Material::damping, quantity::number},
-};
+using quantity = material_quantity;
 
 struct strength_word {
     std::string_view word;
@@ -39,13 +27,6 @@ constexpr strength_word strengths[] = {{"FCU", quantity::pressure},
                                        {"FU", quantity::pressure},
                                        {"RY", quantity::number},
                                        {"RT", quantity::number}};
-
-double in_model_units(double value, quantity of, const exact_units& units) noexcept
-{
-    return of == quantity::pressure ? units.pressure_of(value)
-           : of == quantity::weight ? units.force_per_volume_of(value)
-                                    : value;
-}
 
 /// A DEFINE MATERIAL block. Of a material that is defined again the later values count. A UNIT line inside counts
 /// for the rest of the block alone.
@@ -116,17 +97,14 @@ private:
 
     bool read_constant(std::string_view word, row_words& words)
     {
-        for (const material_constant& each : material_constants) {
-            if (!is_word(word, each.short_form))
-                continue;
-            const std::optional<double> value = real_value(words.peek());
-            if (!value)
-                return false;
-            words.next(word);
-            material().*each.value = in_model_units(*value, each.of, units_);
-            return true;
-        }
-        return false;
+        const std::optional<std::size_t> constant = find_material_constant(word);
+        const std::optional<double> value = constant ? real_value(words.peek()) : std::nullopt;
+        if (!value)
+            return false;
+        words.next(word);
+        const material_constant& each = material_constants[*constant];
+        material().*each.value = in_model_units(*value, each.of, units_);
+        return true;
     }
 
     /// STRENGTH FY 250000 FU 400000 RY 1.5 RT 1.2
