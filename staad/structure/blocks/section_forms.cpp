@@ -236,7 +236,8 @@ private:
     {
         form_.section.type = to_upper_ascii(take());
         set_shape(Shape::assigned, !form_.section.type.empty());
-        form_.kept = "the analysis program chooses the section";
+        if (form_.unread == nullptr)
+            form_.kept = "the analysis program chooses the section";
     }
 
     row_words words_;
