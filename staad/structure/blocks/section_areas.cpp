@@ -1,4 +1,4 @@
-#include "staad/structure/blocks/section_areas.h"
+#include "staad/structure/blocks/section_forms.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,5 @@
 #include "staad/structure/blocks/section_forms.h"
 
-#include "staad/structure/blocks/section_areas.h"
 #include "staad/structure/values.h"
 #include "staad/text/words.h"
 

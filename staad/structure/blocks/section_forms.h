@@ -6,6 +6,8 @@
 #include "staad/structure/structure.h"
 #include "staad/units/exact_units.h"
 
+#include <string_view>
+
 namespace STAAD::detail {
 
 /// A section as a line describes it.
@@ -19,6 +21,12 @@ struct section_form {
 
 /// Reads the rest of an item. Numbers are in `units`.
 section_form read_section_form(row_words words, const exact_units& units);
+
+/// The value of that name; null if the section has none.
+const double* find_value(const Structure::Section& section, std::string_view name) noexcept;
+
+/// mm2; 0 where the values do not say.
+double area_of(const Structure::Section& section) noexcept;
 
 } // namespace STAAD::detail
 
