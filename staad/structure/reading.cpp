@@ -96,7 +96,8 @@ void structure_reading::take_generated(std::size_t count, std::size_t row)
 
 void structure_reading::report_unread(std::size_t row, std::string_view what)
 {
-    report(FindingCode::line_unread, row, [&] { return std::string(what) + ": " + quote(deck.row_text(row)); });
+    report(FindingCode::line_unread, row,
+           [&] { return std::string(what) + ": " + quote(row_words(deck, row).rest()); });
 }
 
 } // namespace STAAD::detail

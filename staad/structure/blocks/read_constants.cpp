@@ -133,8 +133,9 @@ void read_beta(structure_reading& context, line_assignments<double>& angles, std
     const std::optional<double> angle = real_value(word);
     if (!angle) {
         context.structure.kept.push_back(kept(context, statement, row));
-        context.report(FindingCode::form_kept, row,
-                       [&] { return "the analysis program finds the angle: " + quote(context.deck.row_text(row)); });
+        context.report(FindingCode::form_kept, row, [&] {
+            return "the analysis program finds the angle: " + quote(row_words(context.deck, row).rest());
+        });
         return;
     }
     const record_list list = take_list(context, words, listed::members, statement, row);
