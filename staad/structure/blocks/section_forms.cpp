@@ -175,11 +175,11 @@ private:
     void parse_tapered()
     {
         number_words numbers(words_);
-        for (int i = 1; i <= 7; ++i) {
+        for (const char* name : {"F1", "F2", "F3", "F4", "F5", "F6", "F7"}) {
             const std::optional<double> value = numbers.next();
             if (!value)
                 break;
-            form_.section.values.push_back({"F" + std::to_string(i), units_.length_of(*value)});
+            form_.section.values.push_back({name, units_.length_of(*value)});
         }
         const std::size_t count = form_.section.values.size();
         set_shape(Shape::tapered, (count == 5 || count == 7) && !numbers.has_next());
