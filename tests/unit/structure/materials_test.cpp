@@ -46,12 +46,12 @@ TEST(ReadMaterials, WithTheirConstants)
         const char* findings;
         const char* why;
     } cases[] = {
-        {"material-definition",
+        {"material-constants",
          {"ISOTROPIC C30", "E 3e7", "POISSON 0.2", "DENSITY 25", "ALPHA 1e-05", "DAMP 0.05", "G 1.25e7"},
          "C30 E=30 G=12.5 POISSON=0.2 DENSITY=2.5e-08 ALPHA=1e-05 DAMP=0.05",
          "",
          "1 kN/m2 is 1e-6 kN/mm2, 1 kN/m3 1e-9 kN/mm3; ratios and ALPHA have no unit of force or length"},
-        {"material-definition", {"isot Link", "e 1e20"}, "Link E=1e+14", "", "what is missing stays empty"},
+        {"material-constants", {"isot Link", "e 1e20"}, "Link E=1e+14", "", "what is missing stays empty"},
         {"material-definition",
          {"ISOTROPIC 'MY STEEL'", "E 1e6", "ISOTROPIC S:355_J-2", "E 2e6 POISSON 0.3; CDAMP 0.02"},
          "'MY STEEL' E=1; S:355_J-2 E=2 POISSON=0.3 DAMP=0.02",
@@ -73,7 +73,7 @@ TEST(ReadMaterials, WithTheirConstants)
          "line-unread line-unread",
          "another kind of material is not taken for the one before"},
         {"material-definition", {"E 1e6", "ISOTROPIC"}, "", "line-unread line-unread", "constants of no material"},
-        {"material-definition",
+        {"material-constants",
          {"ISOTROPIC A", "E", "POISSON 0.3 FOO 5", "G x"},
          "A POISSON=0.3",
          "line-unread line-unread line-unread",
