@@ -25,7 +25,6 @@ void structure_reading::follow_units()
     fill_first_units();
 }
 
-/// Each word is a length or a force by itself; what the line leaves out stays as it was.
 void structure_reading::follow_unit_line(std::size_t statement)
 {
     const std::size_t row = deck.statement(statement).first_row;
@@ -33,7 +32,13 @@ void structure_reading::follow_unit_line(std::size_t statement)
     row_words words(deck, row);
     std::string_view word;
     words.next(word); // UNIT
-    while (words.next(word)) {
+    follow_unit_words(words, row, units);
+    unit_changes_.push_back({statement, std::move(units)});
+}
+
+void structure_reading::follow_unit_words(row_words& words, std::size_t row, exact_units& units)
+{
+    for (std::string_view word; words.next(word);) {
         if (const auto length = exact_length(word)) {
             units.length = *length;
             units.length_word = word;
@@ -45,7 +50,6 @@ void structure_reading::follow_unit_line(std::size_t statement)
                    [&] { return quote(word) + " is neither a length nor a force; the unit stays as it was"; });
         }
     }
-    unit_changes_.push_back({statement, std::move(units)});
 }
 
 void structure_reading::fill_first_units() noexcept
@@ -112,7 +116,8 @@ void structure_reading::take_generated(std::size_t count, std::size_t row, std::
 
 void structure_reading::report_unread(std::size_t row, std::string_view what)
 {
-    report(FindingCode::line_unread, row, [&] { return std::string(what) + ": " + quote(deck.row_text(row)); });
+    report(FindingCode::line_unread, row,
+           [&] { return std::string(what) + ": " + quote(row_words(deck, row).rest()); });
 }
 
 } // namespace STAAD::detail

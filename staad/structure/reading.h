@@ -65,6 +65,9 @@ struct structure_reading {
     {
         return deck.row(deck.statement(statement).first_row).kind == RowKind::head;
     }
+    /// The words of a UNIT line, one by one a length or a force, become those of `units`; what the line leaves out
+    /// stays as it was. Other words are reported.
+    void follow_unit_words(row_words& words, std::size_t row, exact_units& units);
 
     /// The case that a statement belongs to; filled by read_load_cases().
     const open_case& case_at(std::size_t statement) const noexcept;

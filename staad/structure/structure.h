@@ -210,7 +210,8 @@ struct Structure {
         std::vector<Source> sources;
     };
 
-    /// A row of a user table. Values in mm, mm2, mm4 as the family has them.
+    /// Sections of a family under names of the deck's own. Of two tables of one number the later row counts where
+    /// both have one of the same name.
     struct UserTable {
         struct Row {
             std::string name;
@@ -218,7 +219,8 @@ struct Structure {
             Source source = 0;
         };
         int number = 0;
-        std::string family;         ///< "WIDE FLANGE"
+        std::string file;           ///< that holds the rows, as written; empty: they are in the deck
+        std::string family;         ///< "WIDE FLANGE"; empty if not given
         std::string length_unit;    ///< its own UNIT line, or what was in force: "METER"
         double length_factor = 1.0; ///< mm
         std::vector<Row> rows;
