@@ -24,7 +24,6 @@ void structure_reading::follow_units()
         follow_unit_line(statement);
 }
 
-/// Each word is a length or a force by itself; what the line leaves out stays as it was.
 void structure_reading::follow_unit_line(std::size_t statement)
 {
     const std::size_t row = deck.statement(statement).first_row;
@@ -32,7 +31,13 @@ void structure_reading::follow_unit_line(std::size_t statement)
     row_words words(deck, row);
     std::string_view word;
     words.next(word); // UNIT
-    while (words.next(word)) {
+    follow_unit_words(words, row, units);
+    unit_changes_.push_back({statement, std::move(units)});
+}
+
+void structure_reading::follow_unit_words(row_words& words, std::size_t row, exact_units& units)
+{
+    for (std::string_view word; words.next(word);) {
         if (const auto length = exact_length(word)) {
             units.length = *length;
             units.length_word = word;
@@ -44,7 +49,6 @@ void structure_reading::follow_unit_line(std::size_t statement)
                    [&] { return quote(word) + " is neither a length nor a force; the unit stays as it was"; });
         }
     }
-    unit_changes_.push_back({statement, std::move(units)});
 }
 
 const exact_units& structure_reading::units_at(std::size_t statement) const noexcept

@@ -54,6 +54,9 @@ struct structure_reading {
     }
     /// The units in force at a statement. Numbers before the first UNIT line are in those of that line.
     const exact_units& units_at(std::size_t statement) const noexcept;
+    /// The words of a UNIT line, one by one a length or a force, become those of `units`; what the line leaves out
+    /// stays as it was. Other words are reported.
+    void follow_unit_words(row_words& words, std::size_t row, exact_units& units);
     bool has_units() const noexcept { return !unit_changes_.empty(); }
 
     /// The case that a statement belongs to; filled by read_load_cases().

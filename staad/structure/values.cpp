@@ -35,6 +35,14 @@ std::optional<int> whole_value(std::string_view word) noexcept
     return parsed.is_number() && parsed.size == word.size() && parsed.fits ? std::optional(parsed.value) : std::nullopt;
 }
 
+std::string item_text(row_words words)
+{
+    std::string text;
+    for (std::string_view word; words.next(word);)
+        text.append(text.empty() ? "" : " ").append(word);
+    return text;
+}
+
 std::optional<double> number_words::next() noexcept
 {
     if (times_ > 0) {

@@ -1,10 +1,11 @@
-/// Words of a row as numbers.
+/// Words of a row as numbers, and as a text.
 #ifndef STAAD_STRUCTURE_VALUES_H
 #define STAAD_STRUCTURE_VALUES_H
 
 #include "staad/deck/row_words.h"
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace STAAD::detail {
@@ -13,6 +14,9 @@ namespace STAAD::detail {
 std::optional<double> real_value(std::string_view word) noexcept;
 /// The number that all of `word` is, digits alone, with a sign if need be, that fits 32 bits; none else.
 std::optional<int> whole_value(std::string_view word) noexcept;
+
+/// What is left of an item, as written, single blanks between words.
+std::string item_text(row_words words);
 
 /// Takes numbers off the front of an item; "3*2.5" stands for three of them.
 class number_words {
