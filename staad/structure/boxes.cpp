@@ -40,11 +40,15 @@ std::optional<std::size_t> axis_of(const structure_reading& context, std::string
 
 /// Low and high end of a record along an axis: of a joint its place, of others those of their joints. A record
 /// without joints lies nowhere.
-std::pair<double, double> extent(const Structure& structure, record_kind kind, std::size_t position, std::size_t axis)
+std::pair<double, double> extent(const structure_reading& context, record_kind kind, std::size_t position,
+                                 std::size_t axis)
 {
+    const Structure& structure = context.structure;
     double low = endless;
     double high = -endless;
     const auto add = [&](int joint) {
+        if (kind != record_kind::joints && !context.joints_are_linked)
+            joint = context.joints.position(joint);
         if (joint < 0)
             return;
         const Structure::Joint& place = structure.joints[static_cast<std::size_t>(joint)];
@@ -89,7 +93,7 @@ const sorted_places& places_along(structure_reading& context, record_kind kind, 
         return sorted;
     std::vector<std::pair<double, int>> entries(count);
     for (std::size_t i = 0; i < count; ++i)
-        entries[i] = {extent(context.structure, kind, i, axis).first, static_cast<int>(i)};
+        entries[i] = {extent(context, kind, i, axis).first, static_cast<int>(i)};
     std::ranges::sort(entries);
     sorted.places.resize(count);
     sorted.positions.resize(count);
@@ -98,10 +102,10 @@ const sorted_places& places_along(structure_reading& context, record_kind kind, 
     return sorted;
 }
 
-bool lies_within(const Structure& structure, record_kind kind, std::size_t position, const Structure::Box& box)
+bool lies_within(const structure_reading& context, record_kind kind, std::size_t position, const Structure::Box& box)
 {
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        const auto [low, high] = extent(structure, kind, position, axis);
+        const auto [low, high] = extent(context, kind, position, axis);
         if (!(low <= high) || low < along(box.low, axis) - tolerance || high > along(box.high, axis) + tolerance)
             return false;
     }
@@ -158,7 +162,7 @@ std::vector<int> positions_within(structure_reading& context, record_kind kind, 
         return found;
     context.budget.take_references(end - begin);
     for (std::size_t i = begin; i < end; ++i)
-        if (lies_within(context.structure, kind, static_cast<std::size_t>(walked->positions[i]), box))
+        if (lies_within(context, kind, static_cast<std::size_t>(walked->positions[i]), box))
             found.push_back(walked->positions[i]);
     std::ranges::sort(found);
     return found;

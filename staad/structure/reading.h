@@ -119,6 +119,8 @@ struct structure_reading {
     std::unordered_map<std::string, std::vector<int>> groups;
     /// By kind of record (joints, members, elements) and axis, made when a range first asks.
     std::array<std::array<sorted_places, 3>, 3> places;
+    /// Whether members and elements have the positions of their joints already, and not their numbers.
+    bool joints_are_linked = false;
 
 private:
     void sort_statements();

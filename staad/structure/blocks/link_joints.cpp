@@ -39,6 +39,7 @@ void delete_line(structure_reading& context, std::size_t statement)
         context.report_unread(row, "no list of what to delete");
         return;
     }
+    context.places = {};
     if (erase(context.structure.joints, list.joints))
         context.joints = record_lookup(context.structure.joints);
     if (erase(context.structure.members, list.members))
@@ -85,6 +86,7 @@ void link_joints(structure_reading& context)
         link(context, "solid", solid, solid.corners);
     for (Structure::Surface& surface : structure.surfaces)
         link(context, "surface", surface, surface.corners);
+    context.joints_are_linked = true;
 }
 
 } // namespace STAAD::detail
