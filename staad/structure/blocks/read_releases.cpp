@@ -73,36 +73,39 @@ bool take_released(Structure::Release& release, row_words& words, const exact_un
     return take_partial(release, words);
 }
 
-void join(Structure::Release& release, const Structure::Release& more)
+/// Takes what an end does not hand on, for all the ends that are named; false if it is none.
+bool take_released(release_line& line, const std::array<bool, 2>& named, row_words& words, const exact_units& units)
 {
-    for (std::size_t i = 0; i < 6; ++i) {
-        release.released[i] = release.released[i] || more.released[i];
-        release.springs[i] = more.springs[i] != 0.0 ? more.springs[i] : release.springs[i];
-    }
-    for (std::size_t i = 0; i < 3; ++i)
-        release.partial[i] = more.partial[i] != 0.0 ? more.partial[i] : release.partial[i];
+    const row_words before = words;
+    bool is_taken = false;
+    for (std::size_t end = 0; end < 2; ++end)
+        if (named[end]) {
+            words = before;
+            is_taken = take_released(line.ends[end], words, units);
+            line.is_given[end] = line.is_given[end] || is_taken;
+        }
+    return is_taken;
 }
 
-/// "START MX MY END MZ": what stands after the list.
+/// "START MX MY END MZ": what stands after the list. Words between that say nothing are reported, once.
 release_line read_ends(structure_reading& context, row_words& words, std::size_t statement, std::size_t row)
 {
     release_line line;
-    std::string_view word;
-    while (words.next(word)) {
-        const std::array<bool, 2> named = ends_of(word);
-        Structure::Release release;
-        bool has_any = false;
-        if (named[0] || named[1])
-            while (take_released(release, words, context.units_at(statement)))
-                has_any = true;
-        if (!has_any)
-            context.report_unread(row, "a release without an end, or an end without a release");
-        for (std::size_t end = 0; end < 2; ++end)
-            if (named[end] && has_any) {
-                join(line.ends[end], release);
-                line.is_given[end] = true;
-            }
+    std::array<bool, 2> named{};
+    bool is_understood = true;
+    while (!words.peek().empty()) {
+        if (take_released(line, named, words, context.units_at(statement)))
+            continue;
+        std::string_view word;
+        words.next(word);
+        const std::array<bool, 2> ends = ends_of(word);
+        if (ends[0] || ends[1])
+            named = ends;
+        else
+            is_understood = false;
     }
+    if (!is_understood || named != std::array<bool, 2>{named[0] && line.is_given[0], named[1] && line.is_given[1]})
+        context.report_unread(row, "a release without an end, or an end without a release");
     return line;
 }
 
