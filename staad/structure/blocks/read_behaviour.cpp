@@ -1,7 +1,6 @@
 #include "staad/structure/blocks/blocks.h"
 
 #include "staad/structure/assignments.h"
-#include "staad/structure/blocks/read_cracked.h"
 #include "staad/structure/lists.h"
 #include "staad/structure/values.h"
 
@@ -99,7 +98,6 @@ private:
 void read_behaviour(structure_reading& context)
 {
     behaviour_blocks(context).read();
-    read_cracked(context);
 }
 
 } // namespace STAAD::detail

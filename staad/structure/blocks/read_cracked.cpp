@@ -1,4 +1,4 @@
-#include "staad/structure/blocks/read_cracked.h"
+#include "staad/structure/blocks/blocks.h"
 
 #include "staad/structure/assignments.h"
 #include "staad/structure/lists.h"
