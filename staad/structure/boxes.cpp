@@ -98,10 +98,10 @@ const sorted_places& places_along(structure_reading& context, record_kind kind, 
     return sorted;
 }
 
-bool lies_within(const Structure& structure, record_kind kind, std::size_t position, const Structure::Box& box)
+bool lies_within(const structure_reading& context, record_kind kind, std::size_t position, const Structure::Box& box)
 {
     for (std::size_t axis = 0; axis < 3; ++axis) {
-        const auto [low, high] = extent(structure, kind, position, axis);
+        const auto [low, high] = extent(context.structure, kind, position, axis);
         if (!(low <= high) || low < along(box.low, axis) - tolerance || high > along(box.high, axis) + tolerance)
             return false;
     }
@@ -158,7 +158,7 @@ std::vector<int> positions_within(structure_reading& context, record_kind kind, 
         return found;
     context.budget.take_references(end - begin);
     for (std::size_t i = begin; i < end; ++i)
-        if (lies_within(context.structure, kind, static_cast<std::size_t>(walked->positions[i]), box))
+        if (lies_within(context, kind, static_cast<std::size_t>(walked->positions[i]), box))
             found.push_back(walked->positions[i]);
     std::ranges::sort(found);
     return found;

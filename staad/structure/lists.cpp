@@ -142,7 +142,9 @@ private:
     bool has_members() const noexcept { return what_ == listed::members || what_ == listed::members_and_elements; }
     bool has_elements() const noexcept { return what_ == listed::elements || what_ == listed::members_and_elements; }
 
-    bool take_part()
+    bool take_part() { return take_named() || take_head(); }
+
+    bool take_named()
     {
         if (const std::optional<number_range> range = take_range(words_, previous_)) {
             previous_ = range->last;
@@ -156,18 +158,17 @@ private:
             return take_group();
         if (to_upper_ascii(word) == "ALL")
             return take_all();
-        return take_ranges() || take_head();
+        return take_ranges();
     }
 
     /// LIST, MEMB ... count only if a list follows: "MEMB" may be a word of something else.
     bool take_head()
     {
-        if (!is_head(words_.peek()))
-            return false;
         const row_words before = words_;
         std::string_view word;
-        words_.next(word);
-        if (take_part())
+        while (is_head(words_.peek()))
+            words_.next(word);
+        if (take_named())
             return true;
         words_ = before;
         return false;

@@ -25,6 +25,7 @@ void read_blocks(structure_reading& context)
     read_constants(context);
     read_thickness(context);
     read_behaviour(context);
+    read_cracked(context);
     read_supports(context);
     read_releases(context);
     read_offsets(context);

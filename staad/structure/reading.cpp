@@ -52,7 +52,7 @@ void structure_reading::follow_unit_words(row_words& words, std::size_t row, exa
     }
 }
 
-void structure_reading::fill_first_units() noexcept
+void structure_reading::fill_first_units()
 {
     const auto end = unit_changes_.end();
     const auto length =

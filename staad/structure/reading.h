@@ -135,7 +135,7 @@ private:
     void sort_statements();
     void follow_units();
     void follow_unit_line(std::size_t statement);
-    void fill_first_units() noexcept;
+    void fill_first_units();
 
     struct unit_change {
         std::size_t statement;

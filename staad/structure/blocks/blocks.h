@@ -34,8 +34,10 @@ void read_materials(structure_reading& context);
 void read_constants(structure_reading& context);
 /// Thickness of elements and surfaces.
 void read_thickness(structure_reading& context);
-/// Truss, tension, compression, cable; factors of cracked members.
+/// Truss, tension, compression, cable.
 void read_behaviour(structure_reading& context);
+/// Factors of stiffness of cracked members; members of one line share the record.
+void read_cracked(structure_reading& context);
 /// Supports of joints, mats under elements.
 void read_supports(structure_reading& context);
 void read_releases(structure_reading& context);

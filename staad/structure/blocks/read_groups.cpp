@@ -44,10 +44,33 @@ Structure::Group& group_of(structure_reading& context, std::string_view name, gr
     return groups.back();
 }
 
-void read_group(structure_reading& context, row_words& words, std::size_t row, group_kind kind)
+/// Reports numbers that no record of the kind has, as any list does.
+void check_numbers(structure_reading& context, row_words words, std::size_t statement, std::size_t row, group_kind kind)
+{
+    switch (kind) {
+    case group_kind::joints:
+        take_list(context, words, listed::joints, statement, row);
+        break;
+    case group_kind::members:
+    case group_kind::floor:
+        take_list(context, words, listed::members, statement, row);
+        break;
+    case group_kind::elements:
+        take_list(context, words, listed::elements, statement, row);
+        break;
+    case group_kind::geometry:
+        take_list(context, words, listed::members_and_elements, statement, row);
+        break;
+    case group_kind::solids:
+        break;
+    }
+}
+
+void read_group(structure_reading& context, row_words& words, std::size_t statement, std::size_t row, group_kind kind)
 {
     std::string_view name;
     words.next(name);
+    check_numbers(context, words, statement, row, kind);
     const std::vector<int> numbers = take_numbers(context, words, row);
     if (!words.peek().empty())
         context.report_unread(row, "a word among the numbers of a group");
@@ -69,7 +92,7 @@ void read_block(structure_reading& context, std::size_t statement)
             else
                 context.report_unread(row, "neither a group nor a kind of groups");
         } else if (kind) {
-            read_group(context, words, row, *kind);
+            read_group(context, words, statement, row, *kind);
         } else {
             context.report_unread(row, "a group of no kind");
         }
