@@ -62,6 +62,8 @@ struct structure_reading {
 
     /// The source that stands for a row.
     Structure::Source source_of(std::size_t row);
+    /// The source that stands for all lines of a statement.
+    Structure::Source source_of_statement(std::size_t statement);
     line_place place_of(std::size_t row) const noexcept;
 
     /// Calls `visit(row_words&, row)` for every row of data of a statement.
@@ -116,6 +118,9 @@ struct structure_reading {
     std::unordered_map<std::string, std::vector<int>> groups;
     /// By kind of record (joints, members, elements) and axis, made when a range first asks.
     std::array<std::array<sorted_places, 3>, 3> places;
+    /// Numbers of cases that the analysis program makes: of spectra by mode, of moving loads; filled by
+    /// read_load_cases().
+    std::vector<Structure::Range> made_cases;
 
 private:
     void sort_statements();
