@@ -92,9 +92,9 @@ case_graph::edges case_graph::terms_of(int index) const noexcept
 int case_graph::node_of(const Structure::Combination& combination) const noexcept
 {
     const int position = position_in(structure_->combinations, combination);
-    return position < 0 ? found_in(cases_, combination.number)
-                        : static_cast<int>(structure_->load_cases.size() + structure_->reference_cases.size()) +
-                              position;
+    return position < 0
+               ? found_in(cases_, combination.number)
+               : static_cast<int>(structure_->load_cases.size() + structure_->reference_cases.size()) + position;
 }
 
 int case_graph::node_of(const Structure::LoadCase& load_case) const noexcept

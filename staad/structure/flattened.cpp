@@ -32,8 +32,8 @@ public:
         if (root < 0)
             return {};
         const auto passes = [this](int node) {
-            return graph_[node].is_plain_sum || (graph_[node].kind == case_graph::node_kind::load_case &&
-                                                 graph_.terms_of(node).size() > 0);
+            return graph_[node].is_plain_sum ||
+                   (graph_[node].kind == case_graph::node_kind::load_case && graph_.terms_of(node).size() > 0);
         };
         spread(root, passes, load_case.source);
         return gathered([&](int node) { return graph_[node].has_own_loads || !passes(node); });
@@ -56,7 +56,6 @@ private:
             },
             [](const case_graph::edge&) {});
         factor_[static_cast<std::size_t>(root)] = 1.0;
-        found_.clear();
         for (std::size_t i = left_.size(); i-- > 0;)
             if (left_[i] == root || passes(left_[i]))
                 hand_on(i, source);
@@ -69,6 +68,18 @@ private:
         for (const case_graph::edge& term : graph_.terms_of(node))
             if (place_[static_cast<std::size_t>(term.to)] < place)
                 factor_[static_cast<std::size_t>(term.to)] += factor_[static_cast<std::size_t>(node)] * term.factor;
+    }
+
+    /// The nodes of the last walk that are wanted. Those without terms were left as soon as they were met.
+    template<class IsWanted>
+    std::vector<Structure::CaseFactor> gathered(IsWanted is_wanted) const
+    {
+        std::vector<Structure::CaseFactor> sum;
+        for (const int node : left_)
+            if (is_wanted(node))
+                sum.push_back(
+                    {graph_[node].number, graph_[node].is_reference, factor_[static_cast<std::size_t>(node)]});
+        return sum;
     }
 
     void take(std::size_t terms, Structure::Source source)
@@ -89,4 +100,32 @@ private:
 };
 
 } // namespace detail
+
+FlattenedCases::FlattenedCases(const Structure& structure)
+    : flattener_(std::make_unique<detail::case_flattener>(structure))
+{
+}
+
+FlattenedCases::~FlattenedCases() = default;
+
+std::vector<Structure::CaseFactor> FlattenedCases::of(const Structure::Combination& combination)
+{
+    return flattener_->of(combination);
+}
+
+std::vector<Structure::CaseFactor> FlattenedCases::of(const Structure::LoadCase& load_case)
+{
+    return flattener_->of(load_case);
+}
+
+std::vector<Structure::CaseFactor> flattened(const Structure& structure, const Structure::Combination& combination)
+{
+    return FlattenedCases(structure).of(combination);
+}
+
+std::vector<Structure::CaseFactor> flattened(const Structure& structure, const Structure::LoadCase& load_case)
+{
+    return FlattenedCases(structure).of(load_case);
+}
+
 } // namespace STAAD

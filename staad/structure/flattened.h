@@ -16,10 +16,11 @@ class case_flattener;
 
 /// What many combinations and cases of one structure come to; the structure must outlive it and stay as it is.
 ///
-/// A case is in a result once, its factors added up, in the order in which the deck first comes to it. A term by
-/// which a sum comes back to itself counts as none. A number that no record has stays as it is: the analysis program
-/// may make the case. Cost: linear in the terms below a record; the construction visits all terms once. Calls throw
-/// ReadLimitError when they have visited more than most_numbers_per_reading terms together, and std::bad_alloc.
+/// A case is in a result once, its factors added up, in the order in which the deck first comes to it; one that has
+/// loads of its own beside those of others stands after these. A term by which a sum comes back to itself counts as
+/// none. A number that no record has stays as it is: the analysis program may make the case. Cost: linear in the terms
+/// below a record; the construction visits all terms once. Calls throw ReadLimitError when they have visited more than
+/// most_numbers_per_reading terms together, and std::bad_alloc.
 class STAAD_API FlattenedCases {
 public:
     explicit FlattenedCases(const Structure& structure);

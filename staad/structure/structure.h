@@ -319,7 +319,7 @@ struct Structure {
 
     /// A statement that is kept as text.
     struct Kept {
-        std::string command; ///< upper case: "PERFORM ANALYSIS", "1893 LOAD"; of an unknown one its first word
+        std::string command;     ///< upper case: "PERFORM ANALYSIS", "1893 LOAD"; of an unknown one its first word
         std::string text;        ///< its lines without comments and blank lines at its end, line ends as in the file
         std::string length_unit; ///< in force there, as written
         std::string force_unit;
@@ -344,7 +344,7 @@ struct Structure {
     std::vector<LoadCase> load_cases;      ///< in the order of the text
     std::vector<LoadCase> reference_cases; ///< R1, R2 ...
     std::vector<Combination> combinations;
-    std::vector<Kept> kept; ///< in the order of the text
+    std::vector<Kept> kept;         ///< in the order of the text
     std::vector<FileLines> sources; ///< see Source
 };
 

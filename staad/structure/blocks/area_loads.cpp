@@ -58,7 +58,7 @@ public:
             context_.report_unread(row, form_.name);
             return;
         }
-        load.values[0] = *value * context_.units_at(statement_).force_per_area();
+        load.values[0] = context_.units_at(statement_).pressure_of(*value);
         load.value_count = 1;
         while (take_box_of(load, words) || take_direction(load, words) || take_span(load, words, row))
             continue;

@@ -10,16 +10,15 @@ namespace {
 
 using kind = Structure::Load::Kind;
 
-/// Takes up to `most` numbers, the first `own` of them by `factor`, the others lengths.
-void take_values(Structure::Load& load, row_words& words, std::size_t own, double factor, std::size_t most,
-                 double length)
+/// Takes up to `most` numbers as they are written.
+void take_values(Structure::Load& load, row_words& words, std::size_t most)
 {
     std::size_t count = 0;
     for (number_words numbers(words); count < most; ++count) {
         const std::optional<double> value = numbers.next();
         if (!value)
             break;
-        load.values[count] = *value * (count < own ? factor : length);
+        load.values[count] = *value;
     }
     load.value_count = static_cast<std::uint8_t>(count);
 }
@@ -34,6 +33,15 @@ public:
 
     std::optional<Structure::Load> read(row_words& words) const
     {
+        std::optional<Structure::Load> load = read_as_written(words);
+        if (load)
+            convert(*load);
+        return load;
+    }
+
+private:
+    std::optional<Structure::Load> read_as_written(row_words& words) const
+    {
         std::string_view word;
         words.next(word);
         if (is_word(word, "PR") || is_word(word, "PRES"))
@@ -43,7 +51,18 @@ public:
         return is_word(word, "CON") ? point(words) : std::nullopt;
     }
 
-private:
+    /// Places on the element are lengths, all else is pressure, or the force at a point.
+    void convert(Structure::Load& load) const noexcept
+    {
+        const bool has_place = load.kind == kind::partial_pressure || load.kind == kind::point_on_element;
+        for (std::size_t i = 0; i < load.value_count; ++i) {
+            double& value = load.values[i];
+            value = has_place && i > 0                    ? units_.length_of(value)
+                    : load.kind == kind::point_on_element ? units_.force_of(value)
+                                                          : units_.pressure_of(value);
+        }
+    }
+
     /// Without a direction a load acts along the element's own z axis.
     Structure::Load begin(kind gives, row_words& words) const
     {
@@ -71,13 +90,12 @@ private:
     std::optional<Structure::Load> pressure(row_words& words) const
     {
         Structure::Load load = begin(kind::pressure, words);
-        take_values(load, words, 1, units_.force_per_area(), 5, units_.length);
+        take_values(load, words, 5);
         switch (load.value_count) {
         case 1:
             return load;
         case 3:
             load.kind = kind::point_on_element;
-            load.values[0] *= units_.area();
             return load;
         case 5:
             load.kind = kind::partial_pressure;
@@ -91,7 +109,7 @@ private:
     std::optional<Structure::Load> point(row_words& words) const
     {
         Structure::Load load = begin(kind::point_on_element, words);
-        take_values(load, words, 1, units_.force, 3, units_.length);
+        take_values(load, words, 3);
         return load.value_count == 1 || load.value_count == 3 ? std::optional(load) : std::nullopt;
     }
 
@@ -107,7 +125,7 @@ private:
         if (to_upper_ascii(word) == "JT") {
             load.kind = kind::corner_pressure;
             words.next(word);
-            take_values(load, words, 4, units_.force_per_area(), 4, units_.length);
+            take_values(load, words, 4);
             return load.value_count >= 3 ? std::optional(load) : std::nullopt;
         }
         const char axis = word.size() == 1 ? to_upper_ascii(word.front()) : '\0';
@@ -116,7 +134,7 @@ private:
         load.kind = kind::trapezoidal_pressure;
         load.along = axis;
         words.next(word);
-        take_values(load, words, 2, units_.force_per_area(), 2, units_.length);
+        take_values(load, words, 2);
         return load.value_count == 2 ? std::optional(load) : std::nullopt;
     }
 

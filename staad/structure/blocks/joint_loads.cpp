@@ -33,7 +33,7 @@ std::optional<Structure::Load> read_one(const structure_reading& context, const 
             break;
         after.next(word);
         words = after;
-        load.values[*component] = *value * (*component < 3 ? units.force : units.moment());
+        load.values[*component] = *component < 3 ? units.force_of(*value) : units.moment_of(*value);
         load.value_count = 6;
     }
     return load.value_count == 0 ? std::nullopt : std::optional(load);

@@ -33,17 +33,17 @@ constexpr member_form forms[] = {
     {"TRA", kind::trapezoidal, quantity::force_per_length, 2, 2, 4},
 };
 
-double factor_of(quantity unit, const exact_units& units) noexcept
+double in_model_units(double value, quantity unit, const exact_units& units) noexcept
 {
     switch (unit) {
     case quantity::force_per_length:
-        return units.force_per_length();
+        return units.force_per_length_of(value);
     case quantity::force:
-        return units.force;
+        return units.force_of(value);
     case quantity::moment:
         break;
     }
-    return units.moment();
+    return units.moment_of(value);
 }
 
 std::optional<load_direction> direction_of(const structure_reading& context, std::string_view word) noexcept
@@ -75,7 +75,7 @@ std::optional<Structure::Load> read_one(const structure_reading& context, const 
         const std::optional<double> value = numbers.next();
         if (!value)
             break;
-        load.values[count] = *value * (count < form->own ? factor_of(form->unit, units) : units.length);
+        load.values[count] = count < form->own ? in_model_units(*value, form->unit, units) : units.length_of(*value);
     }
     load.value_count = static_cast<std::uint8_t>(count);
     return count < form->fewest ? std::nullopt : std::optional(load);

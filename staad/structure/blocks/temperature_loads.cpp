@@ -24,7 +24,7 @@ std::optional<Structure::Load> read_one(const exact_units& units, row_words& wor
         const std::optional<double> value = numbers.next();
         if (!value)
             break;
-        load.values[count] = *value * (is_strain ? units.length : 1.0);
+        load.values[count] = is_strain ? units.length_of(*value) : *value;
     }
     load.value_count = static_cast<std::uint8_t>(count);
     return count == 0 ? std::nullopt : std::optional(load);
