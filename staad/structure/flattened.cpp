@@ -85,8 +85,8 @@ private:
     void take(std::size_t terms, Structure::Source source)
     {
         const FileLines lines = origin(*structure_, source);
-        if (terms > most_numbers_per_reading - visited_)
-            throw ReadLimitError(lines.first, lines.last, most_numbers_per_reading);
+        if (terms > most_numbers_per_list - visited_)
+            throw ReadLimitError(lines.first, lines.last, most_numbers_per_list);
         visited_ += terms;
     }
 

@@ -20,7 +20,7 @@ class case_flattener;
 /// loads of its own beside those of others stands after these. A term by which a sum comes back to itself counts as
 /// none. A number that no record has stays as it is: the analysis program may make the case. Cost: linear in the terms
 /// below a record; the construction visits all terms once. Calls throw ReadLimitError when they have visited more than
-/// most_numbers_per_reading terms together, and std::bad_alloc.
+/// most_numbers_per_list terms together, and std::bad_alloc.
 class STAAD_API FlattenedCases {
 public:
     explicit FlattenedCases(const Structure& structure);
