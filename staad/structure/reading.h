@@ -59,6 +59,9 @@ struct structure_reading {
     /// The case that a statement belongs to; filled by read_load_cases().
     const open_case& case_at(std::size_t statement) const noexcept;
     void begin_case(std::size_t statement, open_case opened);
+    /// Numbers of cases that the analysis program makes: of spectra by mode, of moving loads; filled by
+    /// read_load_cases().
+    std::vector<Structure::Range> made_cases;
 
     /// The source that stands for a row.
     Structure::Source source_of(std::size_t row);
@@ -118,9 +121,6 @@ struct structure_reading {
     std::unordered_map<std::string, std::vector<int>> groups;
     /// By kind of record (joints, members, elements) and axis, made when a range first asks.
     std::array<std::array<sorted_places, 3>, 3> places;
-    /// Numbers of cases that the analysis program makes: of spectra by mode, of moving loads; filled by
-    /// read_load_cases().
-    std::vector<Structure::Range> made_cases;
 
 private:
     void sort_statements();

@@ -35,14 +35,17 @@ std::string name_of(const structure_reading& context, std::size_t statement)
     word_cursor forms(spelling.short_form);
     word_cursor words(spelling.words);
     std::string name;
-    for (std::string_view form, word; forms.next(form) | words.next(word);) {
+    for (;;) {
+        const std::string_view form = forms.next_or_empty();
+        const std::string_view word = words.next_or_empty();
+        if (form.empty() && word.empty())
+            return name;
         std::string_view written;
         deck_words.next(written);
         const bool is_own = is_open(form) && has_head(context, statement);
         if (is_own || !word.empty())
             name.append(name.empty() ? "" : " ").append(is_own ? to_upper_ascii(written) : std::string(word));
     }
-    return name;
 }
 
 void report_rest_of_head(structure_reading& context, std::size_t statement)
