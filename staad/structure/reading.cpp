@@ -100,6 +100,13 @@ Structure::Source structure_reading::source_of(std::size_t row)
     return static_cast<Structure::Source>(structure.sources.size());
 }
 
+Structure::Source structure_reading::source_of_statement(std::size_t statement)
+{
+    structure.sources.push_back(deck.lines(deck.statement(statement)));
+    row_of_last_source_ = 0;
+    return static_cast<Structure::Source>(structure.sources.size());
+}
+
 line_place structure_reading::place_of(std::size_t row) const noexcept
 {
     const FileLines lines = deck.row(row).lines;

@@ -72,9 +72,14 @@ struct structure_reading {
     /// The case that a statement belongs to; filled by read_load_cases().
     const open_case& case_at(std::size_t statement) const noexcept;
     void begin_case(std::size_t statement, open_case opened);
+    /// Numbers of cases that the analysis program makes: of spectra by mode, of moving loads; filled by
+    /// read_load_cases().
+    std::vector<Structure::Range> made_cases;
 
     /// The source that stands for a row.
     Structure::Source source_of(std::size_t row);
+    /// The source that stands for all lines of a statement.
+    Structure::Source source_of_statement(std::size_t statement);
     line_place place_of(std::size_t row) const noexcept;
 
     /// Calls `visit(row_words&, row)` for every row of data of a statement that has words.

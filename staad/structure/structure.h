@@ -247,27 +247,28 @@ struct Structure {
     };
 
     struct Load {
+        /// With their `values` in order. Lengths along a member are from its start.
         enum class Kind : std::uint8_t {
-            joint_forces,         ///< on joints: forces kN, moments kN*mm, model frame (6)
-            uniform,              ///< on members: kN/mm; from, to: mm from the start; distance from the shear centre
-            uniform_moment,       ///< on members: kN; from, to
-            concentrated,         ///< on members: kN; mm from the start (middle if not given); distance d1, d2
-            concentrated_moment,  ///< on members: kN*mm; mm from the start
-            linear,               ///< on members: kN/mm at start, at end, (in the middle: 0 0 then w)
-            trapezoidal,          ///< on members: kN/mm at from, at to; from, to: mm
+            joint_forces,         ///< on joints: FX FY FZ, kN, MX MY MZ, kN*mm, about the model's axes
+            uniform,              ///< on members: kN/mm; from, to, mm; distances from the shear centre, mm
+            uniform_moment,       ///< on members: kN*mm/mm; as `uniform`
+            concentrated,         ///< on members: kN; at, mm (the middle if not given); distances, mm
+            concentrated_moment,  ///< on members: kN*mm; as `concentrated`
+            linear,               ///< on members: kN/mm at start, at end, or 0, 0 and in the middle
+            trapezoidal,          ///< on members: kN/mm at `from`, at `to`; from, to, mm (all of it if not given)
             pressure,             ///< on elements: kN/mm2
-            partial_pressure,     ///< on elements: kN/mm2; x1, y1, x2, y2: mm in the element's own axes
-            point_on_element,     ///< on elements: kN; x1, y1: mm in the element's own axes
-            corner_pressure,      ///< on elements: kN/mm2 at each corner (4)
-            trapezoidal_pressure, ///< on elements: kN/mm2 at both ends along the element's `along` axis
+            partial_pressure,     ///< on elements: kN/mm2; x1, y1, x2, y2, mm in the element's own axes
+            point_on_element,     ///< on elements: kN; x1, y1, mm in the element's own axes (its centre if not given)
+            corner_pressure,      ///< on elements: kN/mm2 at each corner, three or four
+            trapezoidal_pressure, ///< on elements: kN/mm2 at both ends along the element's own `along` axis
             self_weight,          ///< on members and elements: factor
-            floor,                ///< kN/mm2 within `box` or on `group`
-            one_way,              ///< the same, spanning one way; `along`: the axis it spans, 0: not given
-            area,                 ///< on members: kN/mm2
+            floor,                ///< kN/mm2 in `box`, on the floor of `group`, or among the members `on`
+            one_way,              ///< the same, spanning one way: along the file's axis `along`, to member `towards`
+            area,                 ///< the same, by the areas that members have
             temperature,          ///< on members and elements: degrees along the axis, over the depth, across
             strain,               ///< on members and elements: elongation, mm
             cases,                ///< the loads of other cases, `sum`
-            kept,                 ///< `text`, kept as it stands
+            kept,                 ///< the statement `kept`, as it stands
         };
         /// In which direction the values act. Letters of the member or element are its own axes as the deck has
         /// them, see Structure::Head::up and local_axes(); global ones are axes of the model.
@@ -286,22 +287,25 @@ struct Structure {
         Kind kind = Kind::kept;
         Direction direction = Direction::none;
         std::uint8_t value_count = 0; ///< how many values the line gives
-        char along = 0;               ///< 'X', 'Y' or 'Z': see the kinds
+        char along = 0;               ///< 'X', 'Y' or 'Z': see the kinds; 0: not given
         std::array<double, 6> values{};
         /// Positions of joints, of members or of elements, as the kind has it.
         std::vector<Range> on;
         std::vector<Range> on_elements; ///< of loads on members and elements: the elements
-        std::optional<Box> box;         ///< of floor, one_way
-        int group = -1;                 ///< of floor, one_way: position in `groups`
-        std::vector<CaseFactor> sum;
-        /// Of `kept` the statement; of others what follows the list, as written, single blanks: "UNI GY -5".
-        std::string text;
+        std::optional<Box> box;         ///< of floor, one_way, area
+        int group = -1;                 ///< of floor, one_way, area: position in `groups`
+        int towards = -1;               ///< of one_way: position in `members`
+        int kept = -1;                  ///< of `kept`: position in Structure::kept
         Source source = 0;
+        std::vector<CaseFactor> sum;
+        /// What follows the list, as written, single blanks: "UNI GY -5"; of `cases` and `kept` empty.
+        std::string text;
     };
 
     struct LoadCase {
         int number = 0;
-        std::string type; ///< what follows LOADTYPE: "Dead", "Roof Live"; empty if not given
+        bool is_reference = false; ///< R1 and not 1
+        std::string type;          ///< what follows LOADTYPE: "Dead", "Roof Live"; empty if not given
         std::string title;
         std::vector<Load> loads; ///< in the order of the text
         Source source = 0;
@@ -317,10 +321,11 @@ struct Structure {
 
     /// A statement that is kept as text.
     struct Kept {
-        std::string command;     ///< of the catalogue: "PERFORM ANALYSIS"; of an unknown command its first word
+        std::string command;     ///< upper case: "PERFORM ANALYSIS", "1893 LOAD"; of an unknown one its first word
         std::string text;        ///< its lines without comments and blank lines at its end, line ends as in the file
         std::string length_unit; ///< in force there, as written
         std::string force_unit;
+        bool is_load = false; ///< a load of a case refers to it
         Source source = 0;
     };
 
@@ -341,7 +346,7 @@ struct Structure {
     std::vector<LoadCase> load_cases;      ///< in the order of the text
     std::vector<LoadCase> reference_cases; ///< R1, R2 ...
     std::vector<Combination> combinations;
-    std::vector<Kept> kept;
+    std::vector<Kept> kept;         ///< in the order of the text
     std::vector<FileLines> sources; ///< see Source
 };
 

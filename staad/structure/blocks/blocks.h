@@ -8,6 +8,9 @@ namespace STAAD::detail {
 
 /// Kind, title, job lines, units, upward axis. First of all.
 void read_head(structure_reading& context);
+/// Whether a row is SET Z UP, which turns the whole deck; of the other SET lines none says anything about the
+/// structure.
+bool is_set_z_up(const structure_reading& context, std::size_t row);
 
 /// Joints; then context.joints may be made.
 void read_joints(structure_reading& context);
@@ -46,9 +49,10 @@ void read_offsets(structure_reading& context);
 
 /// Headers of load cases and reference cases; afterwards context.case_at() answers.
 void read_load_cases(structure_reading& context);
-/// Everything that a load case holds, in the order of the text.
+/// Everything that a load case holds, in the order of the text. Loads that are kept as text have the number of
+/// their statement in `kept` until keep_statements().
 void read_loads(structure_reading& context);
-/// Combinations.
+/// Combinations; then whether the cases are there that sums name.
 void read_combinations(structure_reading& context);
 
 /// Statements that are kept as text or passed over, with a report by command. Last of all.

@@ -46,7 +46,8 @@ void read_job_lines(structure_reading& context, std::size_t statement)
     });
 }
 
-/// SET Z UP turns the whole deck; of the other SET lines none says anything about the structure.
+} // namespace
+
 bool is_set_z_up(const structure_reading& context, std::size_t row)
 {
     row_words words(context.deck, row);
@@ -56,8 +57,6 @@ bool is_set_z_up(const structure_reading& context, std::size_t row)
     return words.next(set) && words.next(axis) && words.next(up) && to_upper_ascii(axis) == "Z" &&
            to_upper_ascii(up) == "UP";
 }
-
-} // namespace
 
 void read_head(structure_reading& context)
 {
