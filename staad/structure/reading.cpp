@@ -123,8 +123,12 @@ void structure_reading::take_generated(std::size_t count, std::size_t row, std::
 
 void structure_reading::report_unread(std::size_t row, std::string_view what)
 {
-    report(FindingCode::line_unread, row,
-           [&] { return std::string(what) + ": " + quote(row_words(deck, row).rest()); });
+    report(FindingCode::line_unread, row, [&] { return std::string(what) + ": " + quoted_row(row); });
+}
+
+std::string structure_reading::quoted_row(std::size_t row) const
+{
+    return quote(row_words(deck, row).rest());
 }
 
 } // namespace STAAD::detail

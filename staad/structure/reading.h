@@ -119,6 +119,8 @@ struct structure_reading {
 
     /// A row, or a part of it, says nothing that the reading understands.
     void report_unread(std::size_t row, std::string_view what);
+    /// The words of a row, for a report.
+    std::string quoted_row(std::size_t row) const;
     template<class Compose>
     void report(FindingCode code, std::size_t row, Compose compose)
     {

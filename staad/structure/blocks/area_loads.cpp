@@ -70,7 +70,7 @@ public:
             loads.push_back(std::move(load));
         else
             context_.report(FindingCode::list_no_record, row,
-                            [&] { return "a load on nothing: " + quote(context_.deck.row_text(row)); });
+                            [&] { return "a load on nothing: " + context_.quoted_row(row); });
     }
 
 private:

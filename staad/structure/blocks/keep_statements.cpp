@@ -70,7 +70,7 @@ public:
             return;
         if (spelling.command == Command::unknown) {
             context_.report(FindingCode::command_unknown, row,
-                            [&] { return "no command, kept as text: " + quote(context_.deck.row_text(row)); });
+                            [&] { return "no command, kept as text: " + context_.quoted_row(row); });
             keep_text(statement);
         } else if (spelling.complete == Reading::as_text) {
             report_kept(statement, spelling);

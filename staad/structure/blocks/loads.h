@@ -73,7 +73,7 @@ void read_load_items(structure_reading& context, std::size_t statement, load_lis
                 read_item(words, row, list);
             else
                 context.report(FindingCode::list_no_record, row,
-                               [&] { return "a load on nothing: " + quote(context.deck.row_text(row)); });
+                               [&] { return "a load on nothing: " + context.quoted_row(row); });
         } while (words.next_item());
     });
 }
