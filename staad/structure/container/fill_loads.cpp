@@ -2,6 +2,7 @@
 
 #include "staad/structure/container/filling.h"
 #include "staad/structure/container/texts.h"
+#include "staad/structure/flattened.h"
 
 #include <algorithm>
 #include <array>
@@ -123,7 +124,8 @@ struct made_definition {
 
 class load_filling {
 public:
-    explicit load_filling(container_filling& context) : context_(context), structure_(context.structure)
+    explicit load_filling(container_filling& context)
+        : context_(context), structure_(context.structure), flattened_(context.structure)
     {
         for (const Structure::LoadCase& each : structure_.load_cases)
             cases_.emplace(each.number, &each);
@@ -138,41 +140,45 @@ public:
             header.id = each.number;
             header.type_text = each.type;
             header.title = each.title;
-            add_loads(each, 1.0, each.number);
+            add_loads(each);
         }
         for (const Structure::Combination& each : structure_.combinations)
             context_.report_left_out(each.source, [&] { return "combination " + std::to_string(each.number); });
     }
 
 private:
-    /// The loads of a case with a factor, for the case `number`; sums as the loads they come to.
-    void add_loads(const Structure::LoadCase& from, double factor, int number)
+    /// The loads of a case in the order of the text, sums as the loads they come to.
+    void add_loads(const Structure::LoadCase& from)
     {
-        if (std::ranges::find(open_, &from) != open_.end()) {
-            context_.report_left_out(
-                from.source, [&] { return "load case " + std::to_string(from.number) + " is a part of itself"; });
-            return;
-        }
-        open_.push_back(&from);
         for (const Structure::Load& load : from.loads) {
-            context_.budget.take_references(1);
-            if (load.kind == load_kind::cases)
-                add_sum(load, factor, number);
-            else
-                add_load(load, factor, number);
+            if (load.kind != load_kind::cases) {
+                add_load(load, 1.0, from.number);
+                continue;
+            }
+            for (const Structure::CaseFactor& term : load.sum)
+                if (const Structure::LoadCase* named = find(term))
+                    for (const Structure::CaseFactor& part : flattened_.of(*named))
+                        add_own_loads(part, term.factor * part.factor, from.number);
         }
-        open_.pop_back();
     }
 
-    void add_sum(const Structure::Load& load, double factor, int number)
+    void add_own_loads(const Structure::CaseFactor& part, double factor, int number)
     {
-        for (const Structure::CaseFactor& term : load.sum) {
+        const Structure::LoadCase* from = find(part);
+        if (from == nullptr)
+            return;
+        for (const Structure::Load& load : from->loads) {
             context_.budget.take_references(1);
-            const auto& known = term.is_reference ? references_ : cases_;
-            const auto found = known.find(term.number);
-            if (found != known.end())
-                add_loads(*found->second, factor * term.factor, number);
+            if (load.kind != load_kind::cases)
+                add_load(load, factor, number);
         }
+    }
+
+    const Structure::LoadCase* find(const Structure::CaseFactor& term) const
+    {
+        const auto& known = term.is_reference ? references_ : cases_;
+        const auto found = known.find(term.number);
+        return found == known.end() ? nullptr : found->second;
     }
 
     void add_load(const Structure::Load& load, double factor, int number)
@@ -317,7 +323,7 @@ private:
     const Structure& structure_;
     std::unordered_map<int, const Structure::LoadCase*> cases_;
     std::unordered_map<int, const Structure::LoadCase*> references_;
-    std::vector<const Structure::LoadCase*> open_; // those whose loads are being added
+    FlattenedCases flattened_;
 };
 
 } // namespace
