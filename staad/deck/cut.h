@@ -10,19 +10,15 @@
 #include <string_view>
 #include <vector>
 
-namespace STAAD {
-
-namespace detail {
+namespace STAAD::detail {
 
 /// Where the lines of a text begin, and its size.
 std::vector<std::size_t> cut_lines(std::string_view text);
 
-} // namespace detail
-
 /// Fills the rows and statements of a deck whose lines are cut.
-class DeckCutter {
+class deck_cutter {
 public:
-    explicit DeckCutter(Deck& deck) noexcept : deck_(deck) {}
+    explicit deck_cutter(Deck& deck) noexcept : deck_(deck) {}
 
     void cut()
     {
@@ -38,11 +34,11 @@ private:
 
     void cut_statements();
     void add_text_row(std::size_t row);
-    void add_row_of_ended_block(const detail::row_words& words, std::size_t row);
-    bool goes_on_after_unit(const detail::row_words& words, const CommandInfo* command) noexcept;
+    void add_row_of_ended_block(const row_words& words, std::size_t row);
+    bool goes_on_after_unit(const row_words& words, const CommandInfo* command) noexcept;
     void begin_statement(std::size_t row, const CommandInfo& info);
     void resume_statement(std::size_t row);
-    bool is_data(const detail::row_words& words, const CommandInfo* command) const noexcept;
+    bool is_data(const row_words& words, const CommandInfo* command) const noexcept;
     bool is_ended_by_line(const CommandInfo& info, std::size_t head) noexcept;
 
     Deck& deck_;
@@ -56,6 +52,6 @@ private:
     std::array<bool, number_of_commands> without_end_{};
 };
 
-} // namespace STAAD
+} // namespace STAAD::detail
 
 #endif

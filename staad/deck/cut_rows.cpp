@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <cstring>
 
-namespace STAAD {
+namespace STAAD::detail {
 
-std::vector<std::size_t> detail::cut_lines(std::string_view text)
+std::vector<std::size_t> cut_lines(std::string_view text)
 {
     std::vector<std::size_t> begins;
     begins.reserve(static_cast<std::size_t>(std::ranges::count(text, '\n')) + 2);
@@ -30,21 +30,21 @@ namespace {
 /// The first character that is no separator; 0 if there is none.
 char first_character(std::string_view line) noexcept
 {
-    const auto found = std::ranges::find_if_not(line, detail::is_separator);
+    const auto found = std::ranges::find_if_not(line, is_separator);
     return found == line.end() ? '\0' : *found;
 }
 
 bool begins_generated(std::string_view line) noexcept
 {
     const std::size_t mark = line.find("<!");
-    return mark != std::string_view::npos && std::ranges::all_of(line.substr(0, mark), detail::is_separator);
+    return mark != std::string_view::npos && std::ranges::all_of(line.substr(0, mark), is_separator);
 }
 
 } // namespace
 
-RowKind DeckCutter::kind_of_line(std::size_t line) const noexcept
+RowKind deck_cutter::kind_of_line(std::size_t line) const noexcept
 {
-    const std::string_view text = detail::line_after_mark(deck_, line);
+    const std::string_view text = line_after_mark(deck_, line);
     switch (first_character(text)) {
     case '\0':
         return RowKind::blank;
@@ -58,33 +58,33 @@ RowKind DeckCutter::kind_of_line(std::size_t line) const noexcept
 }
 
 /// The line that ends the generated block which begins at `first`; `first` if none does.
-std::size_t DeckCutter::last_line_of_generated(std::size_t first) noexcept
+std::size_t deck_cutter::last_line_of_generated(std::size_t first) noexcept
 {
     if (no_end_of_generated_)
         return first;
     for (std::size_t line = first; line <= deck_.line_count(); ++line)
-        if (detail::contains(deck_.line(line), "!>"))
+        if (contains(deck_.line(line), "!>"))
             return line;
     no_end_of_generated_ = true;
     return first;
 }
 
 /// The last line that continues `first`. Blank lines and comments stand between without ending it.
-std::size_t DeckCutter::last_line_of_row(std::size_t first) const noexcept
+std::size_t deck_cutter::last_line_of_row(std::size_t first) const noexcept
 {
     std::size_t last = first;
-    bool continued = detail::is_continued(detail::line_after_mark(deck_, first));
+    bool continued = is_continued(line_after_mark(deck_, first));
     for (std::size_t line = first + 1; continued && line <= deck_.line_count(); ++line) {
         const RowKind kind = kind_of_line(line);
         if (kind == RowKind::blank || kind == RowKind::comment)
             continue;
         last = line;
-        continued = detail::is_continued(deck_.line(line));
+        continued = is_continued(deck_.line(line));
     }
     return last;
 }
 
-void DeckCutter::cut_rows()
+void deck_cutter::cut_rows()
 {
     const std::size_t lines = deck_.line_count();
     deck_.rows_.reserve(lines + 1);
@@ -100,4 +100,4 @@ void DeckCutter::cut_rows()
     deck_.rows_.push_back({static_cast<std::uint32_t>(lines + 1), RowKind::blank});
 }
 
-} // namespace STAAD
+} // namespace STAAD::detail

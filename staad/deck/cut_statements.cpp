@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace STAAD {
+namespace STAAD::detail {
 namespace {
 
 /// Commands of one word that other blocks use for data of their own: these have them first.
@@ -39,13 +39,13 @@ bool keeps_design_open(Command command) noexcept
 
 /// Whether a line below `head` ends its block. Where none does, as in a cut-off deck, the block must not take the
 /// rest of it, and none of the next block of its kind.
-bool DeckCutter::is_ended_by_line(const CommandInfo& info, std::size_t head) noexcept
+bool deck_cutter::is_ended_by_line(const CommandInfo& info, std::size_t head) noexcept
 {
     bool& without_end = without_end_[static_cast<std::size_t>(info.command)];
     for (std::size_t row = head + 1; !without_end && row < deck_.row_count(); ++row) {
         if (deck_.rows_[row].kind != RowKind::data)
             continue;
-        const detail::row_words words(deck_, row);
+        const row_words words(deck_, row);
         if (begins_with(words, info.data_words))
             return true;
         if (begins_with(words, info.short_form))
@@ -55,7 +55,7 @@ bool DeckCutter::is_ended_by_line(const CommandInfo& info, std::size_t head) noe
     return false;
 }
 
-void DeckCutter::begin_statement(std::size_t row, const CommandInfo& info)
+void deck_cutter::begin_statement(std::size_t row, const CommandInfo& info)
 {
     if (info.command != Command::unit) {
         interrupted_ = nullptr;
@@ -73,7 +73,7 @@ void DeckCutter::begin_statement(std::size_t row, const CommandInfo& info)
 }
 
 /// The block that a UNIT line stands in goes on after it: a statement without a head.
-void DeckCutter::resume_statement(std::size_t row)
+void deck_cutter::resume_statement(std::size_t row)
 {
     deck_.statements_.push_back({static_cast<std::uint32_t>(row), interrupted_->command});
     open_ = interrupted_;
@@ -81,30 +81,30 @@ void DeckCutter::resume_statement(std::size_t row)
 }
 
 /// Whether a row is data of the open statement. Its own words come before commands that look like them.
-bool DeckCutter::is_data(const detail::row_words& words, const CommandInfo* command) const noexcept
+bool deck_cutter::is_data(const row_words& words, const CommandInfo* command) const noexcept
 {
     if (data_ == DataLines::until_command)
         return command == nullptr || is_weak(command->command);
     if (data_ != DataLines::items && data_ != DataLines::lists)
         return false;
-    if (*open_->data_words != '\0' && detail::begins_with(words, open_->data_words))
+    if (*open_->data_words != '\0' && begins_with(words, open_->data_words))
         return true;
     if (command != nullptr && !is_of_any_word(command->command))
         return false;
-    return detail::begins_with_number(words) || (data_ == DataLines::lists && detail::begins_a_list(words));
+    return begins_with_number(words) || (data_ == DataLines::lists && begins_a_list(words));
 }
 
 /// Every row is one of the block, up to the END.
-void DeckCutter::add_row_of_ended_block(const detail::row_words& words, std::size_t row)
+void deck_cutter::add_row_of_ended_block(const row_words& words, std::size_t row)
 {
-    if (detail::begins_with(words, open_->data_words))
+    if (begins_with(words, open_->data_words))
         data_ = DataLines::none;
-    else if (may_change_units(open_->command) && detail::begins_with(words, "UNIT"))
+    else if (may_change_units(open_->command) && begins_with(words, "UNIT"))
         begin_statement(row, command_info(Command::unit));
 }
 
 /// Whether a row goes on with the block that the open UNIT line stands in.
-bool DeckCutter::goes_on_after_unit(const detail::row_words& words, const CommandInfo* command) noexcept
+bool deck_cutter::goes_on_after_unit(const row_words& words, const CommandInfo* command) noexcept
 {
     if (open_->command != Command::unit || interrupted_ == nullptr ||
         (command != nullptr && command->command == Command::unit))
@@ -119,16 +119,16 @@ bool DeckCutter::goes_on_after_unit(const detail::row_words& words, const Comman
     return goes_on;
 }
 
-void DeckCutter::add_text_row(std::size_t row)
+void deck_cutter::add_text_row(std::size_t row)
 {
-    const detail::row_words words(deck_, row);
+    const row_words words(deck_, row);
     if (words.peek().empty()) // ";" or "-" alone
         return;
     if (data_ == DataLines::until_end) {
         add_row_of_ended_block(words, row);
         return;
     }
-    const CommandInfo* command = detail::find_command(words);
+    const CommandInfo* command = find_command(words);
     if (is_data(words, command))
         return;
     if (goes_on_after_unit(words, command)) {
@@ -141,7 +141,7 @@ void DeckCutter::add_text_row(std::size_t row)
     begin_statement(row, command != nullptr ? *command : command_info(unnamed));
 }
 
-void DeckCutter::cut_statements()
+void deck_cutter::cut_statements()
 {
     const std::size_t rows = deck_.row_count();
     deck_.statements_.push_back({0, Command::none});
@@ -159,4 +159,4 @@ void DeckCutter::cut_statements()
     deck_.statements_.push_back({static_cast<std::uint32_t>(rows), Command::none});
 }
 
-} // namespace STAAD
+} // namespace STAAD::detail

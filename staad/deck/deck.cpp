@@ -12,7 +12,7 @@ Deck::Deck() : Deck(std::string()) {}
 Deck::Deck(std::string text) : text_(std::move(text))
 {
     line_begins_ = detail::cut_lines(text_);
-    DeckCutter(*this).cut();
+    detail::deck_cutter(*this).cut();
 }
 
 Deck Deck::from_file(const std::filesystem::path& path, std::error_code& error)

@@ -18,6 +18,10 @@
 
 namespace STAAD {
 
+namespace detail {
+class deck_cutter;
+}
+
 /// What a row of a deck is.
 enum class RowKind : std::uint8_t {
     blank,     ///< nothing but blanks and tabs
@@ -45,38 +49,38 @@ struct DeckStatement {
 
 /// The text of a deck. Its rows put together are the text, and so are the rows of its statements, for any
 /// bytes at all. Lines end with LF, CR LF, or CR. A copy copies the text.
-class STAAD_API Deck {
+class Deck {
 public:
     /// A deck of no bytes.
-    Deck();
+    STAAD_API Deck();
     /// Cost: the text is kept and walked once; about 16 bytes a line are kept beside it. Throws std::bad_alloc.
-    explicit Deck(std::string text);
+    STAAD_API explicit Deck(std::string text);
 
     /// The deck in a file, which need only be readable. Where it cannot be read, `error` says why and the deck
     /// is empty. Throws std::bad_alloc.
-    static Deck from_file(const std::filesystem::path& path, std::error_code& error);
+    STAAD_API static Deck from_file(const std::filesystem::path& path, std::error_code& error);
 
     const std::string& text() const noexcept { return text_; }
 
     /// Physical lines; one that nothing ends counts, too.
     std::size_t line_count() const noexcept { return line_begins_.size() - 1; }
     /// Physical line `number`, from 1, with what ends it.
-    std::string_view line(std::size_t number) const noexcept;
+    STAAD_API std::string_view line(std::size_t number) const noexcept;
 
     std::size_t row_count() const noexcept { return rows_.size() - 1; }
-    DeckRow row(std::size_t index) const noexcept;
+    STAAD_API DeckRow row(std::size_t index) const noexcept;
     /// The bytes of a row, all its physical lines.
-    std::string_view row_text(std::size_t index) const noexcept;
+    STAAD_API std::string_view row_text(std::size_t index) const noexcept;
 
     std::size_t statement_count() const noexcept { return statements_.size() - 1; }
-    DeckStatement statement(std::size_t index) const noexcept;
+    STAAD_API DeckStatement statement(std::size_t index) const noexcept;
     /// Physical lines of a statement without the comments and blank lines after its last row of data.
-    FileLines lines(const DeckStatement& statement) const noexcept;
+    STAAD_API FileLines lines(const DeckStatement& statement) const noexcept;
     /// The bytes of a statement, all its rows.
-    std::string_view statement_text(std::size_t index) const noexcept;
+    STAAD_API std::string_view statement_text(std::size_t index) const noexcept;
 
 private:
-    friend class DeckCutter;
+    friend class detail::deck_cutter;
 
     struct Row {
         std::uint32_t first_line; // from 1

@@ -21,20 +21,20 @@ class case_flattener;
 /// none. A number that no record has stays as it is: the analysis program may make the case. Cost: linear in the terms
 /// below a record; the construction visits all terms once. Calls throw ReadLimitError when they have visited more than
 /// most_numbers_per_list terms together, and std::bad_alloc.
-class STAAD_API FlattenedCases {
+class FlattenedCases {
 public:
-    explicit FlattenedCases(const Structure& structure);
+    STAAD_API explicit FlattenedCases(const Structure& structure);
     FlattenedCases(const FlattenedCases&) = delete;
     FlattenedCases& operator=(const FlattenedCases&) = delete;
-    ~FlattenedCases();
+    STAAD_API ~FlattenedCases();
 
     /// A combination in load cases: combinations in it are resolved, sums in load cases are not, as these are cases
     /// of the analysis. SRSS and ABS are no sums: such a combination stays under its own number in others, and its
     /// own terms are given as they stand.
-    std::vector<Structure::CaseFactor> of(const Structure::Combination& combination);
+    STAAD_API std::vector<Structure::CaseFactor> of(const Structure::Combination& combination);
     /// The cases whose own loads are together the loads of a load case: itself, if it has loads of its own, and
     /// those that its REPEAT LOAD and REFERENCE LOAD come to.
-    std::vector<Structure::CaseFactor> of(const Structure::LoadCase& load_case);
+    STAAD_API std::vector<Structure::CaseFactor> of(const Structure::LoadCase& load_case);
 
 private:
     std::unique_ptr<detail::case_flattener> flattener_;
