@@ -72,7 +72,7 @@ public:
         add_sections();
         add_described("SUPPORTS", model_.supports);
         add_described("MEMBER RELEASE", model_.releases);
-        line(std::string(model_units));
+        line(model_units);
         add_loads();
         return std::move(made_);
     }
@@ -144,14 +144,21 @@ private:
     void add_loads()
     {
         gather_carriers();
+        // Cases in the order of their first definitions, so that these keep their numbers.
+        std::vector<int> cases;
         std::map<int, std::vector<int>> of_case;
-        for (const auto& [number, definition] : model_.load_defs)
-            of_case[definition.load_case].push_back(number);
+        for (const auto& [number, definition] : model_.load_defs) {
+            std::vector<int>& definitions = of_case[definition.load_case];
+            if (definitions.empty())
+                cases.push_back(definition.load_case);
+            definitions.push_back(number);
+        }
         for (const auto& [number, header] : model_.load_cases)
-            of_case.try_emplace(number);
-        for (const auto& [number, definitions] : of_case) {
+            if (of_case.count(number) == 0)
+                cases.push_back(number);
+        for (const int number : cases) {
             add_header(number);
-            for (const int definition : definitions)
+            for (const int definition : of_case[number])
                 add_definition(definition, model_.load_defs.at(definition));
         }
     }
@@ -194,9 +201,29 @@ private:
         }
         if (numbers.empty() || definition.kind.empty())
             return;
+        if (definition.kind == "FLOOR LOAD") {
+            add_floor_load(number, numbers);
+            return;
+        }
         line(join_words(word_cursor(definition.kind), 2));
         made_.definitions.push_back({lines_ + 1, number});
         list_line(numbers, words);
+    }
+
+    /// The definition of a floor load has no values: its text has them, in the units of the file.
+    void add_floor_load(int number, const std::vector<int>& numbers)
+    {
+        const auto raw = model_.raw_load_defs.find(number);
+        if (raw == model_.raw_load_defs.end())
+            return;
+        word_cursor words(raw->second.text);
+        words.next_or_empty(); // FLOOR
+        words.next_or_empty(); // LOAD
+        line(unit_line(model_));
+        line("FLOOR LOAD");
+        made_.definitions.push_back({lines_ + 1, number});
+        list_line(numbers, join_words(words));
+        line(model_units);
     }
 
     const SdReader& model_;

@@ -78,11 +78,6 @@ int thickness_of(container_filling& context, const Structure::Element& element)
     return mean;
 }
 
-std::string material_name(const container_filling& context, int material, const char* otherwise)
-{
-    return material < 0 ? otherwise : context.structure.materials[static_cast<std::size_t>(material)].name;
-}
-
 void fill_elements(container_filling& context)
 {
     SdReader& model = context.model;
@@ -159,6 +154,14 @@ void fill_groups(container_filling& context)
 }
 
 } // namespace
+
+std::string material_name(const container_filling& context, int material, const std::string& otherwise)
+{
+    if (material < 0)
+        return otherwise;
+    const std::string& name = context.structure.materials[static_cast<std::size_t>(material)].name;
+    return name.empty() ? otherwise : name;
+}
 
 void fill_geometry(container_filling& context)
 {

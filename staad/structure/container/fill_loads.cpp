@@ -20,42 +20,38 @@ namespace {
 using load_kind = Structure::Load::Kind;
 using load_direction = Structure::Load::Direction;
 
-/// What the words of a load of a kind are, and what its numbers stand for.
+/// What the words of a member load of a kind are, and what its numbers stand for.
 struct form {
-    std::string_view block;  ///< "MEMBER LOAD"
     std::string_view word;   ///< "UNI"
     std::size_t intensities; ///< how many of the values grow with the load; the others are lengths
-    char intensity;          ///< F: a force; L: per length; M: a moment; P: a pressure
+    char intensity;          ///< F: a force; L: per length; M: a moment
 };
 
 std::optional<form> form_of(load_kind kind) noexcept
 {
     switch (kind) {
     case load_kind::uniform:
-        return form{"MEMBER LOAD", "UNI", 1, 'L'};
+        return form{"UNI", 1, 'L'};
     case load_kind::uniform_moment:
-        return form{"MEMBER LOAD", "UMOM", 1, 'F'};
+        return form{"UMOM", 1, 'F'};
     case load_kind::concentrated:
-        return form{"MEMBER LOAD", "CON", 1, 'F'};
+        return form{"CON", 1, 'F'};
     case load_kind::concentrated_moment:
-        return form{"MEMBER LOAD", "CMOM", 1, 'M'};
+        return form{"CMOM", 1, 'M'};
     case load_kind::linear:
-        return form{"MEMBER LOAD", "LIN", 6, 'L'};
+        return form{"LIN", 6, 'L'};
     case load_kind::trapezoidal:
-        return form{"MEMBER LOAD", "TRAP", 2, 'L'};
-    case load_kind::area:
-        return form{"AREA LOAD", "ALOAD", 1, 'P'};
-    case load_kind::floor:
-        return form{"FLOOR LOAD", "FLOAD", 1, 'P'};
+        return form{"TRAP", 2, 'L'};
     default:
         return std::nullopt;
     }
 }
 
-double in_model_units(char intensity, double value) noexcept
+/// `quantity`: F a force, L per length, M a moment, P a pressure, else a length.
+double in_model_units(char quantity, double value) noexcept
 {
     const exact_units units = container_units();
-    switch (intensity) {
+    switch (quantity) {
     case 'L':
         return units.force_per_length_of(value);
     case 'M':
@@ -67,6 +63,12 @@ double in_model_units(char intensity, double value) noexcept
     default:
         return units.length_of(value);
     }
+}
+
+/// A number of a definition in metres and kilonewtons; `quantity` as in in_model_units().
+std::string value_text(char quantity, double value)
+{
+    return number_text(value, [quantity](double v) { return in_model_units(quantity, v); });
 }
 
 /// A direction as the container has it: its letter in definition texts, always those of a file with Y up, the
@@ -152,7 +154,8 @@ private:
     {
         for (const Structure::Load& load : from.loads) {
             if (load.kind != load_kind::cases) {
-                add_load(load, 1.0, from.number);
+                if (!add_load(load, 1.0, from.number))
+                    report_left_out(load);
                 continue;
             }
             for (const Structure::CaseFactor& term : load.sum)
@@ -169,8 +172,9 @@ private:
             return;
         for (const Structure::Load& load : from->loads) {
             context_.budget.take_references(1);
-            if (load.kind != load_kind::cases)
-                add_load(load, factor, number);
+            const bool is_left_out = load.kind != load_kind::cases && !add_load(load, factor, number);
+            if (is_left_out && part.is_reference) // loads of load cases are reported where these stand
+                report_left_out(load);
         }
     }
 
@@ -181,14 +185,12 @@ private:
         return found == known.end() ? nullptr : found->second;
     }
 
-    void add_load(const Structure::Load& load, double factor, int number)
+    /// False if the container has no place for the load.
+    bool add_load(const Structure::Load& load, double factor, int number)
     {
-        const std::optional<made_definition> made = make(load, factor);
-        if (!made) {
-            if (factor == 1.0)
-                report_left_out(load);
-            return;
-        }
+        std::optional<made_definition> made = make(load, factor);
+        if (!made)
+            return false;
         const int definition = static_cast<int>(context_.model.raw_load_defs.size()) + 1;
         SdReader& model = context_.model;
         LoadDefination& filled =
@@ -197,6 +199,7 @@ private:
         model.raw_load_defs.emplace_hint(model.raw_load_defs.end(), definition,
                                          LoadDef_raw{std::move(made->text), number});
         attach(load, definition);
+        return true;
     }
 
     void attach(const Structure::Load& load, int definition)
@@ -223,13 +226,14 @@ private:
         case load_kind::self_weight:
             return make_self_weight(load, factor);
         case load_kind::floor:
-            return load.box ? std::nullopt : make_listed(load, factor);
+        case load_kind::area:
+            return load.box || load.group >= 0 ? std::nullopt : std::optional(make_area_load(load, factor));
         default:
-            return make_listed(load, factor);
+            return make_member_load(load, factor);
         }
     }
 
-    std::optional<made_definition> make_listed(const Structure::Load& load, double factor) const
+    std::optional<made_definition> make_member_load(const Structure::Load& load, double factor) const
     {
         const std::optional<form> words = form_of(load.kind);
         if (!words)
@@ -237,22 +241,36 @@ private:
         const container_direction direction = direction_of(load.direction, is_z_up());
         made_definition made;
         std::string text(words->word);
-        if (!direction.written.empty() && load.kind != load_kind::area)
-            append_word(text, direction.written);
+        append_word(text, direction.written);
         for (std::size_t i = 0; i < load.value_count; ++i) {
             const bool grows = i < words->intensities;
             const double value = grows ? load.values[i] * factor * direction.sign : load.values[i];
             made.definition.values.push_back(value);
-            append_word(
-                text, number_text(value, [&](double v) { return in_model_units(grows ? words->intensity : ' ', v); }));
+            append_word(text, value_text(grows ? words->intensity : ' ', value));
         }
+        made.definition.kind = "MEMBER LOAD " + std::string(words->word);
+        made.definition.direction = direction.turned;
+        made.text = "MEMBER LOAD " + (factor == 1.0 ? as_written(std::move(text), load.text) : text);
+        return made;
+    }
+
+    /// "AREA LOAD ALOAD -0.5", "FLOOR LOAD FLOAD -5 GY": the direction stands after the number, if at all. The
+    /// definition of a floor load has no values.
+    made_definition make_area_load(const Structure::Load& load, double factor) const
+    {
         const bool is_floor = load.kind == load_kind::floor;
-        if (is_floor)
-            made.definition.values.clear();
-        const std::string head(words->block);
-        made.definition.kind = is_floor ? head : head + ' ' + std::string(words->word);
-        made.definition.direction = words->block == "MEMBER LOAD" ? direction.turned : "Z";
-        made.text = head + ' ' + (factor == 1.0 ? as_written(std::move(text), load.text) : text);
+        const double value = load.values[0] * factor;
+        std::string text = is_floor ? "FLOAD" : "ALOAD";
+        append_word(text, value_text('P', value));
+        if (load.direction != load_direction::global_z || count_words(load.text) > 2)
+            append_word(text, direction_of(load.direction, is_z_up()).written);
+        made_definition made;
+        made.definition.kind = is_floor ? "FLOOR LOAD" : "AREA LOAD ALOAD";
+        made.definition.direction = "Z";
+        if (!is_floor)
+            made.definition.values = {value};
+        made.text =
+            (is_floor ? "FLOOR LOAD " : "AREA LOAD ") + (factor == 1.0 ? as_written(std::move(text), load.text) : text);
         return made;
     }
 
@@ -271,7 +289,7 @@ private:
             if (value == 0.0)
                 continue;
             append_word(text, names[i]);
-            append_word(text, number_text(value, [&](double v) { return in_model_units(i < 3 ? 'F' : 'M', v); }));
+            append_word(text, value_text(i < 3 ? 'F' : 'M', value));
         }
         made.text = "JOINT LOAD " + joint_text(std::move(text), load, factor);
         return made;

@@ -44,7 +44,7 @@ std::string in_metres(const Structure::Section& section, bool by_name)
     std::size_t next = 0;
     return with_numbers_after(section.text, [&](std::string_view before, std::string_view number) {
         const auto& values = section.values;
-        if (next < values.size() && (!by_name || to_upper_ascii(before) == values[next].name))
+        if (next < values.size() && (!by_name || starts_with(to_upper_ascii(before), values[next].name)))
             return value_text(values[next++], number);
         return std::string(number);
     });
@@ -123,6 +123,17 @@ void report_section(container_filling& context, const Structure::Section& sectio
             return "section " + quote(section.text) + " is held as " + quote(texts.text) +
                    ", which does not show its shape";
         });
+}
+
+/// The container has the names of materials alone, and the density of the one that is called CONCRETE.
+void report_materials(container_filling& context)
+{
+    for (const Structure::Material& material : context.structure.materials) {
+        const bool keeps_density = to_upper_ascii(material.name) == "CONCRETE";
+        if (material.e || material.g || material.poisson || material.alpha || material.damping ||
+            !material.strengths.empty() || (material.density && !keeps_density))
+            context.report_left_out(material.source, [&] { return "constants of material " + quote(material.name); });
+    }
 }
 
 constexpr const char* section_material = "STEEL";
@@ -215,6 +226,7 @@ void fill_rows(SdUserSectionTable& filled, const Structure::UserTable& table, co
 void fill_sections(container_filling& context)
 {
     const Structure& structure = context.structure;
+    report_materials(context);
     std::vector<section_texts> texts;
     for (const Structure::Section& section : structure.sections) {
         texts.push_back(texts_of(section));
@@ -227,8 +239,7 @@ void fill_sections(container_filling& context)
             const auto section = static_cast<std::size_t>(member.section);
             fill_section(beam, structure.sections[section], texts[section]);
         }
-        if (member.material >= 0)
-            beam.material = structure.materials[static_cast<std::size_t>(member.material)].name;
+        beam.material = material_name(context, member.material, beam.material);
     }
 }
 

@@ -43,6 +43,9 @@ inline exact_units container_units()
     return units;
 }
 
+/// The name of a material at a position; `otherwise` of none and of a nameless one.
+std::string material_name(const container_filling& context, int material, const std::string& otherwise);
+
 void fill_geometry(container_filling& context);
 /// Materials and sections of members; after fill_geometry().
 void fill_sections(container_filling& context);

@@ -3,6 +3,7 @@
 #include "staad/structure/blocks/blocks.h"
 #include "staad/structure/container.h"
 #include "staad/structure/container/container_text.h"
+#include "staad/structure/container/filling.h"
 #include "staad/structure/reading.h"
 
 #include <algorithm>
@@ -129,7 +130,8 @@ private:
     void add_density()
     {
         const int concrete = material_of("CONCRETE");
-        made_.materials[static_cast<std::size_t>(concrete)].density = model_.concrete_density * 1e-9;
+        made_.materials[static_cast<std::size_t>(concrete)].density =
+            detail::container_units().force_per_volume_of(model_.concrete_density);
     }
 
     const SdReader& model_;

@@ -1,6 +1,7 @@
 #include "staad/structure/container.h"
 
 #include "staad/structure/container/filling.h"
+#include "staad/structure/container/texts.h"
 
 #include <cmath>
 #include <utility>
@@ -15,7 +16,8 @@ double concrete_density(const Structure& structure)
 {
     for (const Structure::Material& material : structure.materials)
         if (detail::to_upper_ascii(material.name) == "CONCRETE" && material.density)
-            return *material.density * 1e9;
+            return detail::to_real(detail::number_text(
+                *material.density, [](double v) { return detail::container_units().force_per_volume_of(v); }));
     return default_concrete_density;
 }
 
