@@ -5,6 +5,7 @@
 #include "staad/units/exact_units.h"
 
 #include <map>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -60,6 +61,32 @@ std::string definition_words(const LoadDefination& definition)
     return words;
 }
 
+/// Names of the rows in the order of the file. Every line of a table has the one after it as its record, so that the
+/// rows lead from one to the next; the first is after none. Rows that none leads to come last.
+std::vector<std::string_view> row_names(const SdUserSectionTable& table)
+{
+    std::set<std::string_view> led_to;
+    for (const auto& [line, after] : table.records)
+        led_to.insert(after);
+    std::vector<std::string_view> names;
+    std::set<std::string_view> taken; // names, and lines of their numbers
+    const auto follow = [&](auto row) {
+        while (row != table.records.end() && taken.insert(row->first).second) {
+            names.push_back(row->first);
+            taken.insert(row->second);
+            const auto numbers = table.records.find(row->second);
+            row = numbers == table.records.end() ? numbers : table.records.find(numbers->second);
+        }
+    };
+    for (auto row = table.records.begin(); row != table.records.end(); ++row)
+        if (starts_with_letter(row->first) && led_to.count(row->first) == 0)
+            follow(row);
+    for (auto row = table.records.begin(); row != table.records.end(); ++row)
+        if (starts_with_letter(row->first))
+            follow(row);
+    return names;
+}
+
 class text_maker {
 public:
     explicit text_maker(const SdReader& model) : model_(model) {}
@@ -104,12 +131,9 @@ private:
             line("TABLE " + std::to_string(number));
             line(starts_with(table.unit, "00") ? std::string_view(table.unit).substr(2) : table.unit);
             line(starts_with(table.type, "00") ? std::string_view(table.type).substr(2) : table.type);
-            // Lines of numbers stand among the names, too.
-            for (const auto& [name, dimensions] : table.records) {
-                if (!starts_with_letter(name))
-                    continue;
+            for (const std::string_view name : row_names(table)) {
                 line(name);
-                line(dimensions);
+                line(table.records.find(std::string(name))->second);
             }
         }
         line("END");
