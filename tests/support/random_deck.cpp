@@ -6,6 +6,7 @@
 #include "tests/support/random_text.h"
 #include "tests/support/random_units.h"
 
+#include <algorithm>
 #include <iterator>
 #include <map>
 #include <sstream>
@@ -32,9 +33,12 @@ words together(words first, const words& second)
 
 class deck_maker {
 public:
-    deck_maker(std::uint64_t seed, int members)
-        : random_(seed), out_(random_), units_(random_unit_line(random_)), members_(members)
+    deck_maker(std::uint64_t seed, int members, deck_kind kind)
+        : random_(seed), out_(random_, kind == deck_kind::plain), units_(random_unit_line(random_)), members_(members),
+          is_plain_(kind == deck_kind::plain)
     {
+        if (is_plain_)
+            units_ = {"UNIT METER KN", 1000.0};
     }
 
     random_deck make() &&
@@ -49,6 +53,44 @@ public:
     }
 
 private:
+    /// Whether to add something that no plain deck has.
+    bool odd_one_in(int count) { return !is_plain_ && random_.one_in(count); }
+
+    void add_noise()
+    {
+        if (!is_plain_)
+            out_.noise();
+    }
+
+    /// A list of numbers of the pool; of a plain deck each once and ascending, with no number that has no record.
+    id_list list_from(const std::vector<int>& pool, list_kind kind)
+    {
+        if (!is_plain_)
+            return random_list(random_, pool, kind);
+        std::vector<int> numbers = pool;
+        std::sort(numbers.begin(), numbers.end());
+        return plain_list(numbers, 0, numbers.size());
+    }
+
+    id_list plain_list(const std::vector<int>& numbers, std::size_t begin, std::size_t end)
+    {
+        id_list list;
+        for (std::size_t first = begin; first < end;) {
+            const std::size_t last =
+                random_.one_in(2)
+                    ? first
+                    : static_cast<std::size_t>(random_.between(static_cast<int>(first), static_cast<int>(end) - 1));
+            list.words.push_back(std::to_string(numbers[first]));
+            list.pieces.push_back({numbers[first], numbers[first], false});
+            if (last > first) {
+                list.words.insert(list.words.end(), {"TO", std::to_string(numbers[last])});
+                list.pieces.push_back({numbers[first] + 1, numbers[last], true});
+            }
+            first = last + static_cast<std::size_t>(random_.between(2, 5));
+        }
+        return list;
+    }
+
     // ---- what the deck holds -------------------------------------------------------------------
 
     void enter_unit()
@@ -59,13 +101,16 @@ private:
         model_.force_length_factor = units_.force_length_factor;
     }
 
-    /// Distinct numbers with gaps between, in random order or ascending.
+    /// Distinct numbers with gaps between, in random order or ascending. Of a plain deck without gaps, and none that
+    /// another kind of record has.
     std::vector<int> choose_numbers(int count)
     {
         std::vector<int> numbers;
         int number = random_.one_in(4) ? random_.between(1, 200000) : 0;
+        if (is_plain_)
+            number += plain_numbers_ += 1000000;
         for (int i = 0; i < count; ++i) {
-            number += random_.one_in(3) ? random_.between(1, 5) : 1;
+            number += odd_one_in(3) ? random_.between(1, 5) : 1;
             numbers.push_back(number);
         }
         if (random_.one_in(3))
@@ -74,13 +119,13 @@ private:
     }
 
     /// Now and then a number that no record has.
-    int any_joint() { return random_.one_in(100) ? random_.between(900000, 900099) : random_.any_of(joint_ids_); }
+    int any_joint() { return odd_one_in(100) ? random_.between(900000, 900099) : random_.any_of(joint_ids_); }
 
     double length(const decimal& number) const { return number.value() * units_.length_factor; }
 
     void choose_joints()
     {
-        joint_ids_ = choose_numbers(random_.between(2, members_ + 2));
+        joint_ids_ = choose_numbers(random_.between(is_plain_ ? 4 : 2, members_ + 2));
         for (const int number : joint_ids_) {
             const decimal x = random_decimal(random_, -60, 60);
             const decimal y = random_decimal(random_, 0, 90);
@@ -94,7 +139,7 @@ private:
 
     void add_ignored_word(words& item)
     {
-        if (random_.one_in(40))
+        if (odd_one_in(40))
             item.push_back("99");
     }
 
@@ -108,7 +153,9 @@ private:
         member_ids_ = choose_numbers(members_);
         for (const int number : member_ids_) {
             const int start = any_joint();
-            const int end = any_joint();
+            int end = any_joint();
+            while (is_plain_ && end == start)
+                end = any_joint();
             model_.beams.push_back(placed::member(number, named_position(start), named_position(end)));
             model_.beam_index[number] = static_cast<int>(model_.beams.size());
             member_items_.push_back({std::to_string(number), std::to_string(start), std::to_string(end)});
@@ -126,8 +173,9 @@ private:
             shell.id = number;
             shell.material = "C1";
             words item{std::to_string(number)};
-            for (int corner = random_.between(3, 4); corner > 0; --corner) {
-                const int joint = any_joint();
+            const int corners = random_.between(3, 4);
+            for (int corner = 0; corner < corners; ++corner) {
+                const int joint = is_plain_ ? joint_ids_[static_cast<std::size_t>(corner)] : any_joint();
                 shell.node_ids.push_back(named_position(joint));
                 item.push_back(std::to_string(joint));
             }
@@ -146,7 +194,7 @@ private:
             SdSurface surface;
             surface.material = "CONCRETE";
             words item;
-            for (int corner = random_.between(2, 6); corner > 0; --corner) {
+            for (int corner = random_.between(is_plain_ ? 3 : 2, 6); corner > 0; --corner) {
                 surface.node_ids.push_back(any_joint());
                 item.push_back(std::to_string(surface.node_ids.back()));
             }
@@ -172,10 +220,10 @@ private:
     void write(const std::vector<block>& blocks)
     {
         for (const block write_block : blocks) {
-            out_.noise();
+            add_noise();
             (this->*write_block)();
         }
-        out_.noise();
+        add_noise();
     }
 
     void write()
@@ -212,7 +260,7 @@ private:
 
     void write_head()
     {
-        if (random_.one_in(2))
+        if (is_plain_ || random_.one_in(2))
             out_.line("STAAD SPACE");
         if (random_.one_in(3))
             out_.comment();
@@ -233,7 +281,7 @@ private:
     {
         out_.line("ELEMENT INCIDENCES SHELL");
         out_.items(shell_items_, false);
-        out_.noise();
+        add_noise();
         if (random_.one_in(2))
             write_thickness();
     }
@@ -255,7 +303,7 @@ private:
         out_.line("ELEMENT PROPERTY");
         for (int line = random_.between(1, 5); line > 0; --line) {
             const decimal value = random_decimal(random_, 0, 9);
-            const id_list list = random_list(random_, shell_ids_, list_kind::whole_ranges);
+            const id_list list = list_from(shell_ids_, list_kind::whole_ranges);
             for (const id_piece& piece : list.pieces) {
                 for (int number = piece.first; number <= piece.last; ++number)
                     for_each_element(number, !piece.is_range, [&](std::size_t position) {
@@ -263,10 +311,10 @@ private:
                     });
             }
             words tail{random_.any_of({"THICKNESS", "TH"}), spelled(value)};
-            if (random_.one_in(4))
+            if (odd_one_in(4))
                 tail.insert(tail.end() - 1, {"0.75", "0.5", "0.25"}); // a value for each corner: the last counts
             out_.words(together(list.words, tail));
-            if (random_.one_in(10))
+            if (odd_one_in(10))
                 out_.line(std::to_string(shell_ids_.front()) + " 0.5"); // two words: no element
         }
     }
@@ -280,14 +328,14 @@ private:
         out_.line(random_.any_of({"SURFACE PROPERTY", "SURFACE PROPERTY SIMPLE"}));
         for (int line = random_.between(1, 4); line > 0; --line) {
             const decimal value = random_decimal(random_, 0, 9);
-            const id_list list = random_list(random_, surface_ids_, list_kind::general);
+            const id_list list = list_from(surface_ids_, list_kind::general);
             for (const int number : list.ids()) {
                 const auto found = model_.surface_index.find(number);
                 if (found != model_.surface_index.end())
                     model_.surfaces[static_cast<std::size_t>(found->second - 1)].thickness = truncated(length(value));
             }
             out_.words(together(list.words, {"THICKNESS", spelled(value)}));
-            if (random_.one_in(4))
+            if (odd_one_in(4))
                 out_.line(std::to_string(surface_ids_.front()) + " 0.5"); // two words: no surface
         }
     }
@@ -314,17 +362,18 @@ private:
         out_.line("START GROUP DEFINITION");
         std::string kind;
         for (int line = random_.between(1, 8); line > 0; --line) {
-            if (random_.one_in(2)) {
-                kind = random_.any_of({"JOINT", "MEMBER", "ELEMENT", "GEOMETRY", "FLOOR"});
+            if (random_.one_in(2) || (is_plain_ && kind.empty())) {
+                kind = is_plain_ ? random_.any_of({"JOINT", "MEMBER", "FLOOR"})
+                                 : random_.any_of({"JOINT", "MEMBER", "ELEMENT", "GEOMETRY", "FLOOR"});
                 out_.line(kind);
             }
-            if (random_.one_in(10))
+            if (odd_one_in(10))
                 out_.line(random_.any_of({"JOINT ", "_LONELY", " FLOOR"})); // one word: no group, no kind
-            const std::string name = "_G" + std::to_string(random_.between(1, 99));
-            const id_list list = random_list(random_, kind == "JOINT" ? joint_ids_ : member_ids_, list_kind::group);
+            const std::string name = "_G" + std::to_string(is_plain_ ? line : random_.between(1, 99));
+            const id_list list = list_from(kind == "JOINT" ? joint_ids_ : member_ids_, list_kind::group);
             model_.groups.push_back({kind, name, list.ids()});
             words line_words = together({name}, list.words);
-            if (random_.one_in(6))
+            if (odd_one_in(6))
                 line_words.insert(line_words.end(), {random_.any_of({"0", "ALL"}), "7"}); // ends the list
             out_.words(line_words);
         }
@@ -340,20 +389,22 @@ private:
         };
         std::vector<row> rows;
         for (int table = 1; table <= random_.between(1, 3); ++table) {
-            body.push_back(random_.any_of({"TABLE ", "TABLE  "}) + std::to_string(table));
+            body.push_back(random_.any_of({"TABLE ", is_plain_ ? "TABLE " : "TABLE  "}) + std::to_string(table));
             SdUserSectionTable& record = model_.usr_tables[table];
             record.unit = "00UNIT METER KN";
             record.type = "00WIDE FLANGE";
-            if (!random_.one_in(4)) {
-                record.unit = random_.any_of({"UNIT METER KN", "UNIT INCHES KIP"});
+            if (!odd_one_in(4)) {
+                record.unit = random_.any_of({"UNIT METER KN", is_plain_ ? "UNIT METER KN" : "UNIT INCHES KIP"});
                 record.type = random_.any_of({"WIDE FLANGE", "CHANNEL", "TUBE", "ISECTION", "GENERAL"});
                 body.insert(body.end(), {record.unit, record.type});
             }
             for (int count = random_.between(1, 4); count > 0; --count) {
                 rows.push_back({table, body.size()});
-                body.push_back("H" + std::to_string(random_.between(100, 120)) + "X200");
+                const int depth = is_plain_ ? 100 + static_cast<int>(rows.size()) : random_.between(100, 120);
+                body.push_back("H" + std::to_string(depth) + "X200");
                 rows.push_back({table, body.size()});
-                body.push_back(joined_by_blanks({spelled(random_decimal(random_, 0, 1)), "0.3", "0.012 ", "0.2"}));
+                body.push_back(joined_by_blanks(
+                    {spelled(random_decimal(random_, 0, 1)), "0.3", is_plain_ ? "0.012" : "0.012 ", "0.2"}));
             }
         }
         body.push_back("END");
@@ -375,7 +426,8 @@ private:
             // the first line that is no DENSITY line gives the density: what stands after its seventh column
             const decimal density = random_decimal(random_, 0, 30);
             model_.concrete_density = density.value();
-            out_.line(random_.any_of({"ISOTROPIC CONCRETE", "  ISOTROPIC CONCRETE C30"}));
+            out_.line(
+                random_.any_of({"ISOTROPIC CONCRETE", is_plain_ ? "ISOTROPIC CONCRETE" : "  ISOTROPIC CONCRETE C30"}));
             if (random_.one_in(2))
                 out_.line("DENSITY 24.5");
             out_.line(random_.any_of({"POISSON ", "E      ", "ALPHA  "}) + spelled(density));
@@ -388,8 +440,14 @@ private:
     void write_described(std::map<std::string, std::vector<unsigned>>& target, const std::vector<int>& pool,
                          std::initializer_list<const char*> descriptions)
     {
-        for (int line = random_.between(1, 6); line > 0; --line) {
-            const id_list list = random_list(random_, pool, list_kind::general);
+        std::vector<int> numbers = pool;
+        std::sort(numbers.begin(), numbers.end());
+        const std::size_t lines = std::min<std::size_t>(static_cast<std::size_t>(random_.between(1, 6)), pool.size());
+        for (std::size_t line = 0; line < lines; ++line) {
+            // in a plain deck each record once: of two descriptions the host reading keeps both
+            const id_list list =
+                is_plain_ ? plain_list(numbers, numbers.size() * line / lines, numbers.size() * (line + 1) / lines)
+                          : random_list(random_, pool, list_kind::general);
             const std::string description = random_.any_of(descriptions);
             std::vector<unsigned>& ids = target[description];
             for (const int number : list.ids())
@@ -402,6 +460,11 @@ private:
     void write_supports()
     {
         out_.line("SUPPORTS");
+        if (is_plain_) {
+            write_described(model_.supports, joint_ids_,
+                            {"FIXED", "PINNED", "FIXED BUT MX MZ", "FIXED BUT KFX 100", "FIXED BUT MY KMZ 12.50"});
+            return;
+        }
         write_described(model_.supports, joint_ids_,
                         {"FIXED", "PINNED", "FIXED BUT MX MZ", "FIXED BUT KFX 100 TO 7", "", "0 FIXED"});
     }
@@ -409,6 +472,11 @@ private:
     void write_releases()
     {
         out_.line("MEMBER RELEASE");
+        if (is_plain_) {
+            write_described(model_.releases, member_ids_,
+                            {"START MY MZ", "END MY MZ", "START MX", "END MP 0.5", "START KMZ 20"});
+            return;
+        }
         write_described(model_.releases, member_ids_,
                         {"START MY MZ", "END MY MZ", "START MX", "BOTH STARTING 2", "END MP 0.5"});
     }
@@ -421,7 +489,7 @@ private:
             const decimal x = random_decimal(random_, -2, 2);
             const decimal y = random_decimal(random_, -2, 2);
             const decimal z = random_decimal(random_, -2, 2);
-            const id_list list = random_list(random_, member_ids_, list_kind::general);
+            const id_list list = list_from(member_ids_, list_kind::general);
             for_each_member(list, [&](SdBeam& member) {
                 (at_start ? member.offset_start : member.offset_end) = {length(z), length(x), length(y)};
             });
@@ -443,7 +511,7 @@ private:
     {
         for (int count = random_.between(1, 3); count > 0; --count) {
             out_.line(random_.any_of({"MEMBER TRUSS", "MEMBER TENSION", "MEMBER COMPRESSION"}));
-            const id_list list = random_list(random_, member_ids_, list_kind::general);
+            const id_list list = list_from(member_ids_, list_kind::general);
             for (const int number : list.ids())
                 model_.brace_ids.insert(number);
             out_.words(list.words);
@@ -458,13 +526,13 @@ private:
         for (int count = property_blocks; count > 0; --count)
             write_properties();
         // without CONSTANTS the property lines run on to the end of the file, over nothing that looks like one
-        if (random_.one_in(2))
+        if (is_plain_ || random_.one_in(2))
             out_.line("CONSTANTS");
         for (int line = random_.between(0, 4); line > 0; --line)
             write_beta();
         for (int line = random_.between(0, 4); line > 0; --line)
             write_material();
-        out_.noise();
+        add_noise();
     }
 
     void write_properties()
@@ -473,8 +541,9 @@ private:
         out_.line("MEMBER PROPERTY" + random_.any_of({std::string(" "), std::string("   ")}) + code +
                   random_.any_of({"", "  "}));
         for (int line = random_.between(0, 8); line > 0; --line) {
-            const written_section section = random_section(random_, units_.length_factor);
-            const id_list list = random_list(random_, member_ids_, list_kind::general);
+            const written_section section =
+                is_plain_ ? plain_section(random_) : random_section(random_, units_.length_factor);
+            const id_list list = list_from(member_ids_, list_kind::general);
             for_each_member(list, [&](SdBeam& member) {
                 member.material = "STEEL";
                 member.sect_country = code;
@@ -482,7 +551,7 @@ private:
                 member.sect_text = section.normalised;
             });
             out_.words_then(list.words, section.written);
-            if (random_.one_in(6))
+            if (odd_one_in(6))
                 out_.line(random_.any_of({"1 PRIS YD", "ALL PRIS YD 0.5", "1 2 YD 0.5"})); // no property lines
             if (random_.one_in(6))
                 out_.comment();
@@ -492,14 +561,14 @@ private:
     void write_beta()
     {
         const decimal angle = random_decimal(random_, -180, 180);
-        if (random_.one_in(6)) {
+        if (odd_one_in(6)) {
             out_.words({"BETA", spelled(angle), "ALL"}); // names no member
             return;
         }
-        const id_list list = random_list(random_, member_ids_, list_kind::general);
+        const id_list list = list_from(member_ids_, list_kind::general);
         for_each_member(list, [&](SdBeam& member) { member.beta = angle.value(); });
         words line = together({"BETA", spelled(angle), "MEMB"}, list.words);
-        if (random_.one_in(5))
+        if (odd_one_in(5))
             line.insert(line.end(), {random_.any_of({"0", "ALL", "to"}), "1"}); // ends the list
         out_.words(line);
     }
@@ -517,7 +586,7 @@ private:
             return;
         }
         const bool of_elements = !shell_ids_.empty() && random_.one_in(2);
-        const id_list list = random_list(random_, of_elements ? shell_ids_ : member_ids_, list_kind::whole_ranges);
+        const id_list list = list_from(of_elements ? shell_ids_ : member_ids_, list_kind::whole_ranges);
         for (const id_piece& piece : list.pieces) {
             for (int number = piece.first; number <= piece.last; ++number)
                 assign_material(name, number, !piece.is_range);
@@ -543,11 +612,11 @@ private:
         const int cases = random_.one_in(4) ? 0 : random_.between(1, 6);
         for (int count = cases; count > 0; --count)
             write_load_case();
-        if (random_.one_in(2)) {
+        if (odd_one_in(2)) {
             out_.line("LOAD COMB 77 ALL OF THEM TOGETHER");
             out_.line("MEMBER LOAD");
             out_.line("1 UNI GY -1"); // after the first combination nothing is read
-        } else if (cases > 0 && random_.one_in(2)) {
+        } else if (cases > 0 && odd_one_in(2)) {
             out_.line(std::to_string(member_ids_.front()) + " UNI GY -1"); // nor is the last line of a file
             return;
         }
@@ -560,13 +629,16 @@ private:
         for (int count = random_.between(0, 3); count > 0; --count) {
             if (random_.one_in(8))
                 write_selfweight();
-            if (!random_.one_in(6)) {
+            if (is_plain_) {
+                load_block_ = random_.any_of({"MEMBER LOAD", "MEMBER LOAD", "JOINT LOAD", "AREA LOAD", "FLOOR LOAD"});
+                out_.line(load_block_);
+            } else if (!random_.one_in(6)) {
                 load_block_ = random_.any_of({"MEMBER LOAD", "MEMBER LOAD", "JOINT LOAD", "JOINT LOAD", "AREA LOAD",
                                               "FLOOR LOAD", "ELEMENT LOAD", "JOINT LOAD "});
                 out_.line(load_block_);
             }
             for (int line = random_.between(0, 5); line > 0; --line) {
-                out_.noise();
+                add_noise();
                 write_load_line();
             }
         }
@@ -575,15 +647,15 @@ private:
     void write_load_header()
     {
         LoadCase header;
-        header.id = random_.between(1, 12);
+        header.id = is_plain_ ? static_cast<int>(model_.load_cases.size()) + 1 : random_.between(1, 12);
         words line{"LOAD", std::to_string(header.id)};
         if (random_.one_in(4)) {
             // fewer than six words: no texts, and a second word that is no number opens case 0
-            if (random_.one_in(4)) {
+            if (odd_one_in(4)) {
                 header.id = 0;
                 line.back() = random_.any_of({"LIST", "R1"});
             }
-            for (int count = random_.between(0, 3); count > 0; --count)
+            for (int count = is_plain_ ? 0 : random_.between(0, 3); count > 0; --count)
                 line.push_back(random_.any_of({"LOADTYPE", "Dead", "TITLE"}));
         } else if (random_.one_in(4)) {
             line.insert(line.end(), {"DEAD", "LOAD", "FROM", "SLAB"});
@@ -610,10 +682,12 @@ private:
 
     void write_selfweight()
     {
-        const written_load load = random_selfweight(random_);
+        written_load load = random_selfweight(random_);
+        while (is_plain_ && load.words[1] == "ALL")
+            load = random_selfweight(random_);
         const int number = add_definition(joined_by_blanks(load.words), load);
         if (random_.one_in(2)) {
-            const id_list list = random_list(random_, member_ids_, list_kind::general);
+            const id_list list = list_from(member_ids_, list_kind::general);
             for_each_member(list, [number](SdBeam& member) { member.int_list.push_back(number); });
             out_.words(together(together(load.words, {"LIST"}), list.words));
         } else {
@@ -624,16 +698,17 @@ private:
     void write_load_line()
     {
         const bool on_joints = load_block_ == "JOINT LOAD";
-        const id_list list = random_list(random_, on_joints ? joint_ids_ : member_ids_, list_kind::general);
-        if (random_.one_in(12)) {
+        const id_list list = list_from(on_joints ? joint_ids_ : member_ids_, list_kind::general);
+        if (odd_one_in(12)) {
             out_.words(together(list.words, {"FY"})); // one word after the list: nothing is stored
             return;
         }
-        if (random_.one_in(12)) {
+        if (odd_one_in(12)) {
             out_.words(together(list.words, {"UNI", "GY", "-5;"})); // lines with ";" are passed over
             return;
         }
-        const written_load load = random_load(random_, load_block_, units_);
+        const written_load load =
+            is_plain_ ? plain_load(random_, load_block_) : random_load(random_, load_block_, units_);
         std::string text = load_block_;
         for (const std::string& word : load.words)
             text += ' ' + word;
@@ -653,6 +728,8 @@ private:
     text_layout out_;
     unit_line units_;
     int members_;
+    bool is_plain_;
+    int plain_numbers_ = 0;
     SdReader model_;
     std::vector<int> joint_ids_;
     std::vector<int> member_ids_;
@@ -669,9 +746,9 @@ private:
 
 } // namespace
 
-random_deck make_random_deck(std::uint64_t seed, int members)
+random_deck make_random_deck(std::uint64_t seed, int members, deck_kind kind)
 {
-    return deck_maker(seed, members).make();
+    return deck_maker(seed, members, kind).make();
 }
 
 } // namespace STAAD::decks

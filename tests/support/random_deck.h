@@ -14,9 +14,14 @@ struct random_deck {
     std::string text;
 };
 
+enum class deck_kind {
+    any,   ///< with odd lines, words and numbers that the host reading has a rule for
+    plain, ///< METER KN, and lines that mean for the analysis program what they mean for the host reading
+};
+
 /// A deck of `members` members with a random choice of blocks, the same for the same arguments. Every
 /// record is decided first and entered in the model, then laid out as text.
-random_deck make_random_deck(std::uint64_t seed, int members);
+random_deck make_random_deck(std::uint64_t seed, int members, deck_kind kind = deck_kind::any);
 
 } // namespace STAAD::decks
 

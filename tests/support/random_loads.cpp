@@ -115,6 +115,43 @@ written_load random_load(chance& random, const std::string& block, const unit_li
     return {{"PR", "GY", value.spelled(random)}, "", "", {}}; // not understood
 }
 
+written_load plain_load(chance& random, const std::string& block)
+{
+    const unit_line metres{"UNIT METER KN", 1000.0};
+    const auto with_numbers = [&](written_load load, std::size_t count) {
+        while (load.values.size() < count) {
+            const decimal value = random_decimal(random, -30, 30);
+            load.words.push_back(value.spelled(random));
+            load.values.push_back(
+                in_model_units(load.words[0], static_cast<int>(load.values.size()), value.value(), metres));
+        }
+        return load;
+    };
+    if (block == "MEMBER LOAD") {
+        const std::string type = random.any_of({"UNI", "UMOM", "CON", "CMOM", "LIN", "TRAP"});
+        const std::string direction = random.any_of({"GY", "GX", "GZ", "X", "Y", "Z", "PY"});
+        const std::size_t fewest = type == "LIN" || type == "TRAP" ? 2 : 1;
+        const std::size_t added = type == "LIN" ? 0 : static_cast<std::size_t>(random.between(0, 1)) * 2;
+        return with_numbers({{type, direction}, "MEMBER LOAD " + type, turned(direction), {}}, fewest + added);
+    }
+    if (block == "JOINT LOAD") {
+        written_load load{{}, "JOINT LOAD", "Z", std::vector<double>(6)};
+        const std::vector<std::string> names{"FZ", "FX", "FY", "MZ", "MX", "MY"}; // by the model's axes
+        for (std::size_t slot = 0; slot < 6; ++slot) {
+            if (random.one_in(2) && (slot < 5 || !load.words.empty()))
+                continue;
+            const decimal value = random_decimal(random, 1, 90);
+            load.words.insert(load.words.end(), {names[slot], value.spelled(random)});
+            load.values[slot] = value.value() * (slot < 3 ? 1.0 : metres.length_factor);
+        }
+        return load;
+    }
+    const decimal value = random_decimal(random, -20, 20);
+    if (block == "AREA LOAD")
+        return {{"ALOAD", value.spelled(random)}, "AREA LOAD ALOAD", "Z", {value.value() / 1000.0 / 1000.0}};
+    return {{"FLOAD", value.spelled(random)}, block, "Z", {}};
+}
+
 written_load random_selfweight(chance& random)
 {
     const decimal factor = random_decimal(random, -2, 2);

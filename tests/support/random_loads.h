@@ -22,6 +22,9 @@ struct written_load {
 /// at least two.
 written_load random_load(chance& random, const std::string& block, const unit_line& units);
 
+/// The same in METER KN, with the words and values that a load of its kind has.
+written_load plain_load(chance& random, const std::string& block);
+
 /// SELFWEIGHT, its direction and its factor.
 written_load random_selfweight(chance& random);
 

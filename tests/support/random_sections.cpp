@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
+#include <initializer_list>
 
 namespace STAAD::decks {
 namespace {
@@ -76,6 +77,33 @@ written_section random_section(chance& random, double length_factor)
         return random_tapered(random, length_factor);
     default:
         return random_prismatic(random, length_factor);
+    }
+}
+
+written_section plain_section(chance& random)
+{
+    const auto with_values = [&](written_section section, std::initializer_list<const char*> names) {
+        for (const char* name : names) {
+            const decimal value = random_decimal(random, 0, 1);
+            section.written += (*name == '\0' ? "" : std::string(" ") + name) + ' ' + value.spelled(random);
+            section.normalised += dimension(value, 1000.0);
+        }
+        section.normalised.pop_back();
+        return section;
+    };
+    switch (random.between(0, 6)) {
+    case 0:
+        return as_it_stands(random.any_of({"TABLE ST HN400X200X8X13", "TABLE D C8 SP 0.5", "UPTABLE 1 H110X200"}));
+    case 1:
+        return random_pipe(random, 1000.0);
+    case 2:
+        return with_values({"TAPERED", "TAPERED"}, {"", "", "", "", ""});
+    case 3:
+        return with_values({"PRIS", "PRIS"}, {"YD"});
+    case 4:
+        return with_values({"PRIS", "PRIS"}, {"ZD", "YD"});
+    default:
+        return with_values({"PRIS", "PRIS"}, {"YD", "ZD", "YB", "ZB"});
     }
 }
 

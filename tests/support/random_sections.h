@@ -16,6 +16,9 @@ struct written_section {
 /// A TABLE, UPTABLE, PIPE, TAPERED or PRIS section; `length_factor`: mm per length unit of the deck.
 written_section random_section(chance& random, double length_factor);
 
+/// The same in metres, with all the values that its shape has and single blanks.
+written_section plain_section(chance& random);
+
 /// Toward zero. What the decks hold is far within the range of int.
 int truncated(double value);
 

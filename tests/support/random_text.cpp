@@ -131,8 +131,9 @@ id_list random_list(chance& random, const std::vector<int>& pool, list_kind kind
     return list;
 }
 
-text_layout::text_layout(chance& random)
-    : random_(random), line_end_(random.one_in(3) ? "\r\n" : "\n"), line_length_(random.between(15, 79))
+text_layout::text_layout(chance& random, bool is_plain)
+    : random_(random), is_plain_(is_plain), line_end_(random.one_in(3) ? "\r\n" : "\n"),
+      line_length_(random.between(15, 79))
 {
     if (random_.one_in(10))
         text_ += "\xEF\xBB\xBF";
@@ -156,7 +157,7 @@ void text_layout::words_then(const std::vector<std::string>& head, const std::st
     const auto add = [this, &line](const std::string& word) {
         const bool is_full = line.size() + 1 + word.size() + 2 > static_cast<std::size_t>(line_length_);
         if (!line.empty() && (is_full || random_.one_in(60))) {
-            end_line(line + random_.any_of({" -", "-", "  -"}));
+            end_line(line + random_.any_of({" -", is_plain_ ? " -" : "-", "  -"}));
             empty_lines();
             line = random_.one_in(5) ? gap() : "";
         } else if (!line.empty()) {
@@ -220,7 +221,7 @@ std::string text_layout::gap()
 
 void text_layout::empty_lines()
 {
-    while (random_.one_in(25))
+    while (!is_plain_ && random_.one_in(25))
         end_line(random_.any_of({"", "   ", "\t", " \t ", "*{ 1 2 3 4; -", "*{"}));
 }
 

@@ -86,7 +86,8 @@ id_list random_list(chance& random, const std::vector<int>& pool, list_kind kind
 /// generated data ("*{"), which mean nothing anywhere.
 class text_layout {
 public:
-    explicit text_layout(chance& random);
+    /// `is_plain`: no lines without meaning, and a blank before each mark of continuation.
+    explicit text_layout(chance& random, bool is_plain = false);
 
     /// A line as it stands.
     void line(const std::string& text);
@@ -109,6 +110,7 @@ private:
     void end_line(std::string text);
 
     chance& random_;
+    bool is_plain_;
     std::string text_;
     std::string line_end_;
     int line_length_;

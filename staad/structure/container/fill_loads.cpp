@@ -140,8 +140,8 @@ public:
         for (const Structure::LoadCase& each : structure_.load_cases) {
             LoadCase& header = context_.model.load_cases[each.number];
             header.id = each.number;
-            header.type_text = each.type;
-            header.title = each.title;
+            header.type_text = join_words(word_cursor(each.type));
+            header.title = join_words(word_cursor(each.title));
             add_loads(each);
         }
         for (const Structure::Combination& each : structure_.combinations)
