@@ -5,11 +5,18 @@
 #include "staad/structure/container.h"
 #include "tests/support/example_files.h"
 #include "tests/support/model_equal.h"
+#include "tests/support/random_deck.h"
+#include "tests/unit/structure/plain_differences.h"
 #include "tests/unit/structure/read_deck.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -84,6 +91,81 @@ TEST(ToReader, ExampleInFeetDiffersByUnitsAndShortHeader)
             others.push_back(each.substr(0, each.find(':')));
     EXPECT_EQ(converted, 18);
     EXPECT_EQ(others, (texts{"load_cases[3].title", "unit_text", "length_factor", "force_factor"}));
+}
+
+/// Why the two readings of a plain deck may differ in a field; empty: there is no reason.
+std::string cause_of(const std::string& difference)
+{
+    const auto has = [&](const char* text) { return difference.find(text) != std::string::npos; };
+    if ((has(".sect_text:") || has(".thickness:")) && is_rounding(difference))
+        return "mm not cut";
+    if (has("concrete_density:"))
+        return "density";
+    return has(".title: \"\" and \"DEAD LOAD FROM SLAB\"") ? "title of a short header" : "";
+}
+
+TEST(ToReader, PlainDecksDifferByNamedCausesAlone)
+{
+    std::map<std::string, int> causes;
+    for (std::uint64_t seed = 1; seed <= 150; ++seed) {
+        const decks::random_deck deck = decks::make_random_deck(seed, 8, decks::deck_kind::plain);
+        const SdReader host = host_model_of(deck.text);
+        SdReader container = container_of(deck.text);
+        causes["self weight on all"] += take_self_weights_on_all(host, container);
+        EXPECT_TRUE(container.concrete_density == 25.5 || host.concrete_density == container.concrete_density)
+            << seed; // of the last DENSITY line
+        for (const std::string& difference : model_differences(host, container)) {
+            EXPECT_NE(cause_of(difference), "") << "seed " << seed << ", " << difference;
+            ++causes[cause_of(difference)];
+        }
+    }
+    EXPECT_EQ(causes.size(), 4U);
+    for (const auto& [cause, count] : causes) {
+        EXPECT_GT(count, 0) << cause;
+        RecordProperty(cause, count);
+    }
+}
+
+TEST(ToReader, HoldsWhatTheHostReadingMisses)
+{
+    const struct {
+        const char* cause;
+        texts lines;
+        texts fields; ///< that differ, each once
+    } table[] = {
+        {"a list that the host reading does not know", {"CONSTANTS", "BETA 90 ALL", "FINISH"}, {"beams"}},
+        {"the later of two equal numbers, in the place of the earlier",
+         {"SURFACE INCIDENCE", "1 2 3 SURFACE 1", "2 3 4 SURFACE 1", "FINISH"},
+         {"shells", "surfaces", "surface_index"}},
+        {"a load on the last line",
+         {"LOAD 1 LOADTYPE Dead TITLE D", "MEMBER LOAD", "1 UNI GY -5"},
+         {"beams", "load_defs", "raw_load_defs"}},
+        {"a case after a combination",
+         {"LOAD 1 LOADTYPE Dead TITLE D", "LOAD COMB 2", "1 1", "LOAD 3 LOADTYPE Live TITLE L", "FINISH"},
+         {"load_cases"}},
+        {"LOAD LIST is no case 0", {"LOAD 1 LOADTYPE Dead TITLE D", "LOAD LIST 1", "FINISH"}, {"load_cases"}},
+        {"a sum of cases",
+         {"LOAD 1 LOADTYPE Dead TITLE D", "SELFWEIGHT Y -1 LIST 1", "LOAD 2 LOADTYPE Dead TITLE D", "REPEAT LOAD",
+          "1 2", "FINISH"},
+         {"beams", "load_defs", "raw_load_defs"}},
+        {"a definition that does not go in",
+         {"LOAD 1 LOADTYPE Dead TITLE D", "ELEMENT LOAD", "11 PR GY -1", "FINISH"},
+         {"load_defs", "raw_load_defs"}},
+    };
+    for (const auto& each : table) {
+        std::string text;
+        for (const char* line : frame_lines)
+            text += std::string(line) + "\n";
+        for (const std::string& line : each.lines)
+            text += line + "\n";
+        texts fields;
+        for (const std::string& difference : model_differences(host_model_of(text), container_of(text))) {
+            const std::string field = difference.substr(0, difference.find_first_of("[.:"));
+            if (std::find(fields.begin(), fields.end(), field) == fields.end())
+                fields.push_back(field);
+        }
+        EXPECT_EQ(fields, each.fields) << each.cause;
+    }
 }
 
 /// What stands in the container for lines after the frame: texts alone, "; " between.
@@ -313,9 +395,8 @@ TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
     for (const row& each : rows) {
         const deck_reading reading = read_in_frame(each.lines, each.set);
         ASSERT_TRUE(reading.is_given) << each.what;
-        EXPECT_TRUE(texts({"", "form-kept"}) == texts({"", warnings(reading.report)}) ||
-                    warnings(reading.report).empty())
-            << each.what << ": " << warnings(reading.report);
+        const std::string unread = warnings(reading.report);
+        EXPECT_TRUE(unread.empty() || unread == "form-kept") << each.what << ": " << unread;
         SdReader model;
         ReadReport report;
         to_reader(reading.structure, model, report);
