@@ -442,7 +442,9 @@ private:
     {
         std::vector<int> numbers = pool;
         std::sort(numbers.begin(), numbers.end());
-        const std::size_t lines = std::min<std::size_t>(static_cast<std::size_t>(random_.between(1, 6)), pool.size());
+        auto lines = static_cast<std::size_t>(random_.between(1, 6));
+        if (is_plain_)
+            lines = std::min(lines, pool.size());
         for (std::size_t line = 0; line < lines; ++line) {
             // in a plain deck each record once: of two descriptions the host reading keeps both
             const id_list list =

@@ -1,9 +1,13 @@
 // Joints, members, shells, surfaces, groups and their indexes.
 
 #include "staad/structure/container/filling.h"
+#include "staad/structure/local_axes.h"
+#include "staad/text/number_text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstddef>
+#include <numbers>
 #include <string>
 #include <utility>
 #include <vector>
@@ -34,9 +38,52 @@ SdOffset offset_of(const Vector3& offset) noexcept
     return {offset.x, offset.y, offset.z};
 }
 
+/// Beta angles of decks with Z up, where the axes of a vertical member begin elsewhere than in the container, whose
+/// convention is that of decks with Y up.
+class beta_of_z_up {
+public:
+    beta_of_z_up() { one_member_.joints.resize(2); }
+
+    /// What is to be added to beta so that the upright axis of a member is where the deck has it; degrees.
+    double added_for(const Structure& structure, Structure::Member member)
+    {
+        if (member.start < 0 || member.end < 0)
+            return 0.0;
+        member.beta = 0.0;
+        const Vector3 wanted = local_axes(structure, member).z;
+        one_member_.joints[0] = structure.joints[static_cast<std::size_t>(member.start)];
+        one_member_.joints[1] = structure.joints[static_cast<std::size_t>(member.end)];
+        member.start = 0;
+        member.end = 1;
+        const LocalAxes own = local_axes(one_member_, member);
+        const double angle = std::atan2(dot(wanted, own.z), dot(wanted, own.y)) * (180.0 / std::numbers::pi);
+        constexpr double near = 1e-9;
+        const double quarters = std::round(angle / 90.0) * 90.0;
+        return std::abs(angle - quarters) < near ? quarters : angle;
+    }
+
+private:
+    static double dot(const Vector3& a, const Vector3& b) noexcept { return a.x * b.x + a.y * b.y + a.z * b.z; }
+
+    Structure one_member_; // with Y up
+};
+
+void turn_beta(container_filling& context, const Structure::Member& member, double added, SdBeam& beam)
+{
+    if (added == 0.0)
+        return;
+    beam.beta = member.beta + added;
+    context.report_changed(member.source, [&] {
+        return "the axes of the vertical member " + std::to_string(member.number) + " are held by beta " +
+               format_real(beam.beta) + ": of decks with Y up they begin elsewhere";
+    });
+}
+
 void fill_members(container_filling& context)
 {
     SdReader& model = context.model;
+    const bool is_z_up = context.structure.head.up == Structure::UpAxis::z;
+    beta_of_z_up turning;
     model.beams.reserve(context.structure.members.size());
     for (const Structure::Member& member : context.structure.members) {
         SdBeam beam;
@@ -46,6 +93,8 @@ void fill_members(container_filling& context)
         beam.offset_start = offset_of(member.start_offset);
         beam.offset_end = offset_of(member.end_offset);
         beam.beta = member.beta;
+        if (is_z_up)
+            turn_beta(context, member, turning.added_for(context.structure, member), beam);
         model.beams.push_back(std::move(beam));
         model.beam_index[member.number] = static_cast<int>(model.beams.size());
         if (member.behaviour == Structure::Behaviour::cable)

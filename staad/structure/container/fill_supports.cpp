@@ -106,9 +106,24 @@ std::string with_upright_y(std::string_view text)
     return turned;
 }
 
-std::string text_of(const Structure::Release& release)
+/// Whether a description is of both ends of a member: "BOTH MZ", "START MY END MZ".
+bool is_of_both_ends(std::string_view text)
 {
-    if (!release.text.empty())
+    bool has_start = false;
+    bool has_end = false;
+    word_cursor words(text);
+    for (std::string_view word; words.next(word);) {
+        const std::string upper = to_upper_ascii(word);
+        has_start = has_start || starts_with(upper, "STA") || starts_with(upper, "BOT");
+        has_end = has_end || upper == "END" || starts_with(upper, "BOT");
+    }
+    return has_start && has_end;
+}
+
+/// `is_whole`: the words of the deck describe this end alone, or both ends as they are.
+std::string text_of(const Structure::Release& release, bool is_whole)
+{
+    if (is_whole)
         return description(release.text, [&](std::size_t degree) { return release.springs[degree]; });
     std::string text = release.is_end ? "END" : "START";
     for (std::size_t degree = 0; degree < 6; ++degree)
@@ -144,16 +159,21 @@ void fill_supports(container_filling& context)
 void fill_releases(container_filling& context)
 {
     const bool is_z_up = context.structure.head.up == Structure::UpAxis::z;
-    const Structure::Release* before = nullptr;
-    for (const Structure::Release& release : context.structure.releases) {
+    const auto& releases = context.structure.releases;
+    // One line may describe both ends of a member; a later one may have replaced one of them.
+    const auto are_one = [&](std::size_t first, std::size_t second) {
+        return second < releases.size() && releases[first].member == releases[second].member &&
+               releases[first].is_end != releases[second].is_end && releases[first].source == releases[second].source &&
+               releases[first].text == releases[second].text;
+    };
+    for (std::size_t i = 0; i < releases.size(); ++i) {
+        const Structure::Release& release = releases[i];
+        const bool is_pair = is_of_both_ends(release.text) && are_one(i, i + 1);
+        const bool is_whole = !release.text.empty() && (is_pair || !is_of_both_ends(release.text));
+        const std::string text = text_of(release, is_whole);
         const int number = context.structure.members[static_cast<std::size_t>(release.member)].number;
-        // One line may describe both ends of a member.
-        const bool is_same = before != nullptr && before->member == release.member && before->text == release.text &&
-                             before->source == release.source && !release.text.empty();
-        if (!is_same)
-            context.model.releases[is_z_up ? with_upright_y(text_of(release)) : text_of(release)].push_back(
-                static_cast<unsigned>(number));
-        before = &release;
+        context.model.releases[is_z_up ? with_upright_y(text) : text].push_back(static_cast<unsigned>(number));
+        i += is_pair ? 1 : 0;
     }
 }
 

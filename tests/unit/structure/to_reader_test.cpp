@@ -3,6 +3,7 @@
 
 #include "staad/model/sd_reader.h"
 #include "staad/structure/container.h"
+#include "staad/structure/local_axes.h"
 #include "tests/support/example_files.h"
 #include "tests/support/model_equal.h"
 #include "tests/support/random_deck.h"
@@ -168,6 +169,30 @@ TEST(ToReader, HoldsWhatTheHostReadingMisses)
     }
 }
 
+TEST(ToReader, KeepsAxesOfDecksWithZUp)
+{
+    // Level, up, down, leaning, and up with a beta angle: the container's y is the deck's z, its z the deck's y with
+    // the sign turned.
+    const deck_reading reading = read_text("STAAD SPACE\nSET Z UP\nUNIT METER KN\nJOINT COORDINATES\n"
+                                           "1 0 0 0; 2 5 2 0; 3 0 0 4; 4 1 2 6\nMEMBER INCIDENCES\n"
+                                           "1 1 2; 2 1 3; 3 3 1; 4 3 4; 5 1 3\nCONSTANTS\nBETA 30 MEMB 4 5\n");
+    ASSERT_EQ(reading.structure.members.size(), 5U);
+    SdReader model;
+    to_reader(reading.structure, model);
+    const Structure back = structure_of(model);
+    for (std::size_t i = 0; i < 5; ++i) {
+        const LocalAxes of_deck = local_axes(reading.structure, reading.structure.members[i]);
+        const LocalAxes held = local_axes(back, back.members[i]);
+        const double expected[] = {of_deck.z.x, of_deck.z.y, of_deck.z.z, -of_deck.y.x, -of_deck.y.y, -of_deck.y.z};
+        const double given[] = {held.y.x, held.y.y, held.y.z, held.z.x, held.z.y, held.z.z};
+        for (std::size_t k = 0; k < 6; ++k)
+            EXPECT_NEAR(given[k], expected[k], 1e-12) << "member " << i + 1 << ", " << k;
+    }
+    const std::vector<double> beta{0.0, -90.0, 90.0, 30.0, -60.0};
+    for (std::size_t i = 0; i < 5; ++i)
+        EXPECT_EQ(model.beams[i].beta, beta[i]) << "member " << i + 1;
+}
+
 /// What stands in the container for lines after the frame: texts alone, "; " between.
 struct row {
     const char* what;
@@ -240,6 +265,8 @@ std::string codes_of(const ReadReport& report)
 
 TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
 {
+    // After SET Z UP members 4 and 5 of the frame stand upright: their beta changes.
+    constexpr const char* two_columns = "changed-in-container changed-in-container";
     const row rows[] = {
         // Supports and releases.
         {"words without numbers stay", "", {"SUPPORTS", "1 4 FIXED BUT MX MZ"}, "S FIXED BUT MX MZ: 1 4", ""},
@@ -259,6 +286,16 @@ TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
          "R START MP 0.5: 1",
          ""},
         {"one line for both ends is one text", "", {"MEMBER RELEASE", "1 2 BOTH MY MZ"}, "R BOTH MY MZ: 1 2", ""},
+        {"of both ends one is replaced by a later line",
+         "",
+         {"MEMBER RELEASE", "1 BOTH MY", "1 END MZ"},
+         "R END MZ: 1; R START MY: 1",
+         ""},
+        {"letters of Z up: the upright axis z is the container's y",
+         "SET Z UP",
+         {"MEMBER RELEASE", "2 START MZ KFY 5"},
+         "R START MY KFZ 5: 2",
+         two_columns},
         {"springs of releases, 5 N/mm",
          "",
          {"UNIT MMS NEWTON", "MEMBER RELEASE", "1 START KFX 5"},
@@ -268,7 +305,7 @@ TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
          "SET Z UP",
          {"SUPPORTS", "1 FIXED BUT FY MX MY MZ"},
          "S FIXED BUT FX MX MY MZ: 1",
-         ""},
+         two_columns},
         {"kept as it is written",
          "",
          {"SUPPORTS", "1 INCLINED 1 0 0 PINNED"},
@@ -358,22 +395,22 @@ TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
          "SET Z UP",
          {"LOAD 1", "MEMBER LOAD", "1 UNI Z -5"},
          "1 MEMBER LOAD UNI Y -5 | Z -0.005: 1",
-         ""},
+         two_columns},
         {"Z up: local y is level, the container's X with the sign turned",
          "SET Z UP",
          {"LOAD 1", "MEMBER LOAD", "1 UNI Y -5"},
          "1 MEMBER LOAD UNI Z 5 | X 0.005: 1",
-         ""},
+         two_columns},
         {"Z up: global Z is the container's, GY in texts",
          "SET Z UP",
          {"LOAD 1", "MEMBER LOAD", "1 UNI GZ -5"},
          "1 MEMBER LOAD UNI GY -5 | GZ -0.005: 1",
-         ""},
+         two_columns},
         {"Z up: FX is FZ in texts, x of the model",
          "SET Z UP",
          {"LOAD 1", "JOINT LOAD", "1 FX 3"},
          "1 JOINT LOAD FZ 3 | Z 3 0 0 0 0 0: 1",
-         ""},
+         two_columns},
         {"self weight without a list", "", {"LOAD 1", "SELFWEIGHT Y -1"}, "1 SELFWEIGHT Y -1 | Z -1: 1 2 3 4 5 6", ""},
         {"area and floor loads by list",
          "",
