@@ -18,6 +18,8 @@ class SdReader;
 /// Loads:    on joints, members, areas, self weight, floor loads with a list of members; a sum of cases becomes the
 ///           loads that it comes to. Local letters are turned like global ones; of a deck with Z up the upright local
 ///           axis is the container's Z, the level one its X with the sign turned.
+/// Axes:     of a deck with Z up, beta of vertical members, whose axes begin elsewhere in the container, is turned by a
+///           quarter.
 /// Replaces: everything that a reading replaces. `wl_param`, `eq_param` and `old_proj_maps` stay.
 /// Reports:  what the container has no place for ("not-in-container"), and what it holds in another form
 ///           ("changed-in-container"), by record. The report is emptied first.

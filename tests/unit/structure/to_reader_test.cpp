@@ -169,6 +169,23 @@ TEST(ToReader, HoldsWhatTheHostReadingMisses)
     }
 }
 
+TEST(ToReader, ReplacesWhatAReadingReplaces)
+{
+    SdReader model = host_model_of(examples::content("steel-portal.std"));
+    model.beam_forces[1] = {};
+    model.wl_param.soil_type = "B";
+    model.eq_param.point_number = 7;
+    model.old_proj_maps.members_new_to_old[3] = 4;
+    const Structure structure = read_text(examples::content("concrete-frame.std")).structure;
+    SdReader expected;
+    to_reader(structure, expected);
+    expected.wl_param.soil_type = "B";
+    expected.eq_param.point_number = 7;
+    expected.old_proj_maps.members_new_to_old[3] = 4;
+    to_reader(structure, model);
+    EXPECT_EQ(model_differences(model, expected), texts{});
+}
+
 TEST(ToReader, KeepsAxesOfDecksWithZUp)
 {
     // Level, up, down, leaning, and up with a beta angle: the container's y is the deck's z, its z the deck's y with
@@ -426,6 +443,24 @@ TEST(ToReader, HoldsTextsInMetresAndKilonewtons)
          "",
          {"LOAD 1", "ELEMENT LOAD", "11 PR GY -1", "TEMPERATURE LOAD", "1 TEMP 20", "FLOOR LOAD", "YRANGE 0 9 FLOAD -1",
           "LOAD COMB 2", "1 1.5"},
+         "",
+         "not-in-container not-in-container not-in-container not-in-container"},
+        {"a floor by its group",
+         "",
+         {"START GROUP DEFINITION", "FLOOR", "_SLAB 1 TO 3", "END GROUP DEFINITION", "LOAD 1", "FLOOR LOAD",
+          "_SLAB FLOAD -2 GY"},
+         "",
+         "not-in-container"},
+        {"the load of a reference case that a sum comes to has no place, those of members have",
+         "",
+         {"DEFINE REFERENCE LOADS", "LOAD R1", "ELEMENT LOAD", "11 PR GY -1", "MEMBER LOAD", "1 UNI GY -2",
+          "END DEFINE REFERENCE LOADS", "LOAD 1", "REFERENCE LOAD", "R1 0.5"},
+         "1 MEMBER LOAD UNI GY -1 | GZ -0.001: 1",
+         "not-in-container"},
+        {"cables, cracked sections, springs under elements, constants",
+         "",
+         {"MEMBER CABLE", "1", "MEMBER CRACKED", "2 REDUCTION RIZ 0.5", "DEFINE MATERIAL START", "ISOTROPIC A", "E 2e8",
+          "END DEFINE MATERIAL", "SUPPORTS", "11 PLATE MAT DIRECT Y SUBGRADE 1000"},
          "",
          "not-in-container not-in-container not-in-container not-in-container"},
     };
