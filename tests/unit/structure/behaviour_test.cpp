@@ -18,7 +18,7 @@ struct behaviour_row {
     const char* why;
 };
 
-const behaviour_row rows[] = {
+const behaviour_row behaviour_rows[] = {
     {"truss", {"MEMBER TRUSS", "1 TO 2", "5"}, "TTNNTN", "", "any number of lines"},
     {"truss", {"MEMB TRUS ", "1; 3"}, "TNTNNN", "", "short words, items"},
     {"truss",
@@ -38,7 +38,7 @@ const behaviour_row rows[] = {
 
 TEST(Behaviour, OfMembers)
 {
-    for (const behaviour_row& row : rows) {
+    for (const behaviour_row& row : behaviour_rows) {
         SCOPED_TRACE(row.lines.back() + ": " + row.why);
         const auto read = test::read_in_frame(row.lines);
         std::string kinds;

@@ -27,7 +27,7 @@ std::string text_of(const Structure::Group& group)
     return text;
 }
 
-const group_row rows[] = {
+const group_row groups_rows[] = {
     {"group-definition", {"MEMBER", "_A 3 1 TO 2"}, "_A members: 3 1 2", "", "numbers in the order of the text"},
     {"group-definition", {"MEMBER", "_A 1 TO 2 TO 5 BY 2"}, "_A members: 1 2 3 5", "", "1 to 2, then 3 to 5 by 2"},
     {"group-definition", {"_A 1"}, "", "line-unread", "before any kind"},
@@ -51,7 +51,7 @@ const group_row rows[] = {
 
 TEST(Groups, HaveNameKindAndNumbers)
 {
-    for (const group_row& row : rows) {
+    for (const group_row& row : groups_rows) {
         SCOPED_TRACE(row.lines.back() + ": " + row.why);
         std::vector<std::string> lines{"START GROUP DEFINITION"};
         lines.insert(lines.end(), row.lines.begin(), row.lines.end());

@@ -21,7 +21,7 @@ struct offset_row {
     const char* why;
 };
 
-const offset_row rows[] = {
+const offset_row offsets_rows[] = {
     {"offset", {"1 START 1 2 3"}, "", 0, {3000, 1000, 2000}, {}, "", "file X Y Z are model y z x"},
     {"offset", {"1 END 1 2 3"}, "SET Z UP", 0, {}, {1000, 2000, 3000}, "", "file X Y Z are model x y z"},
     {"offset", {"1 START 0 1 0 END 0 -1 0"}, "", 0, {0, 0, 1000}, {0, 0, -1000}, "", "both ends on a line"},
@@ -65,7 +65,7 @@ void expect_near(const Vector3& found, const Vector3& expected)
 
 TEST(Offsets, OfMemberEnds)
 {
-    for (const offset_row& row : rows) {
+    for (const offset_row& row : offsets_rows) {
         SCOPED_TRACE((row.lines.empty() ? std::string() : row.lines.back()) + ": " + row.why);
         std::vector<std::string> lines{"MEMBER OFFSET"};
         lines.insert(lines.end(), row.lines.begin(), row.lines.end());

@@ -34,7 +34,7 @@ std::string text_of(const Structure::Release& release)
     return text;
 }
 
-const release_row rows[] = {
+const release_row releases_rows[] = {
     {"release", {"1 START MY MZ"}, "0 start: MY MZ", "", "one end"},
     {"release", {"1 START MX END MZ FX"}, "0 start: MX | 0 end: FX MZ", "", "both ends on a line"},
     {"release", {"3 1 END MZ", "1 START FX"}, "2 end: MZ | 0 end: MZ | 0 start: FX", "", "an end keeps its own line"},
@@ -57,7 +57,7 @@ const release_row rows[] = {
 
 TEST(Releases, OfMemberEnds)
 {
-    for (const release_row& row : rows) {
+    for (const release_row& row : releases_rows) {
         SCOPED_TRACE(row.lines.back() + ": " + row.why);
         std::vector<std::string> lines{"MEMBER RELEASE"};
         lines.insert(lines.end(), row.lines.begin(), row.lines.end());

@@ -43,7 +43,7 @@ std::string text_of(const std::vector<Structure::Support>& supports)
     return text;
 }
 
-const support_row rows[] = {
+const support_row supports_rows[] = {
     {"fixed", {"1 4 FIXED"}, "", "0: x y z xx yy zz | 3: x y z xx yy zz", "", "all six, positions for numbers"},
     {"fixed", {"4 fixed", "1 Fixed;"}, "", "3: x y z xx yy zz | 0: x y z xx yy zz", "", "in the order of the text"},
     {"fixed", {"1 FIXTURE WALL"}, "", "0: x y z xx yy zz", "line-unread", "words left over are reported"},
@@ -91,7 +91,7 @@ const support_row rows[] = {
 
 TEST(Supports, OfJoints)
 {
-    for (const support_row& row : rows) {
+    for (const support_row& row : supports_rows) {
         SCOPED_TRACE(row.lines.back() + ": " + row.why);
         std::vector<std::string> lines{"SUPPORTS"};
         lines.insert(lines.end(), row.lines.begin(), row.lines.end());

@@ -22,7 +22,7 @@ struct thickness_row {
     const char* why;
 };
 
-const thickness_row rows[] = {
+const thickness_row thickness_rows[] = {
     {"thickness", {"11 THICKNESS 0.2"}, {200, 200, 200, 200}, {}, "", "one for all corners"},
     {"thickness", {"11 12 th .25"}, {250, 250, 250, 250}, {250, 250, 250, 0}, "", "a triangle has three corners"},
     {"thickness", {"ALL THICK 1", "12 THICK 2"}, {1000, 1000, 1000, 1000}, {2000, 2000, 2000, 0}, "", "the later"},
@@ -41,7 +41,7 @@ const thickness_row rows[] = {
 
 TEST(Thickness, OfElements)
 {
-    for (const thickness_row& row : rows) {
+    for (const thickness_row& row : thickness_rows) {
         SCOPED_TRACE(row.lines.back() + ": " + row.why);
         std::vector<std::string> lines{"ELEMENT PROPERTY"};
         lines.insert(lines.end(), row.lines.begin(), row.lines.end());
