@@ -340,14 +340,16 @@ def draw(tree, seed, count):
     return mutants
 
 
-def run(tree, mutants, drawn_from):
-    """Makes each change in the tree and reports what became of it. `drawn_from`: the sources of another tree in which
-    the changes were drawn; None if it was this one."""
+def run(tree, mutants, only, drawn_from):
+    """Makes each change in the tree, or `only` those of some positions, and reports what became of it. `drawn_from`:
+    the sources of another tree in which the changes were drawn; None if it was this one."""
     tree.configure()
     tree.check_suite()
     sources = tree.sources()
     caught, survivors, lacking = 0, [], []
     for index, drawn in enumerate(mutants, 1):
+        if only and index not in only:
+            continue
         began = time.monotonic()
         mutant = tree.found_here(drawn, drawn_from[drawn.path], sources) if drawn_from else drawn
         kind = tree.with_change(mutant, tree.kind) if mutant and drawn_from else "new"
@@ -372,6 +374,7 @@ def main():
     parser.add_argument("count", type=int)
     parser.add_argument("--list", action="store_true", help="only print the changes")
     parser.add_argument("--at", metavar="COMMIT", help="make the same changes in that commit's tree")
+    parser.add_argument("--only", metavar="N,N...", help="of the changes, those at these positions")
     parser.add_argument("--at-least", metavar="N", type=int, default=0, help="end with 1 if fewer are caught")
     options = parser.parse_args()
     os.nice(10)
@@ -390,7 +393,8 @@ def main():
         name = commit.stdout.decode().strip()
         tree = Tree(FOLDER / name)
         tree.copy_commit(name)
-    if run(tree, mutants, drawn_from) < options.at_least:
+    only = {int(position) for position in options.only.split(",")} if options.only else set()
+    if run(tree, mutants, only, drawn_from) < options.at_least:
         sys.exit(1)
 
 
