@@ -53,6 +53,10 @@ TOKEN = re.compile(
 # A call that is a line and a statement: "names.push_back(name);", but no declaration.
 CALL = re.compile(r"^[ \t]+(?P<call>(?!return\b|if\b|while\b|for\b|switch\b)[\w:.\[\]>*-]+\((?:.*\))?[^;{}]*\);)$", re.M)
 
+# "[       OK ] Suite.Name/0 (1234 ms)" in what a program prints.
+PASSED = re.compile(r"^\[       OK \] (\S+?),? .*\((\d+) ms\)$", re.M)
+SLOW = 200  # ms: such tests come last
+
 # "TEST_P(suite, " in a test file.
 TEST = re.compile(r"^(?:TYPED_)?TEST(?:_F|_P)?\((\w+),", re.M)
 
@@ -123,6 +127,7 @@ class Tree:
         self.objects = {}
         self.object_times = {}
         self.limits = {}
+        self.slow = {}
 
     def copy_working_tree(self):
         names = subprocess.run(["git", "ls-files", "-coz", "--exclude-standard"], check=True, capture_output=True)
@@ -188,18 +193,29 @@ class Tree:
         return [(name, portions) for name, portions in PROGRAMS if (self.build / "tests" / name).parent.exists()]
 
     def check_suite(self):
-        """The suite without a change: all of it must pass; sets how long a program may take."""
+        """The suite without a change: all of it must pass; sets how long a program may take and which tests are slow.
+        Kept for the next time, as it takes minutes."""
+        paths = sorted(path for room in ("staad", "tools", "tests") for path in (self.folder / room).rglob("*.*"))
+        memory = self.folder / "build/suite.json"
+        known = json.loads(memory.read_text()) if memory.exists() else {}
+        known_as = digest([(str(path), path.read_text(errors="replace")) for path in paths if path.is_file()])
+        if known.get("tree") == known_as:
+            self.limits, self.slow = known["limits"], known["slow"]
+            return
         for name, portions in self.programs():
             print(f"building and running {name} without a change", file=sys.stderr, flush=True)
             if not self.ninja(Path(name).name):
                 sys.exit(f"mutants: cannot build {name}, see {self.folder}/build/build.log")
             began = processor_time_of_programs()
-            failure = self.failure(name, portions, 3600)
+            failure = self.failure(name, portions, 3600, brief=0)
             if failure:
                 sys.exit(f"mutants: {name} fails without any change ({failure}), see {self.folder}/build/test.log")
-            self.limits[name] = 20 + 2 * (processor_time_of_programs() - began)  # and that for each portion
+            self.limits[name] = 20 + 4 * (processor_time_of_programs() - began) / portions
+            times = PASSED.findall((self.folder / "build/test.log").read_text(errors="replace"))
+            self.slow[name] = ":".join(sorted(test for test, time in times if int(time) >= SLOW))
+        memory.write_text(json.dumps({"tree": known_as, "limits": self.limits, "slow": self.slow}))
 
-    def failure(self, name, portions, limit, tests="*"):
+    def failure(self, name, portions, limit, tests="*", brief=1):
         """Runs a program in portions, side by side, until one fails or takes more processor time than `limit`, so that
         a busy machine fails nothing. A program that waits without end is given ten times as long. The first test that
         failed, or what became of the program; empty if all pass."""
@@ -210,7 +226,7 @@ class Tree:
         with open(self.folder / "build/test.log", "w") as log:
             while failed is None and (waiting or running):
                 while waiting and len(running) < JOBS:
-                    running.append(self.start(name, waiting.pop(0), portions, limit, tests, log))
+                    running.append(self.start(name, waiting.pop(0), portions, limit, [f"--gtest_filter={tests}", f"--gtest_brief={brief}"], log))
                 time.sleep(0.02)
                 for process in [process for process in running if process.poll() is not None]:
                     running.remove(process)
@@ -224,17 +240,17 @@ class Tree:
         found = re.search(r"^\[  FAILED  \] ([\w/]+\.[\w/]+)", Path(log.name).read_text(errors="replace"), re.M)
         return found[1] if found else signal.Signals(-failed).name if failed < 0 else f"end with {failed}"
 
-    def start(self, name, portion, portions, limit, tests, log):
+    def start(self, name, portion, portions, limit, options, log):
         def bound():  # a loop without end is not to take the machine's memory
             resource.setrlimit(resource.RLIMIT_AS, (4 << 30, 4 << 30))
-            resource.setrlimit(resource.RLIMIT_CPU, (int(limit), int(limit)))
+            resource.setrlimit(resource.RLIMIT_CPU, (int(limit), int(limit) + 5))
 
         environment = dict(os.environ, GTEST_TOTAL_SHARDS=str(portions), GTEST_SHARD_INDEX=str(portion))
         environment.pop("STAADKIT_REAL_FILES", None)
         program = self.build / "tests" / name
         return subprocess.Popen(
-            [program, "--gtest_brief=1", "--gtest_fail_fast", f"--gtest_filter={tests}"], cwd=program.parent,
-            stdin=subprocess.DEVNULL, stdout=log, stderr=log, env=environment, start_new_session=True, preexec_fn=bound,
+            [program, "--gtest_fail_fast", *options], cwd=program.parent, stdin=subprocess.DEVNULL,
+            stdout=log, stderr=log, env=environment, start_new_session=True, preexec_fn=bound,
         )  # fmt: skip
 
     def tests_of(self, path):
@@ -264,15 +280,20 @@ class Tree:
         return "new" if self.has_new_code() else "same"
 
     def catcher(self, path):
-        """With a change in a file: what notices it; empty if nothing does. The tests of its room run first."""
+        """With a change in a file: what notices it; empty if nothing does. The tests of its room run first, slow ones
+        last."""
         for name, portions in self.programs():
             if not self.ninja(Path(name).name):
                 return f"the compiler of {Path(name).name}"
             near = self.tests_of(path) if name == "staadkit_tests" else ""
-            failure = self.failure(name, 2, self.limits[name], near) if near else ""
-            failure = failure or self.failure(name, portions, self.limits[name], f"-{near}" if near else "*")
-            if failure:
-                return f"{Path(name).name}, {failure}"
+            slow = self.slow[name]
+            stages = [(f"{near}-{slow}", JOBS)] if near else []
+            stages += [(f"-{near}:{slow}", JOBS)]
+            stages += [(slow, portions)] if slow else []
+            for tests, parts in stages:
+                failure = self.failure(name, parts, self.limits[name], tests)
+                if failure:
+                    return f"{Path(name).name}, {failure}"
         return ""
 
     def found_here(self, mutant, drawn_source, sources):
