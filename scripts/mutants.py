@@ -220,13 +220,14 @@ class Tree:
         a busy machine fails nothing. A program that waits without end is given ten times as long. The first test that
         failed, or what became of the program; empty if all pass."""
         patience = 10 * limit  # counted in steps: while this script is itself stopped no time passes
+        options = [f"--gtest_filter={tests}", f"--gtest_brief={brief}"]
         waiting = list(range(portions))
         running = []
         failed = None
         with open(self.folder / "build/test.log", "w") as log:
             while failed is None and (waiting or running):
                 while waiting and len(running) < JOBS:
-                    running.append(self.start(name, waiting.pop(0), portions, limit, [f"--gtest_filter={tests}", f"--gtest_brief={brief}"], log))
+                    running.append(self.start(name, waiting.pop(0), portions, limit, options, log))
                 time.sleep(0.02)
                 patience -= 0.02
                 for process in [process for process in running if process.poll() is not None]:
