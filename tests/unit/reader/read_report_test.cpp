@@ -137,6 +137,7 @@ const struct {
      head + "DEFINE MATERIAL START\nISOTROPIC CONCRETE\nE 2.17185e+007\nDENSITY 24\nEND DEFINE MATERIAL\n", "density",
      8, "'E 2.17185e+007' and becomes 8.5e+08"},
     {"a command that nothing reads", head + "PERFORM ANALYSIS\n", "skipped", 6, "PERFORM ANALYSIS"},
+    {"the end of properties that have not begun", head + "CONSTANTS\n", "skipped", 6, "CONSTANTS"},
 };
 
 TEST(ReadReport, NamesCodePlaceAndReason)
