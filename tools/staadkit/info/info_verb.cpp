@@ -49,7 +49,7 @@ public:
             progress.emplace(std::string(), progress_line::unit::files);
         std::size_t count = 0;
         for (const std::string& file : options_.files) {
-            put_report(open_model(file));
+            put_report(open_model(file, reading_choice::host));
             if (progress)
                 progress->update(++count, options_.files.size());
         }

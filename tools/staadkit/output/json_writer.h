@@ -54,6 +54,14 @@ void visit_kinds(const std::array<std::size_t, 4>& members_of, Visit& visit)
     visit("horizontal_braces", members_of[STAAD::HorizontalBrace]);
 }
 
+/// A list whose items are made one by one as they are written: `fill` is called with a function that writes one.
+template<class Fill>
+struct streamed_list {
+    Fill fill;
+};
+template<class Fill>
+streamed_list(Fill) -> streamed_list<Fill>;
+
 class json_writer {
 public:
     explicit json_writer(std_output& out) : out_(out) {}
@@ -103,6 +111,17 @@ public:
     void value(const std::set<Item>& items)
     {
         list(items);
+    }
+
+    template<class Fill>
+    void value(const streamed_list<Fill>& items)
+    {
+        open('[', on_lines());
+        items.fill([this](const auto& item) {
+            next();
+            value(item);
+        });
+        close(']');
     }
 
     template<class Key, class Mapped>
