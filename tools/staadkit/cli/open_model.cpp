@@ -72,6 +72,16 @@ bool read_text(std::string_view text, reading_choice reading, opened_structure& 
     return structure.has_value();
 }
 
+bool read_text(std::string_view text, reading_choice reading, opened_deck& opened)
+{
+    if (reading == reading_choice::host)
+        return opened.model.ReadSDDataFromText(text, opened.report);
+    opened.structure = read_completely(text, opened.report);
+    if (opened.structure)
+        STAAD::to_reader(*opened.structure, opened.model);
+    return opened.structure.has_value();
+}
+
 template<class Opened>
 bool read_deck(const std::string& path, reading_choice reading, Opened& opened)
 {
@@ -118,6 +128,12 @@ void empty(opened_structure& opened)
     opened.structure = {};
 }
 
+void empty(opened_deck& opened)
+{
+    opened.model = {};
+    opened.structure.reset();
+}
+
 template<class Opened>
 void fail_for_memory(Opened& opened, const char* text)
 {
@@ -127,7 +143,7 @@ void fail_for_memory(Opened& opened, const char* text)
 }
 
 template<class Opened>
-Opened open_deck(const std::string& path, reading_choice reading)
+Opened open_as(const std::string& path, reading_choice reading)
 {
     Opened opened;
     opened.name = input_name(path);
@@ -148,12 +164,17 @@ constexpr const char* cannot_show = "not enough memory to show what it holds";
 
 opened_model open_model(const std::string& path, reading_choice reading)
 {
-    return open_deck<opened_model>(path, reading);
+    return open_as<opened_model>(path, reading);
 }
 
 opened_structure open_structure(const std::string& path, reading_choice reading)
 {
-    return open_deck<opened_structure>(path, reading);
+    return open_as<opened_structure>(path, reading);
+}
+
+opened_deck open_deck(const std::string& path, reading_choice reading)
+{
+    return open_as<opened_deck>(path, reading);
 }
 
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
@@ -171,6 +192,11 @@ opened_forces open_forces(const std::string& path, STAAD::SdReader& model)
 }
 
 void give_up_for_memory(opened_model& opened)
+{
+    fail_for_memory(opened, cannot_show);
+}
+
+void give_up_for_memory(opened_deck& opened)
 {
     fail_for_memory(opened, cannot_show);
 }

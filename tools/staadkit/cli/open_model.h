@@ -8,6 +8,7 @@
 #include "staad/report/read_report.h"
 #include "staad/structure/structure.h"
 
+#include <optional>
 #include <string>
 
 namespace tool {
@@ -27,6 +28,11 @@ struct opened_structure : opened_input {
     STAAD::Structure structure;
 };
 
+/// A model with the structure that it is made of.
+struct opened_deck : opened_model {
+    std::optional<STAAD::Structure> structure; ///< of the complete reading
+};
+
 /// A listing of forces. The forces are in the model.
 struct opened_forces : opened_input {};
 
@@ -38,11 +44,15 @@ opened_model open_model(const std::string& path, reading_choice reading);
 /// The same as a structure, which of the host reading is what its model says.
 opened_structure open_structure(const std::string& path, reading_choice reading);
 
+/// Both. The report is that of the reading; of the complete one it is without what the container leaves out.
+opened_deck open_deck(const std::string& path, reading_choice reading);
+
 /// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.
 opened_forces open_forces(const std::string& path, STAAD::SdReader& model);
 
 /// Empties the model, or the structure, and reports the error: there is not enough memory to show it.
 void give_up_for_memory(opened_model& opened);
+void give_up_for_memory(opened_deck& opened);
 void give_up_for_memory(opened_structure& opened);
 
 /// Text of the first error of the report; empty if there is none.

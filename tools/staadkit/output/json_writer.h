@@ -11,6 +11,7 @@
 #include "staad/model/fields.h"
 #include "staad/report/read_report.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <map>
@@ -27,10 +28,14 @@ namespace tool {
 template<class Visit>
 void each_field(const STAAD::Finding& finding, Visit visit)
 {
+    std::vector<std::array<std::size_t, 2>> lines; // as all JSON has them that knows lines
+    if (finding.first_line != 0)
+        lines.push_back({finding.first_line, std::max(finding.first_line, finding.last_line)});
     visit("severity", std::string(severity_word(finding.severity)));
     visit("code", finding.code);
     visit("first_line", finding.first_line);
     visit("last_line", finding.last_line);
+    visit("lines", lines);
     visit("text", finding.text);
     visit("count", finding.count);
 }
