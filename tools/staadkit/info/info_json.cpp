@@ -281,7 +281,8 @@ void visit_structure(const structure_summary& complete, const model_summary& sum
     visit("title", structure.head.title);
     visit("units", deck_units_item{structure.head});
     visit_geometry(summary, visit);
-    visit("groups", summary.groups);
+    visit("solids", structure.solids.size());
+    visit("groups", complete.groups);
     visit("supports", complete.supports);
     visit("mats", complete.mats);
     visit("releases", items_of(summary.releases, "members"));

@@ -95,11 +95,11 @@ void add_numbers(std::vector<std::string>& row, const listed_numbers& numbers, s
     row.push_back(fmt::format("and {} without {} {}", count_of(numbers.unknown, "number"), article, noun));
 }
 
-void put_groups(std_output& out, const model_summary& summary)
+void put_groups(std_output& out, const std::vector<group_summary>& groups)
 {
     constexpr const char* nouns[] = {"joint", "member", "element"};
     table rows;
-    for (const group_summary& group : summary.groups) {
+    for (const group_summary& group : groups) {
         std::vector<std::string> row = {shown(group.name), cell_text(group.kind, "(no kind)")};
         add_numbers(row, group.numbers, nouns[group.type]);
         rows.add_row(std::move(row));
@@ -227,10 +227,12 @@ void put_info_text(std_output& out, const info_report& report)
     else
         out.put(units(opened.model));
     out.put(geometry(summary));
+    if (complete != nullptr && !complete->structure->solids.empty())
+        out.put(line("solids", complete->structure->solids.size()));
     if (complete == nullptr)
         out.put(density(opened.model, summary));
     out.put(member_extras(summary));
-    put_groups(out, summary);
+    put_groups(out, complete != nullptr ? complete->groups : summary.groups);
     if (complete != nullptr)
         put_structure_supports(out, *complete);
     else

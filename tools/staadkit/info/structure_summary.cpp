@@ -85,6 +85,7 @@ structure_summary summarise(const Structure& structure, const STAAD::ReadReport&
 {
     structure_summary summary;
     summary.structure = &structure;
+    summary.groups = summarise_groups(structure);
     text_counter supports;
     for (const Structure::Support& support : structure.supports)
         supports.add(support.text);

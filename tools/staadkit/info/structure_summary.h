@@ -2,6 +2,7 @@
 #ifndef TOOLS_STAADKIT_INFO_STRUCTURE_SUMMARY_H
 #define TOOLS_STAADKIT_INFO_STRUCTURE_SUMMARY_H
 
+#include "info/model_summary.h"
 #include "staad/report/read_report.h"
 #include "staad/structure/structure.h"
 
@@ -45,6 +46,7 @@ struct asides {
 /// The structure must outlive it.
 struct structure_summary {
     const STAAD::Structure* structure = nullptr;
+    std::vector<group_summary> groups;
     std::vector<counted_text> supports; ///< joints by what holds them
     std::vector<counted_text> mats;     ///< elements by the springs under them
     std::vector<case_summary> load_cases;
@@ -54,7 +56,8 @@ struct structure_summary {
 
 structure_summary summarise(const STAAD::Structure& structure, const STAAD::ReadReport& report);
 
-/// A part of summarise(): sorts findings and kept statements.
+/// The parts of summarise(): groups with the numbers of theirs that a record has; findings and kept statements sorted.
+std::vector<group_summary> summarise_groups(const STAAD::Structure& structure);
 asides sort_asides(const STAAD::Structure& structure, const STAAD::ReadReport& report);
 
 } // namespace tool

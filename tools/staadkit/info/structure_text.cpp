@@ -21,7 +21,7 @@ std::string counted_words(const std::vector<counted_text>& counted)
 {
     std::string text;
     for (const counted_text& each : counted) {
-        std::string word = each.text;
+        std::string word = each.text == "cases" ? "sum of cases" : each.text;
         std::replace(word.begin(), word.end(), '_', ' ');
         text += fmt::format("{}{} {}", text.empty() ? "" : ", ", each.count, word);
     }
