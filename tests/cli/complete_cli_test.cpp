@@ -34,11 +34,11 @@ const char* const lower_case_deck =
     "member load\n1 to 3 uni gz -5\n"                                                          // 33
     "element load\n11 pr -2\n"                                                                 // 35
     "reference load\nr1 1.5\n"                                                                 // 37
-    "load comb 5 both\n4 1.2 r1 1\n"                                                           // 39
-    "inactive members 2\n"                                                                     // 41
-    "perform analysis\n"                                                                       // 42
-    "calculate rayleigh frequency\n"                                                           // 43
-    "finish\n";                                                                                // 44
+    "load comb 5 both\n4 1.2 r1 -1\n"                                                          // 39
+    "floor diaphragm\ndia 1 type rig\ninactive members 2\n"                                    // 41 to 43
+    "perform analysis\n"                                                                       // 44
+    "calculate rayleigh frequency\n"                                                           // 45
+    "finish\n";                                                                                // 46
 
 TEST(Complete, ReadingIsChosenWithEveryVerb)
 {
@@ -111,8 +111,8 @@ TEST(Complete, DumpOfTheStructure)
          {"", "/load_cases/0/loads/2/cases", R"([{"case": 1, "is_reference": true, "factor": 1.5}])"},
          {"", "/reference_cases/0/number", "1"},
          {"", "/combinations/0/terms/0", R"({"case": 4, "is_reference": false, "factor": 1.2})"},
-         {"", "/kept/0/command", "\"INACTIVE\""},
-         {"", "/kept/0/lines", "[[41, 41]]"}});
+         {"", "/kept/1/command", "\"INACTIVE\""},
+         {"", "/kept/1/lines", "[[43, 43]]"}});
 }
 
 TEST(Complete, HostModelAsStructureHasItsNumbersAndNoLines)
@@ -133,17 +133,18 @@ TEST(Complete, InfoSortsWhatIsNoRecord)
           "  _f  floor  1 member  and 1 number without a member", "  fixed but mz  2 joints",
           "  C30  -  E 30 kN/mm2, Poisson 0.2",
           "  4  Roof Live  LL  3 members, 1 element  1 uniform, 1 pressure, 1 sum of cases",
-          "  R1  -  own  3 members, 1 element  1 self weight", "  5  sum  both  1.2 x 4 + 1 x R1",
-          "analysis and design, kept as text: 2", "  line 42  kept as text  PERFORM ANALYSIS", "harmless: 1"})
+          "  R1  -  own  3 members, 1 element  1 self weight", "  5  sum  both  1.2 x 4 - 1 x R1",
+          "analysis and design, kept as text: 2", "  line 44  kept as text  PERFORM ANALYSIS", "harmless: 1"})
         EXPECT_TRUE(has_line(text, line)) << line << "\nis not in\n" << text;
     const auto report = complete_json::parse(tool_run()("info -q --json -", lower_case_deck).out);
     expect_values(report, {{"", "/supports", R"([{"kind": "fixed but mz", "count": 2}])"},
                            {"", "/materials/0/poisson", "0.2"},
-                           {"", "/lost/1/code", "\"hidden-content\""},
-                           {"", "/lost/1/lines", "[[41, 41]]"},
+                           {"", "/lost/2/code", "\"hidden-content\""},
+                           {"of the structure, though kept as text", "/lost/1/text", "\"FLOOR DIAPHRAGM\""},
+                           {"", "/lost/2/lines", "[[43, 43]]"},
                            {"", "/kept_as_text/0",
-                            R"({"code": "", "text": "PERFORM ANALYSIS", "count": 1, "lines": [[42, 42]]})"},
-                           {"passed over", "/harmless/0/lines", "[[43, 43]]"}});
+                            R"({"code": "", "text": "PERFORM ANALYSIS", "count": 1, "lines": [[44, 44]]})"},
+                           {"passed over", "/harmless/0/lines", "[[45, 45]]"}});
 }
 
 } // namespace

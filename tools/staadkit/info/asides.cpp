@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
@@ -17,6 +18,14 @@ using STAAD::Finding;
 using STAAD::Structure;
 
 constexpr std::size_t most_lines_named = 5;
+
+/// Whether a command that is kept as text, and no load of a case, says something of structure and loads all the same.
+bool is_of_structure(std::string_view command)
+{
+    constexpr std::string_view beginnings[] = {"FLOOR DIAPHRAGM", "MASTER", "SLAVE", "DEFINE ", "IGNORE"};
+    const auto begins = [command](std::string_view words) { return command.substr(0, words.size()) == words; };
+    return command != "DEFINE ENVELOPE" && std::any_of(std::begin(beginnings), std::end(beginnings), begins);
+}
 
 /// Statements by command, in the order in which the commands first come.
 class statement_counter {
@@ -66,14 +75,14 @@ asides sort_asides(const Structure& structure, const STAAD::ReadReport& report)
             sorted.harmless.push_back(aside_of(finding));
         }
     }
-    statement_counter loads;
+    statement_counter of_structure;
     statement_counter others;
     for (const Structure::Kept& kept : structure.kept) {
         const STAAD::FileLines lines = STAAD::origin(structure, kept.source);
         if (lost_lines.count(lines.first) == 0) // else the finding is about it
-            (kept.is_load ? loads : others).add(kept.command, lines);
+            (kept.is_load || is_of_structure(kept.command) ? of_structure : others).add(kept.command, lines);
     }
-    for (aside& statements : loads.take())
+    for (aside& statements : of_structure.take())
         sorted.lost.push_back(std::move(statements));
     std::stable_sort(sorted.lost.begin(), sorted.lost.end(), is_before);
     sorted.kept = others.take();

@@ -9,6 +9,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 #include <utility>
 
@@ -68,8 +69,10 @@ std::string terms_of(const Structure::Combination& combination)
     std::string text;
     for (std::size_t i = 0; i < combination.terms.size() && i < most_terms; ++i) {
         const Structure::CaseFactor& term = combination.terms[i];
-        text += fmt::format("{}{} x {}{}", text.empty() ? "" : " + ", short_number(term.factor),
-                            term.is_reference ? "R" : "", term.number);
+        const bool is_minus = term.factor < 0.0;
+        const char* const sign = text.empty() ? is_minus ? "-" : "" : is_minus ? " - " : " + ";
+        text += fmt::format("{}{} x {}{}", sign, short_number(std::fabs(term.factor)), term.is_reference ? "R" : "",
+                            term.number);
     }
     if (combination.terms.size() > most_terms)
         text += " + ...";
