@@ -31,7 +31,7 @@ const char* const lower_case_deck =
     "member release\n2 start mz\n"                                                             // 26
     "define reference loads\nload r1 title own\nselfweight z -1\nend define reference loads\n" // 28
     "load 4 loadtype Roof Live title LL\n"                                                     // 32
-    "member load\n1 to 3 uni gz -5\n"                                                          // 33
+    "member load\n1 to 3 uni gz -5; 1 3 con gz -6\n"                                           // 33
     "element load\n11 pr -2\n"                                                                 // 35
     "reference load\nr1 1.5\n"                                                                 // 37
     "load comb 5 both\n4 1.2 r1 -1\n"                                                          // 39
@@ -107,8 +107,9 @@ TEST(Complete, DumpOfTheStructure)
          {"all three in one run", "/load_cases/0/loads/0/members", "[[1, 3]]"},
          {"", "/load_cases/0/loads/0/direction", "\"global_z\""},
          {"kN/mm", "/load_cases/0/loads/0/values", "[-5]"},
-         {"", "/load_cases/0/loads/1/elements", "[[11, 11]]"},
-         {"", "/load_cases/0/loads/2/cases", R"([{"case": 1, "is_reference": true, "factor": 1.5}])"},
+         {"member 2 is not among them", "/load_cases/0/loads/1/members", "[[1, 1], [3, 3]]"},
+         {"", "/load_cases/0/loads/2/elements", "[[11, 11]]"},
+         {"", "/load_cases/0/loads/3/cases", R"([{"case": 1, "is_reference": true, "factor": 1.5}])"},
          {"", "/reference_cases/0/number", "1"},
          {"", "/combinations/0/terms/0", R"({"case": 4, "is_reference": false, "factor": 1.2})"},
          {"", "/kept/1/command", "\"INACTIVE\""},
@@ -132,7 +133,7 @@ TEST(Complete, InfoSortsWhatIsNoRecord)
          {"kind: space, Z up", "title: tower", "units: mms kn (of the first UNIT line)",
           "  _f  floor  1 member  and 1 number without a member", "  fixed but mz  2 joints",
           "  C30  -  E 30 kN/mm2, Poisson 0.2",
-          "  4  Roof Live  LL  3 members, 1 element  1 uniform, 1 pressure, 1 sum of cases",
+          "  4  Roof Live  LL  3 members, 1 element  1 uniform, 1 concentrated, 1 pressure, 1 sum of cases",
           "  R1  -  own  3 members, 1 element  1 self weight", "  5  sum  both  1.2 x 4 - 1 x R1",
           "analysis and design, kept as text: 2", "  line 44  kept as text  PERFORM ANALYSIS", "harmless: 1"})
         EXPECT_TRUE(has_line(text, line)) << line << "\nis not in\n" << text;
