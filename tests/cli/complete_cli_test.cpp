@@ -47,7 +47,8 @@ TEST(Complete, ReadingIsChosenWithEveryVerb)
     tool.write("a.txt", "x\n");
     expect_answers(tool, {{"the default of info", "info -q a.std", 0, "", "kind: space, Z up\n"},
                           {"", "info -q --reading complete a.std", 0, "", "kind: space, Z up\n"},
-                          {"several files", "info -q a.std a.std", 0, "", "a.std: 4 joints, 3 members, 1 element, "},
+                          {"several files", "info -q a.std a.std", 0, "",
+                           "a.std: 4 joints, 3 members, 1 element, 0 surfaces, 1 load case\n"},
                           {"no command in upper case", "info --reading host a.std", 3, "a.std: error no-unit: "},
                           {"", "dump a.std", 3, "a.std: error no-unit: "},
                           {"", "dump -q --reading complete a.std", 0, "", "  \"unit_text\": \"UNIT METER KN\""},

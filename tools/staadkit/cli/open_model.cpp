@@ -11,6 +11,7 @@
 #include <new>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace tool {
 namespace {
@@ -72,13 +73,22 @@ bool read_text(std::string_view text, reading_choice reading, opened_structure& 
     return structure.has_value();
 }
 
+/// What the container takes of a structure but its loads: their lists, which it would write out, may be more numbers
+/// than it holds.
+void fill_without_loads(STAAD::Structure& structure, STAAD::SdReader& model)
+{
+    std::vector<STAAD::Structure::LoadCase> load_cases = std::exchange(structure.load_cases, {});
+    STAAD::to_reader(structure, model);
+    structure.load_cases = std::move(load_cases);
+}
+
 bool read_text(std::string_view text, reading_choice reading, opened_deck& opened)
 {
     if (reading == reading_choice::host)
         return opened.model.ReadSDDataFromText(text, opened.report);
     opened.structure = read_completely(text, opened.report);
     if (opened.structure)
-        STAAD::to_reader(*opened.structure, opened.model);
+        fill_without_loads(*opened.structure, opened.model);
     return opened.structure.has_value();
 }
 

@@ -28,9 +28,9 @@ struct opened_structure : opened_input {
     STAAD::Structure structure;
 };
 
-/// A model with the structure that it is made of.
+/// What a report shows: a model, and of the complete reading the structure, whose loads the model is without.
 struct opened_deck : opened_model {
-    std::optional<STAAD::Structure> structure; ///< of the complete reading
+    std::optional<STAAD::Structure> structure;
 };
 
 /// A listing of forces. The forces are in the model.
@@ -44,7 +44,7 @@ opened_model open_model(const std::string& path, reading_choice reading);
 /// The same as a structure, which of the host reading is what its model says.
 opened_structure open_structure(const std::string& path, reading_choice reading);
 
-/// Both. The report is that of the reading; of the complete one it is without what the container leaves out.
+/// The same for a report of what a deck holds. The report is that of the reading alone.
 opened_deck open_deck(const std::string& path, reading_choice reading);
 
 /// Reads the listing at `path`, or standard input for "-", into `model`. Throws nothing, as open_model.

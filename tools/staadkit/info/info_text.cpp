@@ -255,9 +255,10 @@ std::string info_line(const opened_deck& opened)
     if (!opened.was_read)
         return fmt::format("{}: error: {}\n", printable_name(opened.name), printable_text(first_error(opened.report)));
     const SdReader& model = opened.model;
+    const std::size_t load_cases = opened.structure ? opened.structure->load_cases.size() : model.load_cases.size();
     return fmt::format("{}: {}, {}, {}, {}, {}\n", printable_name(opened.name), count_of(model.nodes.size(), "joint"),
                        count_of(model.beams.size(), "member"), count_of(STAAD::element_count(model), "element"),
-                       count_of(model.surfaces.size(), "surface"), count_of(model.load_cases.size(), "load case"));
+                       count_of(model.surfaces.size(), "surface"), count_of(load_cases, "load case"));
 }
 
 } // namespace tool
