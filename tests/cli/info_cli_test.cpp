@@ -49,19 +49,19 @@ TEST(Info, FullReport)
 {
     const tool_run tool;
     tool.write("tower.std", tower_deck());
-    const tool_result result = tool("info tower.std");
+    const tool_result result = tool("info --reading host tower.std");
     EXPECT_EQ(result.exit_code, 0);
     EXPECT_FALSE(contains(result.err, "error")) << result.err;
     EXPECT_EQ(result.out.rfind("tower.std\n", 0), 0U);
     for (const char* line : tower_lines)
         EXPECT_TRUE(has_line(result.out, line)) << line << "\nis not in\n" << result.out;
-    const std::string from_input = tool("info -", tower_deck()).out;
+    const std::string from_input = tool("info --reading host -", tower_deck()).out;
     EXPECT_EQ(from_input, "<stdin>" + result.out.substr(result.out.find('\n')));
 }
 
 json info_json(const std::string& deck)
 {
-    const tool_result result = tool_run()("info --json -", deck);
+    const tool_result result = tool_run()("info --reading host --json -", deck);
     EXPECT_EQ(result.exit_code, 0) << result.err;
     return json::parse(result.out);
 }
@@ -226,7 +226,7 @@ TEST(Info, Lines)
 {
     const tool_run tool;
     for (const line_case& each : line_cases) {
-        const std::string text = tool("info -", each.deck).out;
+        const std::string text = tool("info --reading host -", each.deck).out;
         for (const std::string& line : lines_of(each.lines))
             EXPECT_TRUE(has_line(text, line)) << each.why << '\n' << text;
         EXPECT_FALSE(contains(text, each.absent)) << each.why << '\n' << text;
@@ -247,13 +247,13 @@ TEST(Info, SeveralFilesOneLineEachAndTheWorstExitCode)
     const tool_run tool;
     tool.write("tower.std", tower_deck());
     tool.write("small.std", small_deck());
-    const tool_result result = tool("info tower.std nowhere.std small.std");
+    const tool_result result = tool("info --reading host tower.std nowhere.std small.std");
     EXPECT_EQ(result.exit_code, 3);
     EXPECT_EQ(result.out, "tower.std: 9 joints, 12 members, 1 element, 1 surface, 2 load cases\n"
                           "nowhere.std: error: the file does not exist\n"
                           "small.std: 2 joints, 1 member, 0 elements, 0 surfaces, 0 load cases\n");
-    EXPECT_EQ(tool("info tower.std small.std").exit_code, 0);
-    const json reports = json::parse(tool("info --json tower.std nowhere.std small.std").out);
+    EXPECT_EQ(tool("info --reading host tower.std small.std").exit_code, 0);
+    const json reports = json::parse(tool("info --reading host --json tower.std nowhere.std small.std").out);
     ASSERT_EQ(reports.size(), 3U);
     EXPECT_EQ(reports[0]["file"], "tower.std");
     EXPECT_EQ(reports[1]["was_read"], false);
@@ -268,7 +268,7 @@ TEST(Info, OneLongTextDoesNotWidenTheOthers)
     deck += "1 " + long_text + '\n';
     for (int i = 1000; i < 4000; ++i)
         deck += "1 KIND" + std::to_string(i) + '\n';
-    const tool_result result = tool_run()("info -", deck + "FINISH\n");
+    const tool_result result = tool_run()("info --reading host -", deck + "FINISH\n");
     EXPECT_EQ(result.exit_code, 0);
     // "  KIND1000", padded to 42 columns, and "  1 joint".
     EXPECT_TRUE(has_line(result.out, "  KIND1000" + std::string(32, ' ') + "  1 joint"));
@@ -289,7 +289,8 @@ TEST(Info, TextsAreCutBetweenCharacters)
     };
     const auto has_title = [&](const std::string& title, const std::string& shown) {
         const std::string deck = small_deck("LOAD 1 LOADTYPE Dead TITLE " + title + "\nJOINT LOAD\n1 FX 5\n");
-        return has_line(tool_run()("info -", deck).out, "  1  dead  " + shown + "  0 members, 1 joint  1 JOINT LOAD");
+        return has_line(tool_run()("info --reading host -", deck).out,
+                        "  1  dead  " + shown + "  0 members, 1 joint  1 JOINT LOAD");
     };
     // Of 120 cells 58 characters and the dots fill 119; a 59th has no room. One less fits as it is.
     EXPECT_TRUE(has_title(title_of(61), title_of(58) + "..."));
@@ -314,7 +315,7 @@ TEST(Info, LittleMemory)
     tool.write("small.std", small_deck());
     tool.write("large.std", deck_of_control_bytes(20));
     // Enough to hold it; the 120 MB of JSON need not be held.
-    const tool_result enough = tool.within(140, {"info", "--json", "large.std"});
+    const tool_result enough = tool.within(140, {"info", "--reading", "host", "--json", "large.std"});
     EXPECT_EQ(enough.exit_code, 0) << enough.err;
     EXPECT_GT(enough.out.size(), 120'000'000U);
     const tool_result result = tool.within(30, {"info", "large.std", "small.std"}); // too little to read it

@@ -43,9 +43,10 @@ TEST(Inputs, WhatIsNoTextIsNamed)
     for (const input_case& each : no_texts) {
         forces.tool.write("input", each.bytes);
         const std::string is_this = each.kind + "\n"s;
-        expect_answers(forces.tool, {{each.kind, "info input", 3, "input: error not-a-deck: the file is " + is_this},
-                                     {each.kind, "forces frame.std input", 3,
-                                      "input: error not-a-listing: the file is " + is_this}});
+        expect_answers(
+            forces.tool,
+            {{each.kind, "info --reading host input", 3, "input: error not-a-deck: the file is " + is_this},
+             {each.kind, "forces frame.std input", 3, "input: error not-a-listing: the file is " + is_this}});
         EXPECT_EQ(forces.tool("dump -", each.bytes).err, "<stdin>: error not-a-deck: standard input is " + is_this);
     }
 }

@@ -37,7 +37,7 @@ TEST(Messages, NameFileLineAndReason)
     for (const char* verb : {"info", "dump"}) {
         for (const message_row& each : messages) {
             tool.write("a.std", each.text);
-            const tool_result result = tool({verb, "a.std"});
+            const tool_result result = tool({verb, "--reading", "host", "a.std"});
             EXPECT_EQ(result.exit_code, each.exit_code) << each.why;
             EXPECT_EQ(result.out.empty(), each.exit_code != 0) << each.why;
             EXPECT_TRUE(contains('\n' + result.err, std::string("\na.std") + each.message)) << each.why << result.err;
@@ -53,7 +53,7 @@ TEST(Messages, ManyOfAKindAreCounted)
     // Sixty members that end at a joint that is not defined: fifty are reported one by one, ten together.
     for (int member = 1; member <= 60; ++member)
         deck += std::to_string(member) + " 1 " + std::to_string(1000 + member) + "\n";
-    const std::string err = tool("info -", deck + "FINISH\n").err;
+    const std::string err = tool("info --reading host -", deck + "FINISH\n").err;
     // Member 51 stands on line 55, the last on line 64.
     const std::size_t begin = err.find("<stdin>:55: warning ");
     ASSERT_NE(begin, std::string::npos) << err;
@@ -65,9 +65,10 @@ TEST(Messages, InTheOrderOfTheLines)
 {
     const tool_run tool;
     // The second UNIT line is met before the members are read, one of which has no joint at its end.
-    const std::string err = tool("info -", "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
-                                           "MEMBER INCIDENCES\n1 1 2\n2 1 99\nUNIT KIP FEET\nFINISH\n")
-                                .err;
+    const std::string err =
+        tool("info --reading host -", "STAAD SPACE\nUNIT METER KN\nJOINT COORDINATES\n1 0 0 0; 2 0 3 0\n"
+                                      "MEMBER INCIDENCES\n1 1 2\n2 1 99\nUNIT KIP FEET\nFINISH\n")
+            .err;
     std::vector<int> lines;
     for (std::size_t at = err.find("<stdin>:"); at != std::string::npos; at = err.find("<stdin>:", at + 1))
         lines.push_back(std::stoi(err.substr(at + 8)));
@@ -101,16 +102,16 @@ TEST(Messages, NotesOnRequestOnly)
     // Line 62 is the header of the combination, the first of its two lines.
     EXPECT_TRUE(has_line(tool("dump --notes tower.std").err, "tower.std:62: note skipped: LOAD COMB (2 lines)"));
     EXPECT_FALSE(contains(tool("dump tower.std").err, ": note "));
-    EXPECT_FALSE(contains(tool("info --notes tower.std").err, "skipped")) << "the report has it already";
+    EXPECT_FALSE(contains(tool("info --reading host --notes tower.std").err, "skipped")) << "the report has it already";
 }
 
 TEST(Messages, QuietLeavesErrorsOnly)
 {
     const tool_run tool;
     tool.write("words.std", std::end(messages)[-1].text);
-    const tool_result loud = tool("info words.std");
+    const tool_result loud = tool("info --reading host words.std");
     EXPECT_TRUE(contains(loud.err, "warning"));
-    for (const char* line : {"info -q words.std", "--quiet info --notes words.std"}) {
+    for (const char* line : {"info --reading host -q words.std", "--quiet info --reading host --notes words.std"}) {
         const tool_result quiet = tool(line);
         EXPECT_EQ(quiet.exit_code, 0);
         EXPECT_EQ(quiet.err, "");

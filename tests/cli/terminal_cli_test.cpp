@@ -55,11 +55,13 @@ TEST(Terminal, LinesOfTablesFit)
     const tool_run tool;
     const std::string path = tool.write("long.std", deck_with_long_title());
     const std::string whole = "  1  dead  " + std::string(70, 'T') + "  1 member, 0 joints  1 SELFWEIGHT";
-    EXPECT_TRUE(has_line(tool({"info", path}).out, whole));
-    EXPECT_TRUE(has_line(on_screen(0, {}, {"info", path}).out, whole)) << "a terminal that does not say how wide it is";
-    EXPECT_TRUE(has_line(on_screen(116, {}, {"info", path}).out, whole)) << "the last cell of a line stays free";
+    EXPECT_TRUE(has_line(tool({"info", "--reading", "host", path}).out, whole));
+    EXPECT_TRUE(has_line(on_screen(0, {}, {"info", "--reading", "host", path}).out, whole))
+        << "a terminal that does not say how wide it is";
+    EXPECT_TRUE(has_line(on_screen(116, {}, {"info", "--reading", "host", path}).out, whole))
+        << "the last cell of a line stays free";
     // The other columns take 35 cells, and five gaps 10: of 79 cells the title has 34.
-    const std::string cut = on_screen(80, {}, {"info", path}).out;
+    const std::string cut = on_screen(80, {}, {"info", "--reading", "host", path}).out;
     EXPECT_TRUE(has_line(cut, "  1  dead  " + std::string(31, 'T') + "...  1 member, 0 joints  1 SELFWEIGHT")) << cut;
 }
 

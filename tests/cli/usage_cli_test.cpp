@@ -14,14 +14,20 @@ struct help_row {
 };
 
 const help_row helps[] = {
-    {"info", "info [OPTIONS] FILE...", {"-h,--help", "--json", "--notes", "--color auto|never|always", "-q,--quiet"}},
-    {"dump", "dump [OPTIONS] FILE", {"--notes"}},
+    {"info",
+     "info [OPTIONS] FILE...",
+     {"-h,--help", "--reading host|complete", "--json", "--notes", "--color auto|never|always", "-q,--quiet"}},
+    {"dump", "dump [OPTIONS] FILE", {"--reading host|complete", "--form container|structure", "--notes"}},
     {"convert",
      "convert [OPTIONS] IN OUT",
-     {"--wind FILE", "--seismic FILE", "--force", "--template wind|seismic", "--notes"}},
-    {"forces", "forces [OPTIONS] MODEL FORCES", {"--member", "--case", "--extremes", "--pkpm", "--json", "--csv"}},
-    {"storeys", "storeys [OPTIONS] FILE", {"--forces [LISTING]", "--json", "--notes"}},
-    {"compare", "compare [OPTIONS] NEW OLD", {"--take-over OUT", "--yes", "--force", "--json", "--notes"}},
+     {"--wind FILE", "--seismic FILE", "--reading host|complete", "--force", "--template wind|seismic", "--notes"}},
+    {"forces",
+     "forces [OPTIONS] MODEL FORCES",
+     {"--reading host|complete", "--member", "--case", "--extremes", "--pkpm", "--json", "--csv"}},
+    {"storeys", "storeys [OPTIONS] FILE", {"--forces [LISTING]", "--reading host|complete", "--json", "--notes"}},
+    {"compare",
+     "compare [OPTIONS] NEW OLD",
+     {"--reading host|complete", "--take-over OUT", "--yes", "--force", "--json", "--notes"}},
     {"help", "help [OPTIONS] [VERB]", {"--color auto|never|always", "-q,--quiet"}},
 };
 
@@ -94,6 +100,10 @@ const slip slips[] = {
     {"--force of nothing", "compare a.std b.std --force", "--force requires --take-over", "staadkit compare --help"},
     {"help on no verb", "help inof", "unknown verb 'inof'; did you mean 'info'?", "staadkit --help"},
     {"help on two verbs", "help info dump", "one argument too many: 'dump'", "staadkit help --help"},
+    {"no such reading", "storeys --reading full a.std", "--reading: 'full' is neither host nor complete",
+     "staadkit storeys --help"},
+    {"no such form", "dump --form model a.std", "--form: 'model' is neither container nor structure",
+     "staadkit dump --help"},
     {"no such colours", "info --color alway a.std", "--color: 'alway' is none of auto, never and always",
      "staadkit info --help"},
     {"the value of an option before the verb is no verb", "--color never inof",

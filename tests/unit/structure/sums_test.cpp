@@ -103,7 +103,7 @@ TEST(sums, combinations)
         {{"LOAD COMB 10", "1 X 2 1"}, "10 |", "line-unread", "the row is left at what is no factor"},
     };
     for (const combination_row& row : rows) {
-        SCOPED_TRACE(std::string("combination: ") + row.why);
+        SCOPED_TRACE(std::string("combination") + ": " + row.why);
         std::vector<std::string> lines = row.lines;
         lines.insert(lines.begin(), {"LOAD 1", "LOAD 2", "LOAD 3"});
         const deck_reading reading = read_in_frame(lines);

@@ -26,6 +26,7 @@ struct compare_options {
     std::string now;
     std::string earlier;
     std::string out; ///< empty: nothing is taken over
+    reading_choice reading = reading_choice::host;
     bool force = false;
     bool yes = false;
     bool as_json = false;
@@ -104,7 +105,7 @@ exit_code compare_read(opened_model& now, const opened_model& earlier, const com
 
 opened_model open_and_report(const std::string& path, const compare_options& options)
 {
-    opened_model opened = open_model(path);
+    opened_model opened = open_model(path, options.reading);
     print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
     return opened;
 }
@@ -139,6 +140,7 @@ verb_action set_up_compare(CLI::App& command)
     command.add_option("OLD", options->earlier, "The earlier .std file; - reads standard input")
         ->required()
         ->option_text(" ");
+    add_reading_option(command, options->reading);
     CLI::Option* const out = command.add_option("--take-over", options->out,
                                                 "Write NEW to OUT with the groups, supports and releases of OLD");
     out->type_name("OUT")->option_text("OUT");

@@ -23,6 +23,7 @@ struct convert_options {
     std::string wind;
     std::string seismic;
     std::string template_name;
+    reading_choice reading = reading_choice::host;
     bool force = false;
     bool with_notes = false;
 };
@@ -97,7 +98,7 @@ exit_code run_convert(const convert_options& options)
         seismic.print_report();
         return wrong_usage;
     }
-    opened_model opened = open_model(options.in);
+    opened_model opened = open_model(options.in, options.reading);
     if (!opened.was_read) {
         print_findings(opened.name, opened.report, least_severity(options.with_notes), {});
         return no_model;
@@ -122,6 +123,7 @@ verb_action set_up_convert(CLI::App& command)
         ->type_name("FILE");
     command.add_option("--seismic", options->seismic, "JSON file with the parameters of the generated seismic case")
         ->type_name("FILE");
+    add_reading_option(command, options->reading);
     command.add_flag("--force", options->force, "Overwrite OUT if it exists, even if it is IN");
     command.add_flag("--notes", options->with_notes, "Also print notes of the reading, not only warnings and errors");
     const auto choose_template = [options, in, out](const std::string& name) {

@@ -20,6 +20,7 @@ struct forces_options {
     std::string model;
     std::string listing;
     force_selection selection;
+    reading_choice reading = reading_choice::host;
     bool extremes = false;
     bool lists = false;
     bool as_json = false;
@@ -69,7 +70,7 @@ exit_code run_forces(const forces_options& options)
     forces_report report;
     report.view = options.view();
     report.is_selection = !options.selection.is_all();
-    report.model = open_model(options.model);
+    report.model = open_model(options.model, options.reading);
     report.listing.name = input_name(options.listing);
     print_findings(report.model.name, report.model.report, least, {});
     if (!report.model.was_read)
@@ -118,6 +119,7 @@ verb_action set_up_forces(CLI::App& command)
             const bool is_taken = listing == "-" && options->model == "-";
             return std::string(is_taken ? "standard input is the model already" : "");
         });
+    add_reading_option(command, options->reading);
     add_numbers(command, "--member", options->selection.members,
                 "Only these members, such as 7 or \"1 5 TO 9\"; may be given several times");
     add_numbers(command, "--case", options->selection.cases, "Only these load cases, in the same way");

@@ -3,9 +3,12 @@
 #include "info/info_report.h"
 #include "output/json_writer.h"
 #include "output/phrases.h"
+#include "output/structure_words.h"
 
 #include <array>
+#include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace tool {
@@ -66,7 +69,100 @@ void each_field(const skipped_summary& skipped, Visit visit)
     visit("lines", skipped.lines);
 }
 
+template<class Visit>
+void each_field(const counted_text& counted, Visit visit)
+{
+    visit("kind", counted.text);
+    visit("count", counted.count);
+}
+
+template<class Visit>
+void each_field(const aside& each, Visit visit)
+{
+    std::vector<std::array<std::size_t, 2>> lines;
+    for (const STAAD::FileLines& place : each.lines)
+        lines.push_back({place.first, place.last});
+    visit("code", each.code);
+    visit("text", each.text);
+    visit("count", each.count);
+    visit("lines", lines);
+}
+
+template<class Visit>
+void each_field(const case_summary& summary, Visit visit)
+{
+    visit("number", summary.load_case->number);
+    visit("type", summary.load_case->type);
+    visit("title", summary.load_case->title);
+    visit("definitions", summary.kinds);
+    visit("members_loaded", summary.members);
+    visit("joints_loaded", summary.joints);
+    visit("elements_loaded", summary.elements);
+}
+
 namespace {
+
+struct material_item {
+    const STAAD::Structure::Material& material;
+};
+
+template<class Visit>
+void each_field(const material_item& item, Visit visit)
+{
+    const STAAD::Structure::Material& material = item.material;
+    std::map<std::string, double> strengths;
+    for (const STAAD::Structure::NamedValue& strength : material.strengths)
+        strengths[strength.name] = strength.value;
+    visit("name", material.name);
+    visit("type", material.type);
+    visit("e", material.e);
+    visit("g", material.g);
+    visit("poisson", material.poisson);
+    visit("density", material.density);
+    visit("alpha", material.alpha);
+    visit("damping", material.damping);
+    visit("strengths", strengths);
+    visit("is_built_in", material.is_built_in);
+}
+
+struct term_item {
+    const STAAD::Structure::CaseFactor& term;
+};
+
+template<class Visit>
+void each_field(const term_item& item, Visit visit)
+{
+    visit("case", item.term.number);
+    visit("is_reference", item.term.is_reference);
+    visit("factor", item.term.factor);
+}
+
+struct combination_item {
+    const STAAD::Structure::Combination& combination;
+};
+
+template<class Visit>
+void each_field(const combination_item& item, Visit visit)
+{
+    visit("number", item.combination.number);
+    visit("title", item.combination.title);
+    visit("method", item.combination.method);
+    visit("terms", streamed_list{[&item](auto add) {
+              for (const STAAD::Structure::CaseFactor& term : item.combination.terms)
+                  add(term_item{term});
+          }});
+}
+
+struct deck_units_item {
+    const STAAD::Structure::Head& head;
+};
+
+template<class Visit>
+void each_field(const deck_units_item& item, Visit visit)
+{
+    visit("length", item.head.length_unit);
+    visit("force", item.head.force_unit);
+}
 
 struct units_item {
     const STAAD::SdReader& model;
@@ -146,18 +242,24 @@ std::vector<description_item> items_of(const std::vector<description_summary>& d
 }
 
 template<class Visit>
-void visit_model(const STAAD::SdReader& model, const model_summary& summary, Visit& visit)
+void visit_geometry(const model_summary& summary, Visit& visit)
 {
     std::optional<extents_item> box;
     if (summary.joints != 0)
         box = extents_item{summary.box};
-    visit("units", units_item{model});
     visit("joints", summary.joints);
     visit("members", members_item{summary});
     visit("elements", summary.elements);
     visit("surfaces", summary.surfaces);
     visit("extents_mm", box);
     visit("storeys", storeys_item{summary.levels});
+}
+
+template<class Visit>
+void visit_model(const STAAD::SdReader& model, const model_summary& summary, Visit& visit)
+{
+    visit("units", units_item{model});
+    visit_geometry(summary, visit);
     visit("concrete_density", model.concrete_density);
     visit("concrete_density_is_default", summary.has_default_density);
     visit("groups", summary.groups);
@@ -169,6 +271,38 @@ void visit_model(const STAAD::SdReader& model, const model_summary& summary, Vis
     visit("not_in_the_model", summary.skipped);
 }
 
+/// The same of a structure, with what only it has.
+template<class Visit>
+void visit_structure(const structure_summary& complete, const model_summary& summary, Visit& visit)
+{
+    const STAAD::Structure& structure = *complete.structure;
+    visit("kind", word_of(structure.head.kind));
+    visit("up", std::string(structure.head.up == STAAD::Structure::UpAxis::y ? "Y" : "Z"));
+    visit("title", structure.head.title);
+    visit("units", deck_units_item{structure.head});
+    visit_geometry(summary, visit);
+    visit("solids", structure.solids.size());
+    visit("groups", complete.groups);
+    visit("supports", complete.supports);
+    visit("mats", complete.mats);
+    visit("releases", items_of(summary.releases, "members"));
+    visit("sections", summary.sections);
+    visit("user_tables", summary.user_tables);
+    visit("materials", streamed_list{[&structure](auto add) {
+              for (const STAAD::Structure::Material& material : structure.materials)
+                  add(material_item{material});
+          }});
+    visit("load_cases", complete.load_cases);
+    visit("reference_cases", complete.reference_cases);
+    visit("combinations", streamed_list{[&structure](auto add) {
+              for (const STAAD::Structure::Combination& combination : structure.combinations)
+                  add(combination_item{combination});
+          }});
+    visit("lost", complete.beside.lost);
+    visit("kept_as_text", complete.beside.kept);
+    visit("harmless", complete.beside.harmless);
+}
+
 struct document_item {
     const info_report& report;
 };
@@ -176,10 +310,12 @@ struct document_item {
 template<class Visit>
 void each_field(const document_item& item, Visit visit)
 {
-    const opened_model& opened = item.report.opened;
+    const opened_deck& opened = item.report.opened;
     visit("file", opened.name);
     visit("was_read", opened.was_read);
-    if (item.report.summary != nullptr)
+    if (item.report.complete != nullptr && item.report.summary != nullptr)
+        visit_structure(*item.report.complete, *item.report.summary, visit);
+    else if (item.report.summary != nullptr)
         visit_model(opened.model, *item.report.summary, visit);
     visit("findings", opened.report.findings);
 }

@@ -3,6 +3,7 @@
 #include "info/info_report.h"
 
 #include "cli/text_encoding.h"
+#include "info/structure_text.h"
 #include "output/phrases.h"
 #include "output/table.h"
 #include "staad/query/lookup.h"
@@ -72,11 +73,15 @@ std::string geometry(const model_summary& summary)
            line("storeys", storeys_in_words(summary.levels));
 }
 
-std::string member_extras(const SdReader& model, const model_summary& summary)
+std::string density(const SdReader& model, const model_summary& summary)
 {
     const char* origin = summary.has_default_density ? " (default)" : " (as written after ISOTROPIC CONCRETE)";
-    return line("concrete density", short_number(model.concrete_density) + origin) +
-           line("offsets", count_of(summary.members_with_offsets, "member")) +
+    return line("concrete density", short_number(model.concrete_density) + origin);
+}
+
+std::string member_extras(const model_summary& summary)
+{
+    return line("offsets", count_of(summary.members_with_offsets, "member")) +
            line("beta angles", count_of(summary.members_with_beta, "member"));
 }
 
@@ -90,11 +95,11 @@ void add_numbers(std::vector<std::string>& row, const listed_numbers& numbers, s
     row.push_back(fmt::format("and {} without {} {}", count_of(numbers.unknown, "number"), article, noun));
 }
 
-void put_groups(std_output& out, const model_summary& summary)
+void put_groups(std_output& out, const std::vector<group_summary>& groups)
 {
     constexpr const char* nouns[] = {"joint", "member", "element"};
     table rows;
-    for (const group_summary& group : summary.groups) {
+    for (const group_summary& group : groups) {
         std::vector<std::string> row = {shown(group.name), cell_text(group.kind, "(no kind)")};
         add_numbers(row, group.numbers, nouns[group.type]);
         rows.add_row(std::move(row));
@@ -213,29 +218,47 @@ void put_skipped(std_output& out, const model_summary& summary)
 
 void put_info_text(std_output& out, const info_report& report)
 {
-    const opened_model& opened = report.opened;
+    const opened_deck& opened = report.opened;
     const model_summary& summary = *report.summary;
+    const structure_summary* const complete = report.complete;
     out.put(printable_name(opened.name) + '\n');
-    out.put(units(opened.model));
+    if (complete != nullptr)
+        put_structure_head(out, *complete);
+    else
+        out.put(units(opened.model));
     out.put(geometry(summary));
-    out.put(member_extras(opened.model, summary));
-    put_groups(out, summary);
-    put_descriptions(out, "supports", summary.supports, "joint");
+    if (complete != nullptr && !complete->structure->solids.empty())
+        out.put(line("solids", complete->structure->solids.size()));
+    if (complete == nullptr)
+        out.put(density(opened.model, summary));
+    out.put(member_extras(summary));
+    put_groups(out, complete != nullptr ? complete->groups : summary.groups);
+    if (complete != nullptr)
+        put_structure_supports(out, *complete);
+    else
+        put_descriptions(out, "supports", summary.supports, "joint");
     put_descriptions(out, "releases", summary.releases, "member");
     put_sections(out, summary);
     put_user_tables(out, summary);
-    put_load_cases(out, summary);
-    put_skipped(out, summary);
+    if (complete != nullptr) {
+        put_structure_materials(out, *complete);
+        put_structure_loads(out, *complete);
+        put_structure_asides(out, *complete);
+    } else {
+        put_load_cases(out, summary);
+        put_skipped(out, summary);
+    }
 }
 
-std::string info_line(const opened_model& opened)
+std::string info_line(const opened_deck& opened)
 {
     if (!opened.was_read)
         return fmt::format("{}: error: {}\n", printable_name(opened.name), printable_text(first_error(opened.report)));
     const SdReader& model = opened.model;
+    const std::size_t load_cases = opened.structure ? opened.structure->load_cases.size() : model.load_cases.size();
     return fmt::format("{}: {}, {}, {}, {}, {}\n", printable_name(opened.name), count_of(model.nodes.size(), "joint"),
                        count_of(model.beams.size(), "member"), count_of(STAAD::element_count(model), "element"),
-                       count_of(model.surfaces.size(), "surface"), count_of(model.load_cases.size(), "load case"));
+                       count_of(model.surfaces.size(), "surface"), count_of(load_cases, "load case"));
 }
 
 } // namespace tool

@@ -21,20 +21,30 @@ namespace {
 
 struct info_options {
     std::vector<std::string> files;
+    reading_choice reading = reading_choice::complete;
     bool as_json = false;
     bool with_notes = false;
 };
 
-/// The summary of the model; none if there is no model, or not enough memory, which is reported in `opened`.
-std::optional<model_summary> summary_of(opened_model& opened)
+struct summaries {
+    std::optional<model_summary> of_model;
+    std::optional<structure_summary> of_structure;
+};
+
+/// Those of a deck that was read; none, with a finding in `opened`, if there is not enough memory.
+summaries summaries_of(opened_deck& opened)
 {
+    summaries made;
     try {
+        if (opened.structure)
+            made.of_structure = summarise(*opened.structure, opened.report);
         if (opened.was_read)
-            return summarise(opened.model, opened.report);
+            made.of_model = summarise(opened.model, opened.report);
     } catch (const std::bad_alloc&) {
+        made = {};
         give_up_for_memory(opened);
     }
-    return std::nullopt;
+    return made;
 }
 
 /// Opens the files one after the other, and holds one model at a time.
@@ -49,7 +59,7 @@ public:
             progress.emplace(std::string(), progress_line::unit::files);
         std::size_t count = 0;
         for (const std::string& file : options_.files) {
-            put_report(open_model(file));
+            put_report(open_deck(file, options_.reading));
             if (progress)
                 progress->update(++count, options_.files.size());
         }
@@ -59,21 +69,22 @@ public:
     }
 
 private:
-    void put_report(opened_model opened)
+    void put_report(opened_deck opened)
     {
-        const std::optional<model_summary> summary = summary_of(opened);
+        const summaries made = summaries_of(opened);
+        const model_summary* const summary = made.of_model ? &*made.of_model : nullptr;
         // The report itself shows what was skipped.
         print_findings(opened.name, opened.report, least_severity(options_.with_notes), skipped_code);
-        if (!summary)
+        if (summary == nullptr)
             worst_ = std::max(worst_, no_model);
-        const info_report report{opened, summary ? &*summary : nullptr};
+        const info_report report{opened, summary, made.of_structure ? &*made.of_structure : nullptr};
         if (options_.as_json && is_single_)
             put_info_json(out_, report);
         else if (options_.as_json)
             add_info_json(array_, report);
         else if (!is_single_)
             out_.put(info_line(opened));
-        else if (summary)
+        else if (summary != nullptr)
             put_info_text(out_, report);
     }
 
@@ -92,6 +103,7 @@ verb_action set_up_info(CLI::App& command)
     command.add_option("FILE", options->files, "The .std files to read; - reads standard input")
         ->required()
         ->option_text(" ");
+    add_reading_option(command, options->reading);
     command.add_flag("--json", options->as_json, "Print JSON: an object, for several files an array of them");
     command.add_flag("--notes", options->with_notes, "Also print notes, not only warnings and errors");
     return [options] { return info_printer(*options).print(); };

@@ -11,6 +11,7 @@
 #include "staad/model/fields.h"
 #include "staad/report/read_report.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <map>
@@ -27,10 +28,14 @@ namespace tool {
 template<class Visit>
 void each_field(const STAAD::Finding& finding, Visit visit)
 {
+    std::vector<std::array<std::size_t, 2>> lines; // as all JSON has them that knows lines
+    if (finding.first_line != 0)
+        lines.push_back({finding.first_line, std::max(finding.first_line, finding.last_line)});
     visit("severity", std::string(severity_word(finding.severity)));
     visit("code", finding.code);
     visit("first_line", finding.first_line);
     visit("last_line", finding.last_line);
+    visit("lines", lines);
     visit("text", finding.text);
     visit("count", finding.count);
 }
@@ -53,6 +58,14 @@ void visit_kinds(const std::array<std::size_t, 4>& members_of, Visit& visit)
     visit("braces", members_of[STAAD::Brace]);
     visit("horizontal_braces", members_of[STAAD::HorizontalBrace]);
 }
+
+/// A list whose items are made one by one as they are written: `fill` is called with a function that writes one.
+template<class Fill>
+struct streamed_list {
+    Fill fill;
+};
+template<class Fill>
+streamed_list(Fill) -> streamed_list<Fill>;
 
 class json_writer {
 public:
@@ -103,6 +116,17 @@ public:
     void value(const std::set<Item>& items)
     {
         list(items);
+    }
+
+    template<class Fill>
+    void value(const streamed_list<Fill>& items)
+    {
+        open('[', on_lines());
+        items.fill([this](const auto& item) {
+            next();
+            value(item);
+        });
+        close(']');
     }
 
     template<class Key, class Mapped>

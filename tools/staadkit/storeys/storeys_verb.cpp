@@ -25,6 +25,7 @@ namespace {
 
 struct storeys_options {
     std::string file;
+    reading_choice reading = reading_choice::host;
     bool with_forces = false;
     std::string listing; ///< empty: the one beside the file
     bool as_json = false;
@@ -71,7 +72,7 @@ exit_code report_storeys(opened_model& opened, const std::optional<opened_forces
 bool read_inputs(opened_model& opened, std::optional<opened_forces>& forces, const storeys_options& options)
 {
     const STAAD::Finding::Severity least = least_severity(options.with_notes);
-    opened = open_model(options.file);
+    opened = open_model(options.file, options.reading);
     print_findings(opened.name, opened.report, least, {});
     if (!opened.was_read || !options.with_forces)
         return opened.was_read;
@@ -113,6 +114,7 @@ verb_action set_up_storeys(CLI::App& command)
     CLI::Option* const forces = command.add_option(
         "--forces", options->listing, "Count members with forces, from LISTING or the .txt file beside FILE");
     forces->expected(0, 1)->type_name("[LISTING]");
+    add_reading_option(command, options->reading);
     command.add_flag("--json", options->as_json, "Print JSON, with the numbers of all joints, members and shells");
     command.add_flag("--notes", options->with_notes, "Also print notes, not only warnings and errors");
     return [options, forces] {
