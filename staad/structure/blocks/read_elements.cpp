@@ -143,17 +143,19 @@ private:
             context_.report_unread(row, "no steps of element and joint numbers");
             return;
         }
-        const std::vector<written_element> copied = repeat->is_all ? all_ : line_;
-        if (copied.empty()) {
+        // Copies are added at the ends of both lists: those up to here are copied.
+        const std::vector<written_element>& copied = repeat->is_all ? all_ : line_;
+        const std::size_t count = copied.size();
+        if (count == 0) {
             context_.report_unread(row, "no elements to repeat");
             return;
         }
-        context_.take_generated(copied.size(), row, static_cast<std::size_t>(repeat->times));
+        context_.take_generated(count, row, static_cast<std::size_t>(repeat->times));
         for (int copy = 1; copy <= repeat->times; ++copy)
-            for (const written_element& each : copied)
-                add_stepped(each, by->number, by->joint, copy, row);
+            for (std::size_t i = 0; i < count; ++i)
+                add_stepped(written_element(copied[i]), by->number, by->joint, copy, row);
         if (!repeat->is_all)
-            line_ = copied;
+            line_.resize(count);
     }
 
     structure_reading& context_;

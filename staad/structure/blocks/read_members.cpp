@@ -123,7 +123,7 @@ private:
         member.start = start;
         member.end = end;
         member.source = context_.source_of(row);
-        members_.add(std::move(member), row);
+        members_.add(member, row);
         line_.push_back({number, start, end});
         all_.push_back({number, start, end});
     }
@@ -138,17 +138,19 @@ private:
             context_.report_unread(row, "no steps of member and joint numbers");
             return;
         }
-        const std::vector<std::array<int, 3>> copied = repeat->is_all ? all_ : line_;
-        if (copied.empty()) {
+        // Copies are added at the ends of both lists: those up to here are copied.
+        const std::vector<std::array<int, 3>>& copied = repeat->is_all ? all_ : line_;
+        const std::size_t count = copied.size();
+        if (count == 0) {
             context_.report_unread(row, "no members to repeat");
             return;
         }
-        context_.take_generated(copied.size(), row, static_cast<std::size_t>(repeat->times));
+        context_.take_generated(count, row, static_cast<std::size_t>(repeat->times));
         for (int copy = 1; copy <= repeat->times; ++copy)
-            for (const std::array<int, 3>& each : copied)
-                add_stepped(each, by->number, by->joint, copy, row);
+            for (std::size_t i = 0; i < count; ++i)
+                add_stepped(std::array<int, 3>(copied[i]), by->number, by->joint, copy, row);
         if (!repeat->is_all)
-            line_ = copied;
+            line_.resize(count);
     }
 
     structure_reading& context_;
