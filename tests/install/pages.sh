@@ -56,7 +56,7 @@ same 'staadkit help st' 'storeys'
 same 'staadkit convert --temp' '--template'
 same 'staadkit convert --template ' 'seismic wind'
 same 'staadkit convert --template w' 'wind'
-same 'staadkit dump --' '--color --help --notes --quiet'
+same 'staadkit dump --' '--color --form --help --notes --quiet --reading'
 same 'staadkit forces --member ' ''
 expect 'staadkit convert --template=s' 'seismic' 'seismic' '--template=seismic'
 # Names of files: bash leaves them to readline, and offers nothing itself.
