@@ -5,8 +5,6 @@
 #include "staad/text/words.h"
 
 #include <algorithm>
-#include <limits>
-#include <numeric>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -212,10 +210,7 @@ private:
     {
         std::string_view name;
         words_.next(name);
-        const auto found = context_.groups.find(to_upper_ascii(name));
-        int used = -1;
-        for (const int group : found == context_.groups.end() ? std::vector<int>() : found->second)
-            used = used < 0 && fits(context_.structure.groups[static_cast<std::size_t>(group)].kind) ? group : used;
+        const int used = group_named(name);
         if (used < 0) {
             context_.report(FindingCode::group_unknown, row_,
                             [&] { return "no group " + quote(name) + " of " + name_of(what_) + "s"; });
@@ -224,6 +219,18 @@ private:
         list_.groups.push_back(used);
         add_group(used);
         return true;
+    }
+
+    /// The first group of the name whose kind fits the list; -1 if there is none.
+    int group_named(std::string_view name) const
+    {
+        const auto found = context_.groups.find(to_upper_ascii(name));
+        if (found == context_.groups.end())
+            return -1;
+        const auto fitting = std::ranges::find_if(found->second, [this](int group) {
+            return fits(context_.structure.groups[static_cast<std::size_t>(group)].kind);
+        });
+        return fitting == found->second.end() ? -1 : *fitting;
     }
 
     bool fits(Structure::GroupKind kind) const noexcept

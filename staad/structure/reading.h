@@ -102,6 +102,24 @@ struct structure_reading {
             each_data_row(statement, visit);
     }
 
+    /// Calls `visit(row_words&, row)` for every item of the data of a statement: what ";" parts.
+    template<class Visit>
+    void each_item(std::size_t statement, Visit visit)
+    {
+        each_data_row(statement, [&](row_words& words, std::size_t row) {
+            do
+                visit(words, row);
+            while (words.next_item());
+        });
+    }
+    /// Calls `visit(row_words&, statement, row)` for every item of all statements of a command.
+    template<class Visit>
+    void each_item(Command command, Visit visit)
+    {
+        for (const std::size_t statement : statements_of(command))
+            each_item(statement, [&](row_words& words, std::size_t row) { visit(words, statement, row); });
+    }
+
     /// `file` in the frame of the model. Head::up must be known.
     Vector3 in_model_frame(double x, double y, double z) const noexcept
     {

@@ -100,6 +100,13 @@ std::string_view word_at(std::string_view text, std::size_t index) noexcept;
 std::string_view last_word(std::string_view text) noexcept;
 /// `text` up to its last `count` words; empty if there are no more than that.
 std::string_view without_last_words(std::string_view text, std::size_t count) noexcept;
+/// Adds a word after a blank, the first one without.
+inline void append_word(std::string& text, std::string_view word)
+{
+    if (!text.empty())
+        text += ' ';
+    text += word;
+}
 /// The remaining words of `words`, at most `most` of them, joined by single blanks.
 std::string join_words(word_cursor words, std::size_t most = std::string_view::npos);
 

@@ -17,13 +17,6 @@ namespace {
 /// another form.
 constexpr std::size_t words_of_full_load_header = 6;
 
-void append_word(std::string& text, std::string_view word)
-{
-    if (!text.empty())
-        text += ' ';
-    text += word;
-}
-
 /// The only block whose numbers are joints. All others, "ELEMENT LOAD" too, list members.
 constexpr std::string_view joint_load = "JOINT LOAD";
 
@@ -267,7 +260,7 @@ LoadCase::LoadCase(const std::string& line)
         return;
     std::string_view word;
     while (words.next(word) && word != "TITLE")
-        append_word(type_text, word);
+        detail::append_word(type_text, word);
     title = detail::join_words(words);
 }
 

@@ -141,11 +141,7 @@ private:
 void read_area_loads(structure_reading& context, std::size_t statement, load_list& loads)
 {
     area_load_reader reader(context, statement);
-    context.each_data_row(statement, [&](row_words& words, std::size_t row) {
-        do
-            reader.read(words, row, loads);
-        while (words.next_item());
-    });
+    context.each_item(statement, [&](row_words& words, std::size_t row) { reader.read(words, row, loads); });
 }
 
 } // namespace STAAD::detail

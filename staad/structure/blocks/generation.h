@@ -38,8 +38,6 @@ public:
         records_[position_of_number_.at(record.number)] = std::move(record);
     }
 
-    std::size_t size() const noexcept { return records_.size(); }
-    const Record& operator[](std::size_t index) const noexcept { return records_[index]; }
     /// The highest number so far; 0 without records.
     int highest() const noexcept { return highest_; }
     std::vector<Record> take() noexcept { return std::move(records_); }
@@ -107,6 +105,71 @@ struct steps {
 
 /// The two whole numbers of a REPEAT line of members or elements; none if they are anything else.
 std::optional<steps> steps_of(const repeat_line& repeat) noexcept;
+
+/// A block of items and REPEAT lines, which may go on after UNIT lines. `Block` reads an item by `read_item(words,
+/// row)`, and adds a copy by `add_stepped(written, steps, copy, row)`; what it makes of either it hands to keep().
+template<class Block, class Written>
+class incidence_block {
+public:
+    void read(std::size_t statement)
+    {
+        context_.each_data_row(statement, [this](row_words& words, std::size_t row) {
+            if (is_word(words.peek(), "REPE"))
+                repeat(words, row);
+            else
+                read_line(words, row);
+        });
+    }
+    void end() const noexcept {}
+
+protected:
+    explicit incidence_block(structure_reading& context) noexcept : context_(context) {}
+
+    /// REPEAT lines may copy the record.
+    void keep(const Written& record)
+    {
+        written_.push_back(record);
+        line_end_ = written_.size();
+    }
+
+    structure_reading& context_;
+
+private:
+    Block& self() noexcept { return static_cast<Block&>(*this); }
+
+    void read_line(row_words& words, std::size_t row)
+    {
+        line_begin_ = line_end_ = written_.size();
+        do
+            self().read_item(words, row);
+        while (words.next_item());
+    }
+
+    /// Copies of the line before, or of all so far. They are no part of that line.
+    void repeat(row_words& words, std::size_t row)
+    {
+        const std::optional<repeat_line> repeat = read_repeat(context_, words, row);
+        if (!repeat)
+            return;
+        const std::optional<steps> by = steps_of(*repeat);
+        const std::size_t begin = repeat->is_all ? 0 : line_begin_;
+        const std::size_t end = repeat->is_all ? written_.size() : line_end_;
+        if (!by || begin == end) {
+            context_.report_unread(row, by ? "nothing to repeat" : "no steps of the numbers of record and joints");
+            return;
+        }
+        context_.take_generated(end - begin, row, static_cast<std::size_t>(repeat->times));
+        const std::size_t line_end = line_end_;
+        for (int copy = 1; copy <= repeat->times; ++copy)
+            for (std::size_t i = begin; i < end; ++i)
+                self().add_stepped(Written(written_[i]), *by, copy, row); // keep() may move the list
+        line_end_ = line_end;
+    }
+
+    std::vector<Written> written_; // of the block
+    std::size_t line_begin_ = 0;   // of the line before
+    std::size_t line_end_ = 0;
+};
 
 } // namespace STAAD::detail
 

@@ -65,11 +65,8 @@ private:
     void read_block(std::size_t statement, behaviour kind)
     {
         check_head(context_, statement);
-        context_.each_data_row(statement, [&](row_words& words, std::size_t row) {
-            do
-                read_item(words, statement, row, kind);
-            while (words.next_item());
-        });
+        context_.each_item(statement,
+                           [&](row_words& words, std::size_t row) { read_item(words, statement, row, kind); });
     }
 
     void read_item(row_words& words, std::size_t statement, std::size_t row, behaviour kind)

@@ -72,18 +72,15 @@ void read_cracked(structure_reading& context)
 {
     std::vector<cracked> records;
     line_assignments<int> members; // positions in `records`
-    for (const std::size_t statement : context.statements_of(Command::member_cracked))
-        context.each_data_row(statement, [&](row_words& words, std::size_t row) {
-            do {
-                const record_list list = take_list(context, words, listed::members, statement, row);
-                if (!list.is_given)
-                    context.report_unread(row, "factors of no member");
-                else if (const std::optional<cracked> record = read_factors(context, words, row)) {
-                    members.add(list.members, static_cast<int>(records.size()), context.source_of(row));
-                    records.push_back(*record);
-                }
-            } while (words.next_item());
-        });
+    context.each_item(Command::member_cracked, [&](row_words& words, std::size_t statement, std::size_t row) {
+        const record_list list = take_list(context, words, listed::members, statement, row);
+        if (!list.is_given) {
+            context.report_unread(row, "factors of no member");
+        } else if (const std::optional<cracked> record = read_factors(context, words, row)) {
+            members.add(list.members, static_cast<int>(records.size()), context.source_of(row));
+            records.push_back(*record);
+        }
+    });
     members.hand_out(context.structure.members.size(), [&](std::size_t position, int record, Structure::Source source) {
         context.structure.members[position].cracked = record;
         context.structure.members[position].cracked_source = source;

@@ -22,36 +22,16 @@ struct written_element {
     std::uint8_t corners = 0;
 };
 
-/// An ELEMENT INCIDENCES block, which may go on after UNIT lines. Until all are there elements hold numbers of joints,
-/// then positions.
-class element_block {
+/// An ELEMENT INCIDENCES block. Until all are there elements hold numbers of joints, then positions.
+class element_block : public incidence_block<element_block, written_element> {
 public:
     element_block(structure_reading& context, numbered_records<Structure::Element>& elements,
                   numbered_records<Structure::Solid>& solids, std::size_t statement)
-        : context_(context), elements_(elements), solids_(solids)
+        : incidence_block(context), elements_(elements), solids_(solids)
     {
         row_words head(context.deck, context.deck.statement(statement).first_row);
         for (std::string_view word; head.next(word);)
             is_solid_ |= is_word(word, "SOLI");
-    }
-
-    void read(std::size_t statement)
-    {
-        context_.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
-    }
-    void end() const noexcept {}
-
-private:
-    void read_row(row_words& words, std::size_t row)
-    {
-        if (is_word(words.peek(), "REPE")) {
-            repeat(words, row);
-            return;
-        }
-        line_.clear();
-        do
-            read_item(words, row);
-        while (words.next_item());
     }
 
     void read_item(row_words& words, std::size_t row)
@@ -81,6 +61,24 @@ private:
             generate(element, words, row);
     }
 
+    void add_stepped(written_element element, const steps& by, int copy, std::size_t row)
+    {
+        const std::optional<int> number = stepped(element.number, by.number, copy);
+        bool fits = number.has_value();
+        for (std::size_t i = 0; i < element.corners; ++i) {
+            const std::optional<int> joint = stepped(element.joints[i], by.joint, copy);
+            fits = fits && joint;
+            element.joints[i] = joint.value_or(0);
+        }
+        if (!fits) {
+            context_.report_unread(row, "a copy with numbers that no element can have");
+            return;
+        }
+        element.number = *number;
+        add(element, row);
+    }
+
+private:
     /// "... TO n2 [dn] [dj]"
     void generate(const written_element& from, row_words& words, std::size_t row)
     {
@@ -97,30 +95,12 @@ private:
         const int copies = (*last - from.number) / step;
         context_.take_generated(static_cast<std::size_t>(copies), row);
         for (int copy = 1; copy <= copies; ++copy)
-            add_stepped(from, step, joint_step, copy, row);
-    }
-
-    void add_stepped(written_element element, int step, int joint_step, int copy, std::size_t row)
-    {
-        const std::optional<int> number = stepped(element.number, step, copy);
-        bool fits = number.has_value();
-        for (std::size_t i = 0; i < element.corners; ++i) {
-            const std::optional<int> joint = stepped(element.joints[i], joint_step, copy);
-            fits = fits && joint;
-            element.joints[i] = joint.value_or(0);
-        }
-        if (!fits) {
-            context_.report_unread(row, "a copy with numbers that no element can have");
-            return;
-        }
-        element.number = *number;
-        add(element, row);
+            add_stepped(from, {step, joint_step}, copy, row);
     }
 
     void add(const written_element& element, std::size_t row)
     {
-        line_.push_back(element);
-        all_.push_back(element);
+        keep(element);
         const auto fill = [&](auto record, auto& records) {
             record.number = element.number;
             std::copy_n(element.joints.begin(), element.corners, record.corners.begin());
@@ -133,37 +113,9 @@ private:
             fill(Structure::Element(), elements_);
     }
 
-    void repeat(row_words& words, std::size_t row)
-    {
-        const std::optional<repeat_line> repeat = read_repeat(context_, words, row);
-        if (!repeat)
-            return;
-        const std::optional<steps> by = steps_of(*repeat);
-        if (!by) {
-            context_.report_unread(row, "no steps of element and joint numbers");
-            return;
-        }
-        // Copies are added at the ends of both lists: those up to here are copied.
-        const std::vector<written_element>& copied = repeat->is_all ? all_ : line_;
-        const std::size_t count = copied.size();
-        if (count == 0) {
-            context_.report_unread(row, "no elements to repeat");
-            return;
-        }
-        context_.take_generated(count, row, static_cast<std::size_t>(repeat->times));
-        for (int copy = 1; copy <= repeat->times; ++copy)
-            for (std::size_t i = 0; i < count; ++i)
-                add_stepped(written_element(copied[i]), by->number, by->joint, copy, row);
-        if (!repeat->is_all)
-            line_.resize(count);
-    }
-
-    structure_reading& context_;
     numbered_records<Structure::Element>& elements_;
     numbered_records<Structure::Solid>& solids_;
     bool is_solid_ = false;
-    std::vector<written_element> line_; // those of the line before
-    std::vector<written_element> all_;  // those of the block
 };
 
 } // namespace

@@ -35,11 +35,7 @@ public:
     material_block(structure_reading& context, material_names& names, std::size_t statement)
         : context_(context), names_(names), units_(context.units_at(statement))
     {
-        context.each_data_row(statement, [this](row_words& words, std::size_t row) {
-            do
-                read_line(words, row);
-            while (words.next_item());
-        });
+        context.each_item(statement, [this](row_words& words, std::size_t row) { read_line(words, row); });
     }
 
 private:

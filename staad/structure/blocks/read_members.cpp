@@ -11,32 +11,15 @@
 namespace STAAD::detail {
 namespace {
 
-/// A MEMBER INCIDENCES block, which may go on after UNIT lines. Until all are there members hold numbers of joints,
-/// then positions.
-class member_block {
+/// Number and joint numbers of a member.
+using written_member = std::array<int, 3>;
+
+/// A MEMBER INCIDENCES block. Until all are there members hold numbers of joints, then positions.
+class member_block : public incidence_block<member_block, written_member> {
 public:
     member_block(structure_reading& context, numbered_records<Structure::Member>& members, std::size_t /*statement*/)
-        : context_(context), members_(members)
+        : incidence_block(context), members_(members)
     {
-    }
-
-    void read(std::size_t statement)
-    {
-        context_.each_data_row(statement, [this](row_words& words, std::size_t row) { read_row(words, row); });
-    }
-    void end() const noexcept {}
-
-private:
-    void read_row(row_words& words, std::size_t row)
-    {
-        if (is_word(words.peek(), "REPE")) {
-            repeat(words, row);
-            return;
-        }
-        line_.clear();
-        do
-            read_item(words, row);
-        while (words.next_item());
     }
 
     void read_item(row_words& words, std::size_t row)
@@ -54,11 +37,23 @@ private:
             context_.report_unread(row, "no member");
             return;
         }
-        add(values[0], values[1], values[2], row);
+        add({values[0], values[1], values[2]}, row);
         if (count > 3)
             add_generated(values, count, row);
     }
 
+    void add_stepped(const written_member& from, const steps& by, int copy, std::size_t row)
+    {
+        const std::optional<int> number = stepped(from[0], by.number, copy);
+        const std::optional<int> start = stepped(from[1], by.joint, copy);
+        const std::optional<int> end = stepped(from[2], by.joint, copy);
+        if (number && start && end)
+            add({*number, *start, *end}, row);
+        else
+            context_.report_unread(row, "a copy with numbers that no member can have");
+    }
+
+private:
     /// "n i j n2 [dn] [dj]", or the six numbers of two members between which a ";" is forgotten.
     void add_generated(const std::array<int, 6>& values, std::size_t count, std::size_t row)
     {
@@ -69,7 +64,7 @@ private:
             (!yields || !knows_generated(values, step, joint_step, row))) {
             context_.report(FindingCode::two_items, row,
                             [&] { return "read as two members: " + quote(context_.deck.row_text(row)); });
-            add(values[3], values[4], values[5], row);
+            add({values[3], values[4], values[5]}, row);
             return;
         }
         if (!yields) {
@@ -79,7 +74,7 @@ private:
         const int copies = (values[3] - values[0]) / step;
         context_.take_generated(static_cast<std::size_t>(copies), row);
         for (int copy = 1; copy <= copies; ++copy)
-            add_stepped({values[0], values[1], values[2]}, step, joint_step, copy, row);
+            add_stepped({values[0], values[1], values[2]}, {step, joint_step}, copy, row);
     }
 
     bool knows(int joint) const noexcept { return context_.joints.position(joint) >= 0; }
@@ -105,58 +100,18 @@ private:
         return true;
     }
 
-    void add_stepped(const std::array<int, 3>& from, int step, int joint_step, int copy, std::size_t row)
-    {
-        const std::optional<int> number = stepped(from[0], step, copy);
-        const std::optional<int> start = stepped(from[1], joint_step, copy);
-        const std::optional<int> end = stepped(from[2], joint_step, copy);
-        if (number && start && end)
-            add(*number, *start, *end, row);
-        else
-            context_.report_unread(row, "a copy with numbers that no member can have");
-    }
-
-    void add(int number, int start, int end, std::size_t row)
+    void add(const written_member& written, std::size_t row)
     {
         Structure::Member member;
-        member.number = number;
-        member.start = start;
-        member.end = end;
+        member.number = written[0];
+        member.start = written[1];
+        member.end = written[2];
         member.source = context_.source_of(row);
         members_.add(member, row);
-        line_.push_back({number, start, end});
-        all_.push_back({number, start, end});
+        keep(written);
     }
 
-    void repeat(row_words& words, std::size_t row)
-    {
-        const std::optional<repeat_line> repeat = read_repeat(context_, words, row);
-        if (!repeat)
-            return;
-        const std::optional<steps> by = steps_of(*repeat);
-        if (!by) {
-            context_.report_unread(row, "no steps of member and joint numbers");
-            return;
-        }
-        // Copies are added at the ends of both lists: those up to here are copied.
-        const std::vector<std::array<int, 3>>& copied = repeat->is_all ? all_ : line_;
-        const std::size_t count = copied.size();
-        if (count == 0) {
-            context_.report_unread(row, "no members to repeat");
-            return;
-        }
-        context_.take_generated(count, row, static_cast<std::size_t>(repeat->times));
-        for (int copy = 1; copy <= repeat->times; ++copy)
-            for (std::size_t i = 0; i < count; ++i)
-                add_stepped(std::array<int, 3>(copied[i]), by->number, by->joint, copy, row);
-        if (!repeat->is_all)
-            line_.resize(count);
-    }
-
-    structure_reading& context_;
     numbered_records<Structure::Member>& members_;
-    std::vector<std::array<int, 3>> line_; // number and joint numbers of the members of the line before
-    std::vector<std::array<int, 3>> all_;  // of the block
 };
 
 } // namespace

@@ -58,11 +58,7 @@ public:
     {
         for (const std::size_t statement : context.statements_of(Command::member_property)) {
             read_head(context.deck.statement(statement).first_row);
-            context.each_data_row(statement, [&](row_words& words, std::size_t row) {
-                do
-                    read_item(words, statement, row);
-                while (words.next_item());
-            });
+            context.each_item(statement, [&](row_words& words, std::size_t row) { read_item(words, statement, row); });
         }
     }
 

@@ -36,12 +36,9 @@ public:
 
     void read()
     {
-        for (const std::size_t statement : context_.statements_of(Command::supports))
-            context_.each_data_row(statement, [&](row_words& words, std::size_t row) {
-                do
-                    read_item(words, statement, row);
-                while (words.next_item());
-            });
+        context_.each_item(Command::supports, [this](row_words& words, std::size_t statement, std::size_t row) {
+            read_item(words, statement, row);
+        });
         hand_out();
         mats_.hand_out();
     }

@@ -37,10 +37,8 @@ void read_item(structure_reading& context, numbered_records<Structure::Surface>&
 void read_surfaces(structure_reading& context)
 {
     numbered_records<Structure::Surface> surfaces(context, "surface");
-    context.each_data_row(Command::surface_incidence, [&](row_words& words, std::size_t row) {
-        do
-            read_item(context, surfaces, words, row);
-        while (words.next_item());
+    context.each_item(Command::surface_incidence, [&](row_words& words, std::size_t, std::size_t row) {
+        read_item(context, surfaces, words, row);
     });
     context.structure.surfaces = surfaces.take();
     context.surfaces = record_lookup(context.structure.surfaces);

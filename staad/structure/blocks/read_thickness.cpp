@@ -60,17 +60,14 @@ void give(structure_reading& context, Structure::Element& element, const thickne
 void read_elements_thickness(structure_reading& context)
 {
     line_assignments<thickness_line> elements;
-    for (const std::size_t statement : context.statements_of(Command::element_property))
-        context.each_data_row(statement, [&](row_words& words, std::size_t row) {
-            do {
-                const record_list list = take_list(context, words, listed::elements, statement, row);
-                const auto line = read_words(context, words, statement, row);
-                if (line && list.is_given)
-                    elements.add(list.elements, *line, context.source_of(row));
-                else if (line)
-                    context.report_unread(row, "a thickness of no element");
-            } while (words.next_item());
-        });
+    context.each_item(Command::element_property, [&](row_words& words, std::size_t statement, std::size_t row) {
+        const record_list list = take_list(context, words, listed::elements, statement, row);
+        const auto line = read_words(context, words, statement, row);
+        if (line && list.is_given)
+            elements.add(list.elements, *line, context.source_of(row));
+        else if (line)
+            context.report_unread(row, "a thickness of no element");
+    });
     elements.hand_out(context.structure.elements.size(),
                       [&](std::size_t position, const thickness_line& line, Structure::Source source) {
                           Structure::Element& element = context.structure.elements[position];
@@ -104,17 +101,14 @@ std::vector<Structure::Range> take_surfaces(structure_reading& context, row_word
 void read_surfaces_thickness(structure_reading& context)
 {
     line_assignments<double> surfaces;
-    for (const std::size_t statement : context.statements_of(Command::surface_property))
-        context.each_data_row(statement, [&](row_words& words, std::size_t row) {
-            do {
-                const std::vector<Structure::Range> ranges = take_surfaces(context, words, row);
-                const auto line = read_words(context, words, statement, row);
-                if (line && line->count == 1)
-                    surfaces.add(ranges, line->values[0], context.source_of(row));
-                else if (line)
-                    context.report_unread(row, "a surface has one thickness");
-            } while (words.next_item());
-        });
+    context.each_item(Command::surface_property, [&](row_words& words, std::size_t statement, std::size_t row) {
+        const std::vector<Structure::Range> ranges = take_surfaces(context, words, row);
+        const auto line = read_words(context, words, statement, row);
+        if (line && line->count == 1)
+            surfaces.add(ranges, line->values[0], context.source_of(row));
+        else if (line)
+            context.report_unread(row, "a surface has one thickness");
+    });
     surfaces.hand_out(context.structure.surfaces.size(),
                       [&](std::size_t position, double thickness, Structure::Source source) {
                           context.structure.surfaces[position].thickness = thickness;

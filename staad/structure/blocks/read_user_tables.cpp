@@ -44,11 +44,7 @@ public:
     table_block(structure_reading& context, std::size_t statement)
         : context_(context), units_(context.units_at(statement)), tables_(context.structure.user_tables)
     {
-        context.each_data_row(statement, [this](row_words& words, std::size_t row) {
-            do
-                read_line(words, row);
-            while (words.next_item());
-        });
+        context.each_item(statement, [this](row_words& words, std::size_t row) { read_line(words, row); });
     }
 
 private:

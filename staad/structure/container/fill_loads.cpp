@@ -277,7 +277,6 @@ private:
     made_definition make_joint_load(const Structure::Load& load, double factor) const
     {
         constexpr std::string_view names[] = {"FX", "FY", "FZ", "MX", "MY", "MZ"};
-        constexpr std::size_t places[] = {1, 2, 0, 4, 5, 3}; // of the file's axes among the model's
         made_definition made;
         made.definition.kind = "JOINT LOAD";
         made.definition.direction = "Z";
@@ -285,7 +284,7 @@ private:
         for (std::size_t i = 0; i < 6; ++i)
             made.definition.values.push_back(load.values[i] * factor);
         for (std::size_t i = 0; i < 6; ++i) {
-            const double value = made.definition.values[places[i]];
+            const double value = made.definition.values[model_degrees[i]];
             if (value == 0.0)
                 continue;
             append_word(text, names[i]);
@@ -302,14 +301,13 @@ private:
         if (factor != 1.0 || load.text.empty() || is_z_up())
             return made;
         std::array<double, 6> said{};
-        constexpr std::size_t places[] = {1, 2, 0, 4, 5, 3};
         word_cursor words(load.text);
         for (std::string_view word; words.next(word);) {
             const std::string name = to_upper_ascii(word);
             if (name.size() != 2 || (name[0] != 'F' && name[0] != 'M') || name[1] < 'X' || name[1] > 'Z')
                 return made;
             const std::size_t index = (name[0] == 'M' ? std::size_t{3} : 0) + static_cast<std::size_t>(name[1] - 'X');
-            said[places[index]] = in_model_units(index < 3 ? 'F' : 'M', to_real(words.next_or_empty()));
+            said[model_degrees[index]] = in_model_units(index < 3 ? 'F' : 'M', to_real(words.next_or_empty()));
         }
         return said == load.values ? load.text : made;
     }

@@ -3,7 +3,6 @@
 #include "staad/structure/container/filling.h"
 #include "staad/structure/container/texts.h"
 
-#include <array>
 #include <cstddef>
 #include <map>
 #include <optional>
@@ -48,12 +47,12 @@ std::string description(std::string_view text, Spring spring)
 constexpr const char* axes[] = {"FX", "FY", "FZ", "MX", "MY", "MZ"};
 
 /// The description of a support that no deck describes.
-std::string description_of(const Structure::Support& support, const std::array<std::size_t, 6>& model_degree)
+std::string description_of(const Structure::Support& support)
 {
     std::string free;
     std::string springs;
     for (std::size_t degree = 0; degree < 6; ++degree) {
-        const std::size_t held = model_degree[degree];
+        const std::size_t held = model_degrees[degree];
         if (support.held[held])
             continue;
         append_word(free, axes[degree]);
@@ -69,15 +68,12 @@ std::string description_of(const Structure::Support& support, const std::array<s
         append_word(text, "BUT");
     // A spring frees its direction: it need not be named twice.
     for (std::size_t degree = 0; degree < 6; ++degree)
-        if (!support.held[model_degree[degree]] && support.springs[model_degree[degree]] == 0.0)
+        if (!support.held[model_degrees[degree]] && support.springs[model_degrees[degree]] == 0.0)
             append_word(text, axes[degree]);
     if (!springs.empty())
         append_word(text, springs);
     return text;
 }
-
-/// The place among model x, y, z and about them of the degrees FX to MZ as texts name them, always with Y up.
-constexpr std::array<std::size_t, 6> model_degrees{1, 2, 0, 4, 5, 3};
 
 std::string text_of(const container_filling& context, const Structure::Support& support)
 {
@@ -85,7 +81,7 @@ std::string text_of(const container_filling& context, const Structure::Support& 
         return support.text;
     // The letters of a deck with Z up are not those of the container.
     if (support.text.empty() || context.structure.head.up == Structure::UpAxis::z)
-        return description_of(support, model_degrees);
+        return description_of(support);
     return description(support.text, [&](std::size_t degree) { return support.springs[model_degrees[degree]]; });
 }
 

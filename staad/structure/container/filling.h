@@ -9,6 +9,8 @@
 #include "staad/structure/structure.h"
 #include "staad/units/exact_units.h"
 
+#include <array>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -45,6 +47,9 @@ inline exact_units container_units()
 
 /// The name of a material at a position; `otherwise` of none and of a nameless one.
 std::string material_name(const container_filling& context, int material, const std::string& otherwise);
+
+/// The places among model x, y, z and about them of FX to MZ as the container's texts name them, always with Y up.
+inline constexpr std::array<std::size_t, 6> model_degrees{1, 2, 0, 4, 5, 3};
 
 void fill_geometry(container_filling& context);
 /// Materials and sections of members; after fill_geometry().

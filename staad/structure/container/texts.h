@@ -22,14 +22,6 @@ std::string number_text(double value, ToModel to_model, std::string_view written
     return shortest_fitting(value / to_model(1.0), fits);
 }
 
-/// Words joined by single blanks.
-inline void append_word(std::string& text, std::string_view word)
-{
-    if (!text.empty())
-        text += ' ';
-    text += word;
-}
-
 /// `text` with the number after some of its words in the units of the container: `value_after(word)` gives the
 /// optional text of the number that stands after a word, from the word and the number as written.
 template<class NumberAfter>
