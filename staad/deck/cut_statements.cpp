@@ -24,10 +24,10 @@ bool is_of_any_word(Command command) noexcept
     return command == Command::member_other || command == Command::element_other;
 }
 
-/// Blocks with an END line in which UNIT means what it means elsewhere. Materials and user tables follow their own.
+/// Blocks with an END line in which UNIT means what it means elsewhere. User tables follow their own.
 bool may_change_units(Command command) noexcept
 {
-    return command == Command::concrete_design;
+    return command == Command::concrete_design || command == Command::define_material;
 }
 
 bool keeps_design_open(Command command) noexcept

@@ -1,5 +1,6 @@
 #include "staad/structure/blocks/blocks.h"
 
+#include "staad/structure/blocks/generation.h"
 #include "staad/structure/blocks/material_constants.h"
 #include "staad/structure/blocks/material_names.h"
 #include "staad/structure/values.h"
@@ -28,15 +29,21 @@ constexpr strength_word strengths[] = {{"FCU", quantity::pressure},
                                        {"RY", quantity::number},
                                        {"RT", quantity::number}};
 
-/// A DEFINE MATERIAL block. Of a material that is defined again the later values count. A UNIT line inside counts
-/// for the rest of the block alone.
+/// A DEFINE MATERIAL block, which may go on after UNIT lines. Of a material that is defined again the later values
+/// count.
 class material_block {
 public:
-    material_block(structure_reading& context, material_names& names, std::size_t statement)
-        : context_(context), names_(names), units_(context.units_at(statement))
+    material_block(structure_reading& context, material_names& names, std::size_t /*statement*/)
+        : context_(context), names_(names)
     {
-        context.each_item(statement, [this](row_words& words, std::size_t row) { read_line(words, row); });
     }
+
+    void read(std::size_t statement)
+    {
+        units_ = context_.units_at(statement);
+        context_.each_item(statement, [this](row_words& words, std::size_t row) { read_line(words, row); });
+    }
+    void end() const noexcept {}
 
 private:
     void read_line(row_words& words, std::size_t row)
@@ -54,10 +61,6 @@ private:
     {
         std::string_view word;
         words.next(word);
-        if (is_word(word, "UNIT")) {
-            context_.follow_unit_words(words, row, units_);
-            return true;
-        }
         if (is_word(word, "ISOT"))
             return open(words, row);
         // What other kinds of materials have is not taken for that of the one before.
@@ -148,8 +151,7 @@ private:
 void read_materials(structure_reading& context)
 {
     material_names names(context.structure.materials);
-    for (const std::size_t statement : context.statements_of(Command::define_material))
-        material_block(context, names, statement);
+    each_block<material_block>(context, Command::define_material, names);
 }
 
 } // namespace STAAD::detail

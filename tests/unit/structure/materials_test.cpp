@@ -45,6 +45,7 @@ TEST(ReadMaterials, WithTheirConstants)
         const char* materials;
         const char* findings;
         const char* why;
+        double depth = 500.0; ///< mm, of a section of 0.5 after the block
     } cases[] = {
         {"material-constants",
          {"ISOTROPIC C30", "E 3e7", "POISSON 0.2", "DENSITY 25", "ALPHA 1e-05", "DAMP 0.05", "G 1.25e7"},
@@ -66,7 +67,8 @@ TEST(ReadMaterials, WithTheirConstants)
          {"ISOTROPIC A", "E 1e6", "UNIT MMS KN", "ISOTROPIC B", "E 200"},
          "A E=1; B E=200",
          "",
-         "a UNIT line within counts for the rest of the block"},
+         "a UNIT line within counts for what follows, in the block and after it",
+         0.5},
         {"material-definition",
          {"ISOTROPIC A", "E 1e6", "2DORTHOTROPIC W", "E 5e6", "ISOTROPIC B", "E 2e6"},
          "A E=1; B E=2",
@@ -101,7 +103,7 @@ TEST(ReadMaterials, WithTheirConstants)
             materials += (materials.empty() ? "" : "; ") + shown_material(material);
         EXPECT_EQ(materials, each.materials);
         EXPECT_EQ(test::warnings(read.report), each.findings);
-        EXPECT_EQ(read.structure.sections.at(0).values.at(0).value, 500.0) << "the unit outside stays";
+        EXPECT_EQ(read.structure.sections.at(0).values.at(0).value, each.depth);
     }
 }
 

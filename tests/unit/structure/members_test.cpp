@@ -42,6 +42,8 @@ TEST(ReadMembers, OfEveryForm)
          "copies of all before"},
         {"member-generation", "1 1 2\nREPEAT ALL 1 1 1\nREPEAT ALL 1 10 2", "1:1-2 2:2-3 11:3-4 12:4-5", "",
          "copies among them"},
+        {"member-generation", "1 1 2\nREPEAT ALL 1 10 2\nREPEAT 1 20 4", "1:1-2 11:3-4 21:5-6", "",
+         "copies of all are no part of the line before"},
         {"member-generation", "1 1 2\nREPEAT 1 10\nREPEAT 1 1.5 1\nREPEAT 1 1 1 1", "1:1-2",
          "line-unread@7 line-unread@8 line-unread@9", "two whole steps, no more"},
         {"member-generation", "REPEAT 1 1 1\n1 1 2", "1:1-2", "line-unread@6", "nothing to copy"},
